@@ -1,0 +1,16 @@
+# A layer is one folder of src/. It sees its own headers and those of the layers it names, and no
+# others: each layer's headers are reached through a link of their own, so that an include which
+# breaks the order of the folders does not compile.
+function(zkp_layer name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;USES;LINKS" ${ARGN})
+  set(view ${PROJECT_BINARY_DIR}/layers/${name})
+  file(MAKE_DIRECTORY ${view})
+  file(CREATE_LINK ${PROJECT_SOURCE_DIR}/src/${name} ${view}/${name} SYMBOLIC)
+
+  add_library(zkp_${name} OBJECT ${ARG_SOURCES})
+  target_include_directories(zkp_${name} PUBLIC $<BUILD_INTERFACE:${view}>)
+  target_link_libraries(zkp_${name} PUBLIC Qt6::Core ${ARG_LINKS})
+  foreach(used IN LISTS ARG_USES)
+    target_link_libraries(zkp_${name} PUBLIC zkp_${used})
+  endforeach()
+endfunction()

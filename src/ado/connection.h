@@ -1,0 +1,70 @@
+#pragma once
+
+#include "ado/constants.h"
+
+#include <QString>
+#include <QVariant>
+#include <QVariantList>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+namespace zkp::ado {
+
+class Provider;
+class Recordset;
+using RecordsetPtr = std::shared_ptr<Recordset>;
+
+/// A database connection. Every failure is an Error (see base/error.h) with the provider's own words.
+/// Used from the host's thread only; made with std::make_shared, since recordsets keep it alive.
+class Connection : public std::enable_shared_from_this<Connection> {
+public:
+    Connection();
+    ~Connection();
+
+    /// "sqlite:FILE" opens (never creates) a SQLite file; "sqlite:" with no name an empty one in memory.
+    /// An empty argument takes the property's text.
+    void Open(const QString& connectionString = {});
+    /// Ends the connection. Recordsets that are open stay readable; they can't be requeried.
+    void Close();
+    int State() const;
+
+    QString ConnectionString() const;
+    void setConnectionString(const QString& text);
+    /// Seconds that one statement may take, fetching included; 0 is no bound. 30 at the start.
+    int CommandTimeout() const;
+    void setCommandTimeout(int seconds);
+    /// ConnectModeEnum, before Open. adModeRead refuses all writing, except to the template and
+    /// settings tables (`frms`, `frms2`, `QRN_Main`).
+    int Mode() const;
+    void setMode(int mode);
+
+    /// Runs one statement at once. A statement without columns gives a closed recordset.
+    RecordsetPtr Execute(const QString& statement);
+    void BeginTrans();
+    void CommitTrans();
+    void RollbackTrans();
+    /// adSchemaColumns: COLUMN_NAME, TABLE_NAME, ORDINAL_POSITION, DATA_TYPE of the table that the
+    /// third restriction names (catalogue and schema are ignored); an unknown table gives no rows.
+    /// adSchemaTables: TABLE_NAME and TABLE_TYPE ("TABLE", "VIEW").
+    RecordsetPtr OpenSchema(int schema, const QVariantList& restrictions = {});
+
+    /// Called now and then during a fetch with the number of records read so far.
+    using FetchProgress = std::function<void(std::int64_t rows)>;
+    void setFetchProgress(FetchProgress callback);
+
+    /// The statement as the database received it last, after the dialect step.
+    QString LastStatementSent() const;
+
+    /// For the parts of data access only; Error when closed.
+    Provider& provider();
+
+private:
+    struct Data;
+    std::unique_ptr<Data> d;
+};
+
+using ConnectionPtr = std::shared_ptr<Connection>;
+
+} // namespace zkp::ado

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QString>
+
+/// Every text that a user can see, once, exactly as the office knows it.
+namespace zkp::texts {
+
+inline QString errorTitle() { return QStringLiteral("QRN Insurance"); }
+inline QString errorPrefix() { return QStringLiteral("Παρουσιάστικε Εξαίρεση : "); }
+/// The first letter is a Latin H, as wanted.
+inline QString columnExists() {
+    return QStringLiteral("H στήλη που επιλέξατε υπάρχει ήδη στη λίστα ή δεν είναι εγκυρη.");
+}
+inline QString readFailed() { return QStringLiteral("Σφάλμα κατά την ανάγνωση Data στο ZKP_GRID"); }
+/// What a column's heading becomes when the statement has no such field: "#" caption and this.
+inline QString missingFieldSuffix() { return QStringLiteral("# (Λάθος)"); }
+
+inline QString connectionNotSet() { return QStringLiteral("The Property Cn Hasn't Been set!"); }
+inline QString recordSourceNotSet() { return QStringLiteral("The Property RecordSource Hasn't Been set!"); }
+inline QString commandNotSet() {
+    return QStringLiteral("The Property RecordSource As ADODB.Command Hasn't Been set!");
+}
+inline QString hitBottom() { return QStringLiteral("HitBottom"); }
+
+} // namespace zkp::texts

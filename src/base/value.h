@@ -1,0 +1,18 @@
+#pragma once
+
+#include "base/report_locale.h"
+
+#include <QString>
+#include <QVariant>
+
+namespace zkp {
+
+/// A database value travels as a QVariant: invalid is null, and otherwise bool, qlonglong, double,
+/// Currency, QDateTime, QString or QByteArray. Null and the empty text stay apart.
+inline bool isNull(const QVariant& value) { return !value.isValid(); }
+
+/// A value's own text: integers plain, doubles with the locale's decimal sign, dates as its short
+/// date, Booleans "True" and "False", bytes as they read in UTF-8. A null gives the empty text.
+QString valueText(const QVariant& value, const ReportLocale& locale);
+
+} // namespace zkp
