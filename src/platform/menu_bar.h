@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace zkp {
+
+enum class ToolKind { Button, Check, List, Text, Label, Separator, SubMenu };
+
+/// One command of the menu bar. A tool may stand in several bands; its state is one.
+struct Tool {
+    QString Name;
+    QString Caption;
+    QString Category;
+    ToolKind kind = ToolKind::Button;
+    QString subBand; ///< the band that a SubMenu opens
+    bool Enabled = true;
+    bool Visible = true;
+    bool Checked = false;
+    QString Text;
+    QStringList list;
+    int ListIndex = -1;
+
+    int ListCount() const { return static_cast<int>(list.size()); }
+};
+
+/// A row of tools: the bar that stays on screen, a popup, a submenu.
+struct Band {
+    QString Name;
+    double Height = 0; ///< twips; a view sets it, or a script where there is none
+    std::vector<std::shared_ptr<Tool>> tools;
+
+    /// Without regard to case; Error kErrItemNotFound when there is none.
+    Tool& Tools(QStringView name) const;
+};
+
+/// The menu and template bar as a plain model: bands of tools, and what the user does with them.
+class MenuBar {
+public:
+    std::function<void(Tool&)> toolClicked;
+    std::function<void(Tool&)> listChanged;
+    std::function<void(Tool&)> textChanged;
+    /// For a view: something changed; and: open this band as a popup at the pointer.
+    std::function<void()> changed;
+    std::function<void(const Band&)> popupWanted;
+
+    bool Visible = true;
+
+    Band& addBand(const QString& name);
+    /// Puts the bar's tool of that name into the band, making it when it is new.
+    Tool& addTool(Band& band, const Tool& tool);
+    /// Without regard to case; Error kErrItemNotFound when there is none.
+    Band& Bands(QStringView name) const;
+    Tool& Tools(QStringView name) const;
+    bool hasTool(QStringView name) const;
+    const std::vector<std::unique_ptr<Band>>& bands() const { return bands_; }
+
+    /// Tells the view that tools changed.
+    void Refresh();
+    /// Opens a band as a popup menu; `lastPopup` keeps its name.
+    void popup(QStringView band);
+    const QString& lastPopup() const { return lastPopup_; }
+
+    // What a user does, as a view (or a script) reports it. A disabled tool does nothing.
+    void click(QStringView tool);
+    void changeList(QStringView tool, int index);
+    void changeText(QStringView tool, const QString& text);
+
+private:
+    std::vector<std::unique_ptr<Band>> bands_;
+    std::vector<std::shared_ptr<Tool>> tools_;
+    QString lastPopup_;
+};
+
+} // namespace zkp
