@@ -1,0 +1,31 @@
+#include "core/group_factors.h"
+
+#include "base/text.h"
+
+#include <algorithm>
+
+namespace zkp {
+
+short GroupFactorFlags::FindGroupNum() const {
+    short count = 0;
+    for (int number = 1; number <= columns_.Count(); ++number)
+        count += columns_.Item(number).ForTot ? 1 : 0;
+    return count;
+}
+
+void GroupFactorFlags::CheckGroupBy(int cols) {
+    state_.GroupFactorCount = 0;
+    QStringList fields;
+    for (int c = 0; c < cols; ++c) {
+        const Column& column = columns_.ofGridColumn(c);
+        if (!column.ForTot)
+            continue;
+        if (!isBlank(column.Datafield))
+            fields << column.Datafield;
+        ++state_.GroupFactorCount;
+    }
+    state_.Groupby = fields.join(u',');
+    events_.notify(QStringLiteral("Groupby"));
+}
+
+} // namespace zkp

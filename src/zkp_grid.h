@@ -1,0 +1,147 @@
+#pragma once
+
+#include "ado/recordset.h"
+#include "core/child_controls.h"
+#include "core/column_list.h"
+#include "core/enums.h"
+#include "core/events.h"
+#include "core/properties.def"
+#include "platform/host.h"
+
+#include <QLocale>
+#include <QObject>
+#include <QVariant>
+
+#include <functional>
+#include <memory>
+
+namespace zkp {
+
+/// The reporting grid: one object with the public names that hosts know. Give it a connection and a
+/// record source with Fill, call refresh, and the rows stand on `MSFlexGrid1`. ZkpGridWidget shows it;
+/// without a widget it works just as well.
+///
+/// Plain properties are Qt properties: `Filter()` reads, `setFilter(...)` writes. Indexed ones are a
+/// method to read and a `set...` method to write; columns and rows count from 0. Setters of saved
+/// properties report their key through `events().PropertyChanged`. Failures are zkp::Error unless a
+/// member says that it shows a box instead. One thread: the host's user-interface thread.
+class ZkpGrid : public QObject {
+    Q_OBJECT
+
+public:
+    /// Boxes and dialogs go to `host`; without one they are recorded and answered by a ScriptedHost.
+    explicit ZkpGrid(std::shared_ptr<Host> host = {}, QObject* parent = nullptr);
+    /// Ends the control (`UserControl_Terminate`), also from within one of its own events.
+    ~ZkpGrid() override;
+
+#define ZKP_READ_WRITE(Type, Name)                                                                           \
+    Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
+    Type Name() const;                                                                                       \
+    void set##Name(const Type& value);
+#define ZKP_KEYED(Type, Name, ...) ZKP_READ_WRITE(Type, Name)
+#define ZKP_WRITE_ONLY(Type, Name, ...) Q_INVOKABLE void set##Name(const Type& value);
+#define ZKP_INDEXED(Type, Name, ...)                                                                         \
+    Q_INVOKABLE Type Name(int index) const;                                                                  \
+    Q_INVOKABLE void set##Name(int index, const Type& value);
+
+    ZKP_SURFACE_PROPERTIES(ZKP_READ_WRITE)
+    ZKP_LOOK_PROPERTIES(ZKP_READ_WRITE)
+    ZKP_MEMBER_PROPERTIES(ZKP_KEYED)
+    ZKP_KEPT_MEMBERS(ZKP_KEYED)
+    ZKP_SILENT_PROPERTIES(ZKP_KEYED)
+    ZKP_PLAIN_MEMBERS(ZKP_KEYED)
+    ZKP_IDENTITY_PROPERTIES(ZKP_WRITE_ONLY)
+    ZKP_SURFACE_INDEXED(ZKP_INDEXED)
+    ZKP_COLUMN_PROPERTIES(ZKP_INDEXED)
+
+    // Properties that do more than their families.
+    ZKP_READ_WRITE(int, Rows)
+    ZKP_READ_WRITE(int, Cols)
+    ZKP_READ_WRITE(int, Row)
+    /// Text, RecordsetPtr or CommandPtr on writing, by `SourceType`; the open recordset on reading.
+    ZKP_READ_WRITE(QVariant, RecordSource)
+    /// Size of the control in twips, and its own pointer.
+    ZKP_READ_WRITE(double, Width)
+    ZKP_READ_WRITE(double, Height)
+    ZKP_READ_WRITE(int, MousePointer)
+    /// The report's locale: signs of numbers, form of dates. The application's default at the start.
+    ZKP_READ_WRITE(QLocale, Locale)
+
+    ZKP_INDEXED(int, ColAlignment)
+    ZKP_INDEXED(QString, ColCaption)
+    ZKP_INDEXED(bool, ColCredit)
+    ZKP_INDEXED(double, ColWidth)
+    Q_INVOKABLE QString TextMatrix(int row, int col) const;
+    Q_INVOKABLE void setTextMatrix(int row, int col, const QString& text);
+
+#undef ZKP_READ_WRITE
+#undef ZKP_KEYED
+#undef ZKP_WRITE_ONLY
+#undef ZKP_INDEXED
+
+    Q_PROPERTY(QString RecordsourceSTR READ RecordsourceSTR)
+    /// The text of the record source by the kind that it had when it was given.
+    QString RecordsourceSTR() const;
+    Q_PROPERTY(bool HasTotals READ HasTotals)
+    /// True for two or more group factors.
+    bool HasTotals() const;
+
+    ColumnList& Columns();
+    Events& events();
+    Host& host();
+
+    // Child controls under their own names.
+    GridSurface& MSFlexGrid1();
+    GridSurface& MSFlexGrid2();
+    GridSurface& MSFlexGrid3();
+    MenuBar& Picture1();
+    Button& cmdHide();
+    Label& lbltemplate();
+    Label& lblfilter();
+
+    /// Receives every failed check of refresh, in order, before the first of them is thrown.
+    void setErrorSink(std::function<void(const Error&)> sink);
+
+    /// Stores connection, source kind, source, user identity and remote flag, in this order, and looks
+    /// up the user's rights; loads nothing. Call refresh afterwards.
+    Q_INVOKABLE void Fill(const ado::ConnectionPtr& P_CN, const QVariant& P_RecordSource, int P_SourceType,
+                          const QString& P_ProductID = {}, int P_Remote = 0);
+    /// Checks what the source needs, then FillGrid. Throws the first failed check (kErrPropertyNotSet,
+    /// kErrCommandNotSet) and loads nothing then.
+    Q_INVOKABLE void refresh();
+    /// The load itself. A failure shows the error box; nothing is thrown.
+    Q_INVOKABLE void FillGrid();
+    /// Shows the report's shape without rows. Does nothing without `clmns` or `Cn`.
+    Q_INVOKABLE void PrepareEmptyGrid();
+
+    Q_INVOKABLE void Clear();
+    /// Drops all rows and leaves `MinRows` blank ones. Errors are passed over.
+    Q_INVOKABLE QVariant ClearGrid();
+    Q_INVOKABLE void AddItem(const QString& mitem, const QVariant& mindex = {});
+    Q_INVOKABLE void RemoveItem(int mindex);
+    /// Sets a flag that nothing reads: a load can't be stopped, as wanted. So does StopSearch.
+    Q_INVOKABLE void CancelLoad();
+    Q_INVOKABLE void StopSearch();
+
+    Q_INVOKABLE short FindGroupNum() const;
+    Q_INVOKABLE void CheckGroupBy();
+
+    // What the place that holds the control tells it.
+    Q_INVOKABLE void UserControl_Resize();
+    Q_INVOKABLE void UserControl_EnterFocus();
+    Q_INVOKABLE void UserControl_ExitFocus();
+    /// A handler may change the code; the code that is left comes back.
+    Q_INVOKABLE int UserControl_KeyDown(int KeyCode, int Shift);
+    Q_INVOKABLE int UserControl_KeyPress(int KeyAscii);
+    Q_INVOKABLE void UserControl_Terminate();
+
+private:
+    // Operations with no caller of their own; reached by name only.
+    Q_INVOKABLE bool FindAccountColumns();
+    Q_INVOKABLE void RecalcBalanceColumn();
+
+    struct Parts;
+    std::shared_ptr<Parts> parts_;
+};
+
+} // namespace zkp
