@@ -55,6 +55,11 @@ struct ReportState {
     bool CancelRequested = false;     ///< written by `CancelLoad`; nothing reads it, as wanted
     bool SearchStopRequested = false; ///< written by `StopSearch`; nothing reads it, as wanted
 
+    // The control's own size (twips) and pointer.
+    double Width = 0;
+    double Height = 0;
+    int MousePointer = 0;
+
     int LastClickedCol = 0;
     bool destroyed = false; ///< the control is gone; whoever still runs unwinds
 

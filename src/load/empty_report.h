@@ -1,0 +1,40 @@
+#pragma once
+
+#include "core/column_properties.h"
+#include "core/record_source.h"
+#include "load/load_hooks.h"
+#include "platform/host.h"
+#include "platform/menu_bar.h"
+#include "sql/dictionary.h"
+
+namespace zkp {
+
+/// Shows the report's shape without rows: headings, blank rows, dictionary and menus.
+class EmptyReport {
+public:
+    EmptyReport(ReportState& state, ColumnProperties& properties, GridSurface& surface, MenuBar& menu,
+                Dictionary& dictionary, Host& host, const LoadHooks& hooks)
+        : state_(state)
+        , properties_(properties)
+        , surface_(surface)
+        , menu_(menu)
+        , dictionary_(dictionary)
+        , host_(host)
+        , hooks_(hooks) {}
+
+    /// `PrepareEmptyGrid`. Does nothing without a dictionary or a connection.
+    void prepare();
+
+private:
+    void takeSpecialSource();
+
+    ReportState& state_;
+    ColumnProperties& properties_;
+    GridSurface& surface_;
+    MenuBar& menu_;
+    Dictionary& dictionary_;
+    Host& host_;
+    const LoadHooks& hooks_;
+};
+
+} // namespace zkp

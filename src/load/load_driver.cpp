@@ -1,0 +1,225 @@
+#include "load/load_driver.h"
+
+#include "base/number.h"
+#include "base/scope_guard.h"
+#include "base/text.h"
+#include "load/source_check.h"
+#include "support/utility.h"
+
+namespace zkp {
+
+namespace {
+
+Error objectNotSet(const QString& source) {
+    return Error(kErrObjectNotSet, QStringLiteral("Object variable not set"), source);
+}
+
+Error describe(const std::exception& failure) {
+    if (const auto* error = dynamic_cast<const Error*>(&failure))
+        return *error;
+    return Error(kErrInvalidCall, QString::fromUtf8(failure.what()));
+}
+
+} // namespace
+
+void LoadDriver::refresh(const ErrorSink& sink) {
+    host_.setPointer(kPointerHourglass);
+    const ScopeGuard restore([this] {
+        host_.setPointer(kPointerDefault);
+        state_.MousePointer = kPointerDefault;
+    });
+    const std::vector<Error> failed = failedSourceChecks(state_);
+    for (const Error& error : failed)
+        if (sink)
+            sink(error);
+    if (!failed.empty())
+        throw failed.front();
+    FillGrid();
+}
+
+void LoadDriver::FillGrid() {
+    if (loading_) {
+        reader_.breakOff();
+        ShowError(host_, Error(kErrIllegalOperation, QStringLiteral("A load is running already.")));
+        return;
+    }
+    loading_ = true;
+    const ScopeGuard restore([this] {
+        loading_ = false;
+        surface_.setRedraw(true);
+    });
+    try {
+        load();
+    } catch (const std::exception& failure) {
+        state_.throwIfDestroyed();
+        showFailure(describe(failure));
+    }
+}
+
+void LoadDriver::showFailure(const Error& error) {
+    host_.setPointer(kPointerDefault);
+    ShowError(host_, error);
+}
+
+void LoadDriver::load() {
+    surface_.setRedraw(true);
+    loadDictionary();
+    if (!state_.RefreshOnChange)
+        return; // the dictionary follows, the rows stay
+
+    state_.SavedLeftCol = surface_.LeftCol();
+    state_.SavedTopRow = surface_.TopRow();
+    if (!makeRecordset())
+        return;
+    const std::int64_t records = recordCount();
+    host_.setPointer(kPointerHourglass);
+    sizeSurface(toInt32(static_cast<double>(records)));
+    if (records > 0)
+        readRows();
+    host_.setPointer(kPointerDefault);
+    selectFirstRow();
+    surface_.Refresh();
+}
+
+void LoadDriver::loadDictionary() {
+    if (!dictionary_.isNamed())
+        return;
+    dictionary_.load();
+    LoadHooks::run(hooks_.DictionaryLoaded);
+}
+
+bool LoadDriver::makeRecordset() {
+    if (!state_.TotalForm)
+        openDetailRecordset();
+    else if (hooks_.OpenTotalRecordset)
+        hooks_.OpenTotalRecordset();
+    else
+        throw Error(kErrNotSupported, QStringLiteral("A totals report needs a statement builder."));
+
+    if (!state_.ReportRecordset)
+        return false;
+    if (state_.ReportRecordset->RecordCount() == 0) {
+        host_.setPointer(kPointerDefault);
+    } else {
+        surface_.setBackColor(surface_.BackColor());
+        surface_.setForeColor(surface_.ForeColor());
+        host_.runPendingEvents();
+        state_.throwIfDestroyed();
+    }
+    return true;
+}
+
+/// A failure here has a box of its own and leaves no record source.
+void LoadDriver::openDetailRecordset() {
+    try {
+        LoadHooks::run(hooks_.MakeFixedForGroup);
+        if (!state_.ReportRecordset)
+            state_.ReportRecordset = std::make_shared<ado::Recordset>();
+        if (!state_.Cn)
+            throw objectNotSet(QStringLiteral("Cn"));
+        const ado::ConnectionPtr connection = state_.Cn;
+        const std::int16_t timeout = toInt16(connection->CommandTimeout());
+        const ScopeGuard restore([&] { connection->setCommandTimeout(timeout); });
+        connection->setCommandTimeout(state_.CommandTimeout);
+        openBySourceType();
+    } catch (const std::exception& failure) {
+        state_.throwIfDestroyed();
+        state_.ReportRecordset.reset();
+        host_.msgBox(describe(failure).description(), kMsgBoxCritical);
+    }
+}
+
+void LoadDriver::openBySourceType() {
+    switch (state_.SourceType) {
+    case ZKP_SQLStatement:
+        openText(source_.text(), ado::adOpenStatic);
+        break;
+    case ZKP_Table_QUERY:
+        openText(detailStatement(), ado::adOpenKeyset);
+        break;
+    case ZKP_RecordSet: {
+        const QString text = source_.text();
+        if (isBlank(text))
+            openText(detailStatement(), ado::adOpenKeyset);
+        else
+            openText(text, ado::adOpenStatic);
+        state_.ReportRecordset->Requery();
+        break;
+    }
+    case ZKP_Command:
+        openCommand();
+        break;
+    default:
+        break; // nothing is opened; the closed recordset has no record count
+    }
+}
+
+void LoadDriver::openText(const QString& statement, int cursorType) {
+    ado::Recordset& records = *state_.ReportRecordset;
+    if (records.State() == ado::adStateOpen)
+        records.Close();
+    records.Open(statement, state_.Cn, cursorType);
+}
+
+QString LoadDriver::detailStatement() const {
+    if (!hooks_.DetailStatement)
+        throw Error(kErrNotSupported, QStringLiteral("A table or query needs a statement builder."));
+    return hooks_.DetailStatement();
+}
+
+/// The last result of the command that has records becomes the record source.
+void LoadDriver::openCommand() {
+    state_.ReportCommand->ActiveConnection = state_.Cn;
+    auto result = std::make_shared<ado::Recordset>();
+    result->Open(state_.ReportCommand, ado::adOpenStatic);
+    ado::RecordsetPtr last;
+    for (; result; result = result->NextRecordset())
+        if (result->State() == ado::adStateOpen)
+            last = result;
+    state_.ReportRecordset = last;
+    if (last && last->RecordCount() > 0) {
+        last->MoveFirst();
+        if (!state_.ProductID.isEmpty() && hooks_.CommandFilter)
+            last->setFilter(hooks_.CommandFilter());
+    }
+}
+
+std::int64_t LoadDriver::recordCount() const {
+    const ado::RecordsetPtr records = state_.ReportRecordset;
+    if (!records)
+        throw objectNotSet(QStringLiteral("RecordSource"));
+    if (!state_.SqlOnRunTime)
+        return state_.RecCount == -1 ? 0 : records->RecordCount();
+    if (!isBlank(state_.RKeyname) && !state_.TotalForm)
+        LoadHooks::run(hooks_.RunTimeSQLCounter); // built for its effect on `Filter`; not run, as wanted
+    return RecordsetIsEmpty(records, host_) ? 0 : records->RecordCount();
+}
+
+void LoadDriver::sizeSurface(int records) {
+    surface_.setRows(surface_.FixedRows());
+    surface_.setRows(std::max(records + 1, surface_.FixedRows()));
+    state_.RowCapacity = records + 1;
+    state_.RecCount = records;
+}
+
+void LoadDriver::readRows() {
+    surface_.setTopRow(std::min(1, surface_.Rows() - 1));
+    Tool& count = menu_.Bands(u"BndTemplate").Tools(u"txtRecs");
+    count.Text = QString::number(state_.RecCount, 'f', 0) + QStringLiteral("# ");
+    menu_.Refresh();
+    state_.LoadFinished = false;
+    reader_.LoadRows();
+    LoadHooks::run(hooks_.DrawInterface);
+    state_.throwIfDestroyed();
+}
+
+void LoadDriver::selectFirstRow() {
+    const int first = surface_.FixedRows();
+    if (surface_.Rows() <= 1 || first >= surface_.Rows() || surface_.RowData(first) != ZKPSingleRow)
+        return;
+    surface_.setRow(first);
+    LoadHooks::run(hooks_.Selectrow);
+    state_.throwIfDestroyed();
+}
+
+} // namespace zkp

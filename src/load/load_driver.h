@@ -1,0 +1,65 @@
+#pragma once
+
+#include "core/events.h"
+#include "core/record_source.h"
+#include "load/load_hooks.h"
+#include "load/row_reader.h"
+#include "platform/grid_surface.h"
+#include "platform/host.h"
+#include "platform/menu_bar.h"
+#include "sql/dictionary.h"
+
+#include <functional>
+
+namespace zkp {
+
+/// The road from the host's call to the last painted row: checks the source, loads the dictionary,
+/// opens the records, sizes the surface and hands over to the row reader. One call loads everything.
+class LoadDriver {
+public:
+    using ErrorSink = std::function<void(const Error&)>;
+
+    LoadDriver(ReportState& state, GridSurface& surface, MenuBar& menu, Dictionary& dictionary,
+               RowReader& reader, Host& host, const LoadHooks& hooks)
+        : state_(state)
+        , source_(state)
+        , surface_(surface)
+        , menu_(menu)
+        , dictionary_(dictionary)
+        , reader_(reader)
+        , host_(host)
+        , hooks_(hooks) {}
+
+    /// The checked entry. Every failed check goes to the sink in order; then the first is thrown.
+    void refresh(const ErrorSink& sink);
+    /// The load itself. A failure ends it with the error box. Called again while it runs (by a handler
+    /// or a pending event), it shows a box and does nothing else.
+    void FillGrid();
+
+private:
+    void load();
+    void loadDictionary();
+    bool makeRecordset();
+    void openDetailRecordset();
+    void openBySourceType();
+    void openText(const QString& statement, int cursorType);
+    void openCommand();
+    QString detailStatement() const;
+    std::int64_t recordCount() const;
+    void sizeSurface(int records);
+    void readRows();
+    void selectFirstRow();
+    void showFailure(const Error& error);
+
+    ReportState& state_;
+    RecordSource source_;
+    GridSurface& surface_;
+    MenuBar& menu_;
+    Dictionary& dictionary_;
+    RowReader& reader_;
+    Host& host_;
+    const LoadHooks& hooks_;
+    bool loading_ = false;
+};
+
+} // namespace zkp

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace zkp {
+
+/// What a load asks, at fixed points, of parts that stand beside or above it. The front door fills
+/// in what exists; a hook that is empty does nothing, unless it says otherwise.
+struct LoadHooks {
+    // Statements.
+    std::function<void()> LoadIerarxia;             ///< the user's level, when an identity was given
+    std::function<void()> DictionaryLoaded;         ///< builds the field list and the field menus
+    std::function<QString()> DetailStatement;       ///< empty: a source without text of its own is an error
+    std::function<void()> OpenTotalRecordset;       ///< empty: a totals report is an error
+    std::function<void()> RunTimeSQLCounter;        ///< its text is not run
+    std::function<QString()> CommandFilter;         ///< the user's rights as a recordset filter
+
+    // Group rows and totals.
+    std::function<void()> MakeFixedForGroup;
+    std::function<void()> InitTotalsGrid;
+    std::function<void(double& r)> AccumulateRow;
+    std::function<void()> FinishTotals;
+    std::function<QString(const QString& field, int r)> PercentOfParent;
+
+    // Painting and marking.
+    std::function<void()> DrawInterface;
+    std::function<void()> Selectrow;
+
+    /// Runs a hook that may be empty.
+    template <class Hook, class... Args>
+    static void run(const Hook& hook, Args&&... args) {
+        if (hook)
+            hook(std::forward<Args>(args)...);
+    }
+};
+
+} // namespace zkp

@@ -1,0 +1,35 @@
+#include "load/source_check.h"
+
+#include "base/texts.h"
+
+namespace zkp {
+
+std::vector<Error> failedSourceChecks(const ReportState& state) {
+    const QString source = QStringLiteral("ZkpGrid.refresh");
+    const auto needConnection = [&](std::vector<Error>& failed) {
+        if (!state.Cn)
+            failed.emplace_back(kErrPropertyNotSet, texts::connectionNotSet(), source);
+    };
+
+    std::vector<Error> failed;
+    switch (state.SourceType) {
+    case ZKP_SQLStatement:
+    case ZKP_Table_QUERY:
+        needConnection(failed);
+        break;
+    case ZKP_RecordSet:
+        if (!state.ReportRecordset)
+            failed.emplace_back(kErrPropertyNotSet, texts::recordSourceNotSet(), source);
+        break;
+    case ZKP_Command:
+        if (!state.ReportCommand)
+            failed.emplace_back(kErrCommandNotSet, texts::commandNotSet(), source);
+        needConnection(failed);
+        break;
+    default:
+        break;
+    }
+    return failed;
+}
+
+} // namespace zkp

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "base/error.h"
+#include "core/report_state.h"
+
+#include <vector>
+
+namespace zkp {
+
+/// What the record source still lacks before a load, in the order of the checks. A missing command
+/// does not end the checks: a source of that kind can fail twice. Kinds of 4 and more pass unchecked.
+std::vector<Error> failedSourceChecks(const ReportState& state);
+
+} // namespace zkp

@@ -1,0 +1,50 @@
+#include "sql/dictionary.h"
+
+#include "base/text.h"
+
+namespace zkp {
+
+bool Dictionary::isNamed() const { return !isBlank(state_.clmns); }
+
+ado::RecordsetPtr Dictionary::recordset() {
+    if (!recordset_)
+        recordset_ = std::make_shared<ado::Recordset>();
+    return recordset_;
+}
+
+void Dictionary::load() {
+    if (!isNamed())
+        return;
+    const ado::RecordsetPtr rows = recordset();
+    if (rows->State() == ado::adStateClosed)
+        open(whereClause());
+    else if (rows->RecordCount() > 0)
+        rows->MoveFirst();
+}
+
+void Dictionary::loadForEmptyReport() {
+    const ado::RecordsetPtr rows = recordset();
+    if (rows->State() == ado::adStateOpen)
+        rows->Close();
+    open(state_.TotalForm
+             ? QStringLiteral(" where visbl=1 and (isGroup or [Sum] or [Avg] or [Min] or [Max]) order by cptn")
+             : QStringLiteral(" where visbl = 1  order by cptn"));
+}
+
+/// The blanks are as the statements have always had them.
+QString Dictionary::whereClause() const {
+    const bool restricted = !state_.ProductID.isEmpty();
+    if (!state_.TotalForm)
+        return restricted ? QStringLiteral(" where visbl = 1 and IsPublic <> 0 order by cptn")
+                          : QStringLiteral(" where visbl = 1  order by cptn");
+    const QString aggregates = QStringLiteral(
+        " and (isGroup = 1 or [Sum] = 1 or [Avg] = 1 or [Min] =1  or [Max] = 1) order by cptn");
+    return (restricted ? QStringLiteral(" where visbl = 1 and IsPublic <> 0") : QStringLiteral(" where visbl = 1")) +
+           aggregates;
+}
+
+void Dictionary::open(const QString& where) {
+    recordset()->Open(QStringLiteral("Select * from ") + state_.clmns + where, state_.Cn, ado::adOpenStatic);
+}
+
+} // namespace zkp
