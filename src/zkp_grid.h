@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/recordset.h"
+#include "base/error.h"
 #include "core/child_controls.h"
 #include "core/column_list.h"
 #include "core/enums.h"

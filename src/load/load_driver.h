@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/error.h"
 #include "core/events.h"
 #include "core/record_source.h"
 #include "load/load_hooks.h"

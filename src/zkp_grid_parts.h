@@ -1,0 +1,47 @@
+#pragma once
+
+#include "core/account_columns.h"
+#include "core/child_controls.h"
+#include "core/column_properties.h"
+#include "core/group_factors.h"
+#include "core/record_source.h"
+#include "core/report_state.h"
+#include "load/empty_report.h"
+#include "load/load_driver.h"
+#include "load/row_reader.h"
+#include "sql/dictionary.h"
+#include "ui/lifecycle.h"
+#include "ui/surface_events.h"
+#include "zkp_grid.h"
+
+namespace zkp {
+
+/// The parts of one control, each built with what it may touch. Operations hold a reference of their
+/// own while they run, so that a handler may destroy the control under them.
+struct ZkpGrid::Parts {
+    explicit Parts(std::shared_ptr<Host> givenHost);
+
+    std::shared_ptr<Host> host;
+    ReportState state;
+    ColumnList columns;
+    Events events;
+    ChildControls children;
+    LoadHooks hooks;
+    std::function<void(const Error&)> errorSink;
+
+    GridSurface& surface;
+    ColumnProperties columnProperties;
+    GroupFactorFlags groupFactors;
+    AccountColumns accountColumns;
+    zkp::RecordSource source;
+    Dictionary dictionary;
+    RowReader reader;
+    LoadDriver driver;
+    EmptyReport emptyReport;
+    Lifecycle lifecycle;
+    SurfaceEvents surfaceEvents;
+
+    void setCols(int count);
+};
+
+} // namespace zkp

@@ -1,0 +1,180 @@
+#include "zkp_grid.h"
+
+#include "base/number.h"
+#include "base/report_locale.h"
+#include "zkp_grid_parts.h"
+
+#include <algorithm>
+
+// The accessors that come from the property list, family by family, and the few that do more.
+
+namespace zkp {
+
+#define ZKP_SURFACE(Type, Name)                                                                              \
+    Type ZkpGrid::Name() const { return parts_->surface.Name(); }                                            \
+    void ZkpGrid::set##Name(const Type& value) {                                                             \
+        const auto parts = parts_;                                                                           \
+        parts->surface.set##Name(value);                                                                     \
+        parts->events.notify(QStringLiteral(#Name));                                                         \
+    }
+ZKP_SURFACE_PROPERTIES(ZKP_SURFACE)
+
+#define ZKP_LOOK(Type, Name)                                                                                 \
+    Type ZkpGrid::Name() const { return parts_->surface.look().Name; }                                       \
+    void ZkpGrid::set##Name(const Type& value) {                                                             \
+        const auto parts = parts_;                                                                           \
+        GridSurface::Look look = parts->surface.look();                                                      \
+        look.Name = value;                                                                                   \
+        parts->surface.setLook(look);                                                                        \
+        parts->events.notify(QStringLiteral(#Name));                                                         \
+    }
+ZKP_LOOK_PROPERTIES(ZKP_LOOK)
+
+#define ZKP_SURFACE_BY_INDEX(Type, Name)                                                                     \
+    Type ZkpGrid::Name(int index) const { return parts_->surface.Name(index); }                              \
+    void ZkpGrid::set##Name(int index, const Type& value) {                                                  \
+        const auto parts = parts_;                                                                           \
+        parts->surface.set##Name(index, value);                                                              \
+        parts->events.notify(QStringLiteral(#Name));                                                         \
+    }
+ZKP_SURFACE_INDEXED(ZKP_SURFACE_BY_INDEX)
+
+#define ZKP_MEMBER(Type, Name, Key, ...)                                                                     \
+    Type ZkpGrid::Name() const { return parts_->state.Name; }                                                \
+    void ZkpGrid::set##Name(const Type& value) {                                                             \
+        const auto parts = parts_;                                                                           \
+        parts->state.Name = value;                                                                           \
+        parts->events.notify(QStringLiteral(Key));                                                           \
+    }
+ZKP_MEMBER_PROPERTIES(ZKP_MEMBER)
+
+#define ZKP_SILENT(Type, Name, ...)                                                                          \
+    Type ZkpGrid::Name() const { return parts_->state.Name; }                                                \
+    void ZkpGrid::set##Name(const Type& value) { parts_->state.Name = value; }
+ZKP_SILENT_PROPERTIES(ZKP_SILENT)
+ZKP_PLAIN_MEMBERS(ZKP_SILENT)
+
+#define ZKP_WRITE_ONLY(Type, Name, ...)                                                                      \
+    void ZkpGrid::set##Name(const Type& value) { parts_->state.Name = value; }
+ZKP_IDENTITY_PROPERTIES(ZKP_WRITE_ONLY)
+
+#define ZKP_COLUMN(Type, Name, ...)                                                                          \
+    Type ZkpGrid::Name(int index) const { return parts_->columnProperties.Name(index); }                     \
+    void ZkpGrid::set##Name(int index, const Type& value) {                                                  \
+        const auto parts = parts_;                                                                           \
+        parts->columnProperties.set##Name(index, value);                                                     \
+    }
+ZKP_COLUMN_PROPERTIES(ZKP_COLUMN)
+ZKP_COLUMN(int, ColAlignment)
+ZKP_COLUMN(QString, ColCaption)
+ZKP_COLUMN(bool, ColCredit)
+ZKP_COLUMN(double, ColWidth)
+
+#define ZKP_READ_KEPT(Type, Name, ...)                                                                       \
+    Type ZkpGrid::Name() const { return parts_->state.Name; }
+ZKP_KEPT_MEMBERS(ZKP_READ_KEPT)
+
+// The heading row takes its font at once.
+#define ZKP_HEADING_FONT(Type, Name, attribute)                                                              \
+    void ZkpGrid::set##Name(const Type& value) {                                                             \
+        const auto parts = parts_;                                                                           \
+        parts->state.Name = value;                                                                           \
+        StylePatch heading;                                                                                  \
+        heading.attribute = value;                                                                           \
+        if (parts->surface.FixedRows() > 0)                                                                  \
+            parts->surface.applyStyle({0, 0, parts->surface.FixedRows() - 1, parts->surface.Cols() - 1},     \
+                                      heading);                                                              \
+        parts->events.notify(QStringLiteral(#Name));                                                         \
+    }
+ZKP_HEADING_FONT(QString, FixedFontName, fontName)
+ZKP_HEADING_FONT(double, FixedFontSize, fontSize)
+ZKP_HEADING_FONT(bool, FixedFontBold, bold)
+ZKP_HEADING_FONT(bool, FixedFontItalic, italic)
+ZKP_HEADING_FONT(bool, FixedFontUnderline, underline)
+
+/// A frozen first data row is painted at once, cell by cell.
+void ZkpGrid::setFreezeBackColor(const Color& value) {
+    const auto parts = parts_;
+    GridSurface& surface = parts->surface;
+    parts->state.FreezeBackColor = value;
+    if (parts->state.FrozenRow && surface.FixedRows() < surface.Rows()) {
+        surface.setRow(surface.FixedRows());
+        for (int c = 0; c < surface.Cols(); ++c) {
+            surface.setCol(c);
+            surface.setCellBackColor(value);
+        }
+    }
+    parts->events.notify(QStringLiteral("FreezeBackColor"));
+}
+
+/// Also the floor of the surface's rows.
+void ZkpGrid::setMinRows(const double& value) {
+    const auto parts = parts_;
+    parts->state.MinRows = value;
+    if (const int floor = toInt32(value); parts->surface.Rows() < floor)
+        parts->surface.setRows(floor);
+    parts->events.notify(QStringLiteral("MinRows"));
+}
+
+void ZkpGrid::setRefreshOnChange(const bool& value) {
+    const auto parts = parts_;
+    parts->state.RefreshOnChange = value;
+    parts->events.notify(QStringLiteral("Refreshonchange"));
+}
+
+int ZkpGrid::Rows() const { return parts_->surface.Rows(); }
+
+void ZkpGrid::setRows(const int& value) {
+    const auto parts = parts_;
+    parts->surface.setRows(value);
+    if (parts->surface.Rows() == parts->surface.FixedRows())
+        parts->state.PreRow = 0;
+    parts->events.notify(QStringLiteral("Rows"));
+}
+
+int ZkpGrid::Cols() const { return parts_->surface.Cols(); }
+
+void ZkpGrid::setCols(const int& value) {
+    const auto parts = parts_;
+    parts->setCols(value);
+}
+
+int ZkpGrid::Row() const { return parts_->surface.Row(); }
+
+/// A row beyond the last first makes that many rows; the row one past them is then dropped without a
+/// word, and the row count has still grown, as wanted.
+void ZkpGrid::setRow(const int& value) {
+    const auto parts = parts_;
+    try {
+        if (value > parts->surface.Rows() - 1)
+            parts->surface.setRows(value);
+    } catch (const Error&) {
+    }
+    try {
+        parts->surface.setRow(value);
+    } catch (const Error&) {
+    }
+    parts->events.notify(QStringLiteral("Row"));
+}
+
+QVariant ZkpGrid::RecordSource() const { return QVariant::fromValue(parts_->source.get()); }
+void ZkpGrid::setRecordSource(const QVariant& value) { parts_->source.set(value); }
+
+double ZkpGrid::Width() const { return parts_->state.Width; }
+void ZkpGrid::setWidth(const double& value) { parts_->state.Width = value; }
+double ZkpGrid::Height() const { return parts_->state.Height; }
+void ZkpGrid::setHeight(const double& value) { parts_->state.Height = value; }
+int ZkpGrid::MousePointer() const { return parts_->state.MousePointer; }
+void ZkpGrid::setMousePointer(const int& value) { parts_->state.MousePointer = value; }
+QLocale ZkpGrid::Locale() const { return parts_->surface.locale().locale(); }
+void ZkpGrid::setLocale(const QLocale& value) { parts_->surface.setLocale(ReportLocale(value)); }
+
+QString ZkpGrid::TextMatrix(int row, int col) const { return parts_->surface.TextMatrix(row, col); }
+
+void ZkpGrid::setTextMatrix(int row, int col, const QString& text) {
+    const auto parts = parts_;
+    parts->surface.setTextMatrix(row, col, text);
+    parts->events.notify(QStringLiteral("TextMatrix"));
+}
+
+} // namespace zkp
