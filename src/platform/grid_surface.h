@@ -1,8 +1,9 @@
 #pragma once
 
 #include "base/report_locale.h"
+#include "platform/cell_binding.h"
+#include "platform/cell_range.h"
 #include "platform/style.h"
-#include "store/column.h"
 
 #include <QString>
 #include <QVariant>
@@ -13,20 +14,6 @@
 #include <vector>
 
 namespace zkp {
-
-/// How the text of a cell is made from a record's value.
-enum class CellFormat : std::uint8_t {
-    Blank,    ///< always the empty text
-    OwnText,  ///< the value's own text; a null gives the empty text
-    Grouped2, ///< the number in "#,##0.00"; a null counts as 0
-    Grouped0, ///< the number in "#,##0"; a null counts as 0
-};
-
-/// Where the cells of one column come from, for the records bound with one layout.
-struct CellBinding {
-    std::shared_ptr<const store::Column> column; ///< may be null for Blank
-    CellFormat format = CellFormat::Blank;
-};
 
 /// Codes of `Sort`.
 enum SurfaceSort {
@@ -40,15 +27,6 @@ enum SurfaceSort {
     kSortTextUp = 7,
     kSortTextDown = 8,
     kSortCustom = 9,
-};
-
-/// A block of cells, corners included.
-struct CellRange {
-    int top = 0;
-    int left = 0;
-    int bottom = 0;
-    int right = 0;
-    bool operator==(const CellRange&) const = default;
 };
 
 /// One mouse notification: coordinates in twips, row and column those under the pointer (-1 outside).
@@ -85,10 +63,10 @@ struct SurfaceNotifications {
 /// What a view wants to hear. Called at every change unless `Redraw` is off; when it comes back on,
 /// one `changed` covers all that happened meanwhile.
 struct SurfaceView {
-    std::function<void()> changed;             ///< anything: sizes, texts, styles, selection
-    std::function<void(int row)> rowChanged;   ///< only this row (else `changed` is called)
-    std::function<void()> scrolled;            ///< only `TopRow` or `LeftCol`
-    std::function<void()> focusWanted;         ///< SetFocus
+    std::function<void()> changed;           ///< anything: sizes, texts, styles, selection
+    std::function<void(int row)> rowChanged; ///< only this row (else `changed` is called)
+    std::function<void()> scrolled;          ///< only `TopRow` or `LeftCol`
+    std::function<void()> focusWanted;       ///< SetFocus
 };
 
 /// A table of text cells with row and column tags, styles, selection, merge, scroll position and
@@ -159,8 +137,8 @@ public:
     void bindRow(int row, LayoutId layout, std::uint32_t tableRow, int rowData);
     /// The same for `count` rows from `firstRow` on, for records `tableRow(0)`, `tableRow(1)`...; with
     /// an empty function for consecutive records from 0. All rows must exist. Cost: count.
-    void bindRows(int firstRow, int count, LayoutId layout,
-                  const std::function<std::uint32_t(int)>& tableRow, int rowData);
+    void bindRows(int firstRow, int count, LayoutId layout, const std::function<std::uint32_t(int)>& tableRow,
+                  int rowData);
 
     // --- Columns.
     int ColWidth(int col) const;

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "base/report_locale.h"
+#include "platform/cell_binding.h"
+
+#include <QString>
+
+namespace zkp {
+
+/// The text that a bound cell shows. A record past the column's end shows nothing. In the grouped
+/// formats a text that is a number in the locale counts as that number and any other shows as it is;
+/// True counts as -1, a date as its days since 30 December 1899.
+QString boundText(const CellBinding& binding, std::size_t record, const ReportLocale& locale);
+
+} // namespace zkp

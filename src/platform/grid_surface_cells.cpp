@@ -1,0 +1,96 @@
+#include "platform/grid_surface.h"
+
+#include "base/error.h"
+#include "platform/cell_text.h"
+#include "platform/grid_surface_data.h"
+
+namespace zkp {
+
+QString GridSurface::Data::cellText(int row, int col) const {
+    const RowId id = order.at(row);
+    if (id == kNoRow)
+        return {};
+    ++costs.textsMade;
+    const ColumnId column = columns.id(col);
+    if (const std::optional<QString> own = texts.text(id, column))
+        return *own;
+    const RowRecord& record = rows.at(id);
+    if (record.layout == 0)
+        return {};
+    const Layout& layout = layouts[record.layout - 1u];
+    return column < layout.size() ? boundText(layout[column], record.record, locale) : QString();
+}
+
+/// A blank text needs no place where nothing would show anyway.
+void GridSurface::Data::writeText(int row, int col, const QString& text) {
+    if (text.isEmpty() && order.at(row) == kNoRow)
+        return;
+    const RowId id = touch(row);
+    const ColumnId column = columns.id(col);
+    ++costs.rowsTouched;
+    if (text.isEmpty() && rows.at(id).layout == 0)
+        texts.erase(id, column);
+    else
+        texts.write(id, column, text);
+}
+
+QString GridSurface::TextMatrix(int row, int col) const {
+    d->checkRow(row);
+    d->checkCol(col);
+    return d->cellText(row, col);
+}
+
+void GridSurface::setTextMatrix(int row, int col, const QString& text) {
+    d->checkRow(row);
+    d->checkCol(col);
+    d->writeText(row, col, text);
+    d->rowChanged(row);
+}
+
+namespace {
+
+/// Row and column of a flat index.
+std::pair<int, int> cellOf(int index, const GridSurface& surface) {
+    const std::int64_t cells = std::int64_t{surface.Rows()} * surface.Cols();
+    if (index < 0 || index >= cells)
+        throw Error(kErrInvalidArrayIndex, QStringLiteral("There is no cell %1").arg(index));
+    return {index / surface.Cols(), index % surface.Cols()};
+}
+
+} // namespace
+
+QString GridSurface::TextArray(int index) const {
+    const auto [row, col] = cellOf(index, *this);
+    return TextMatrix(row, col);
+}
+
+void GridSurface::setTextArray(int index, const QString& text) {
+    const auto [row, col] = cellOf(index, *this);
+    setTextMatrix(row, col, text);
+}
+
+QString GridSurface::Text() const {
+    return TextMatrix(d->cursor.row, d->cursor.col);
+}
+
+void GridSurface::setText(const QString& text) {
+    const CellRange block = d->filledBlock();
+    d->checkRow(block.bottom);
+    d->checkCol(block.right);
+    for (int row = block.top; row <= block.bottom; ++row)
+        for (int col = block.left; col <= block.right; ++col)
+            d->writeText(row, col, text);
+    if (block.top == block.bottom)
+        d->rowChanged(block.top);
+    else
+        d->changed();
+}
+
+/// What the Cell... properties and Text write to.
+CellRange GridSurface::Data::filledBlock() const {
+    if (fillStyle == 1)
+        return cursor.selection();
+    return {cursor.row, cursor.col, cursor.row, cursor.col};
+}
+
+} // namespace zkp

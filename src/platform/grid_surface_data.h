@@ -1,0 +1,98 @@
+#pragma once
+
+#include "platform/grid_surface.h"
+#include "platform/own_texts.h"
+#include "platform/row_sequence.h"
+#include "platform/row_table.h"
+#include "platform/style_layers.h"
+#include "platform/surface_columns.h"
+#include "platform/surface_cursor.h"
+
+#include <unordered_set>
+
+namespace zkp {
+
+/// The parts of a surface, and the few steps that need several of them.
+struct GridSurface::Data {
+    explicit Data(GridSurface& owner)
+        : surface(owner) {}
+
+    using Layout = std::vector<CellBinding>; // by column id
+
+    GridSurface& surface;
+    ReportLocale locale;
+
+    RowSequence order;
+    RowTable rows;
+    SurfaceColumns columns;
+    OwnTexts texts;
+    StyleLayers styles;
+    std::vector<Layout> layouts; // LayoutId - 1
+    std::unordered_set<RowId> mergedRows;
+    SurfaceCursor cursor;
+    int fixedRows = 1;
+    int fixedCols = 0;
+    int rowHeight = 255; // twips, of rows without a height of their own
+    int visibleRows = 0;
+    int mergeCells = 0;
+    int fillStyle = 0;
+    int mouseRow = -1;
+    int mouseCol = -1;
+    bool redraw = true;
+    bool changePending = false;
+    bool sorting = false;
+    std::uint64_t orderChanges = 0; // counts whatever moves, adds or removes rows
+
+    CellStyle own; // colours of the body and font as set on the surface, whatever cells were given since
+    Color fixedBack = systemColor(kSysButtonFace);
+    Color fixedFore = systemColor(kSysButtonText);
+    Look look;
+    Place place;
+    mutable Costs costs;
+
+    SurfaceShape shape() const { return {order.size(), columns.size(), fixedRows, fixedCols}; }
+    void checkRow(int row) const {
+        if (static_cast<unsigned>(row) >= static_cast<unsigned>(order.size()))
+            failRow(row);
+    }
+    void checkCol(int col) const {
+        if (static_cast<unsigned>(col) >= static_cast<unsigned>(columns.size()))
+            failCol(col);
+    }
+    [[noreturn]] static void failRow(int row);
+    [[noreturn]] static void failCol(int col);
+
+    /// The row's id; a trailing blank (and the blanks before it) become rows with an id.
+    RowId touch(int row);
+    RowId idOf(int row) const {
+        checkRow(row);
+        return order.at(row);
+    }
+    const RowRecord& recordOf(int row) const;
+
+    QString cellText(int row, int col) const;
+    void writeText(int row, int col, const QString& text);
+    void applyPiece(const StylePiece& piece, const StylePatch& patch);
+    CellRange filledBlock() const;
+
+    void setRowCount(int count);
+    void dropBody();
+    void removeRows(int first, int count);
+    void forgetRun(const RowRun& run);
+    void dropUnusedLayouts();
+
+    /// Puts the cursor there and tells whoever listens what really moved.
+    void moveCursor(const SurfaceCursor& next);
+    void changed();
+    void rowChanged(int row);
+    void scrolled();
+
+    /// Calls a copy, since the function may put another one in its place while it runs.
+    template <class F, class... Args>
+    static void raise(F function, Args&&... args) {
+        if (function)
+            function(args...);
+    }
+};
+
+} // namespace zkp
