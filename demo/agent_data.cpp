@@ -24,10 +24,15 @@ Agent agentNumber(int number, int branches, Random& random) {
     return agent;
 }
 
-/// An agency bears the surname of its first producer.
+/// An agency bears the surname of its first producer, and a number where others bear it already.
 std::string agencyName(int agentNumber) {
-    const std::string founder = personName(agentNumber / 3 * 3);
-    return "Πρακτορείο " + founder.substr(0, founder.find(' '));
+    const int agency = agentNumber / 3;
+    const int namesakes = agency / static_cast<int>(surnames().size());
+    const std::string founder = personName(agency * 3);
+    std::string text = "Πρακτορείο " + founder.substr(0, founder.find(' '));
+    if (namesakes > 0)
+        text += ' ' + std::to_string(namesakes + 1);
+    return text;
 }
 
 } // namespace

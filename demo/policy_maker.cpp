@@ -190,7 +190,7 @@ Claim PolicyMaker::oneClaim(const Policy& policy) {
     claim.number = "Ζ" + std::to_string(year) + "-" + padded(++claimId_, 6);
     claim.cause = random_.pick(kCauses);
     claim.injured = std::max(0, random_.lowBelow(40) - 32);
-    const Money estimate = share(policy.net, random_.between(200, 600) + 12 * random_.lowBelow(500));
+    const Money estimate = share(policy.net, random_.between(300, 900) + 30 * random_.lowBelow(500));
     if (!random_.chance(30))
         claim.estimate = estimate;
     const Money settled = share(estimate, random_.between(500, 1150));
