@@ -3,17 +3,20 @@
 #include "ado/constants.h"
 
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QVariantList>
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace zkp::ado {
 
 class Provider;
 class Recordset;
+class ResultStream;
 using RecordsetPtr = std::shared_ptr<Recordset>;
 
 /// A database connection. Every failure is an Error (see base/error.h) with the provider's own words.
@@ -47,18 +50,31 @@ public:
     void RollbackTrans();
     /// adSchemaColumns: COLUMN_NAME, TABLE_NAME, ORDINAL_POSITION, DATA_TYPE of the table that the
     /// third restriction names (catalogue and schema are ignored); an unknown table gives no rows.
-    /// adSchemaTables: TABLE_NAME and TABLE_TYPE ("TABLE", "VIEW").
+    /// adSchemaTables: TABLE_NAME and TABLE_TYPE ("TABLE", "VIEW"). adSchemaViews: the same, of views.
     RecordsetPtr OpenSchema(int schema, const QVariantList& restrictions = {});
 
     /// Called now and then during a fetch with the number of records read so far.
     using FetchProgress = std::function<void(std::int64_t rows)>;
     void setFetchProgress(FetchProgress callback);
 
+    /// What a registered procedure gives: field names and records.
+    struct ProcedureTable {
+        QStringList names;
+        std::vector<QVariantList> rows;
+    };
+    using Procedure = std::function<ProcedureTable(const QVariantList& arguments)>;
+    /// `exec NAME 'a', 2` calls the function, ahead of a procedure that the database keeps under
+    /// that name.
+    void registerProcedure(const QString& name, Procedure function);
+
     /// The statement as the database received it last, after the dialect step.
     QString LastStatementSent() const;
 
     /// For the parts of data access only; Error when closed.
     Provider& provider();
+    /// For the parts of data access only: starts a text, of one statement or of several.
+    enum class Statements { One, Several };
+    std::unique_ptr<ResultStream> start(const QString& text, Statements statements);
 
 private:
     struct Data;

@@ -12,10 +12,13 @@
 
 namespace zkp::ado {
 
+struct Result;
+
 /// The fields of an open recordset, by position from 0 or by name without regard to case.
 class FieldList {
 public:
-    explicit FieldList(Recordset& owner) : owner_(&owner) {}
+    explicit FieldList(Recordset& owner)
+        : owner_(&owner) {}
     int Count() const;
     /// Error 3265 when there is no such field.
     Field Item(int index) const;
@@ -39,8 +42,8 @@ public:
 
     /// Runs a statement and fetches every record. Error 3705 when open already, 3709 without an open
     /// connection, kErrBadStatement for a text that the database cannot take (the empty one too).
-    void Open(const QString& source, const ConnectionPtr& connection, int cursorType = -1,
-              int lockType = -1, int options = -1);
+    void Open(const QString& source, const ConnectionPtr& connection, int cursorType = -1, int lockType = -1,
+              int options = -1);
     /// Runs a command on its own connection; the further results are reached by NextRecordset.
     void Open(const CommandPtr& command, int cursorType = -1, int lockType = -1, int options = -1);
     void Close();
@@ -94,11 +97,27 @@ public:
     /// Grows whenever the set or the order of records changes (Open, Close, Filter, Sort, Requery, Update).
     std::uint64_t revision() const;
 
+    /// How many rows filters have looked at one by one, over all clones; for tests of the index.
+    std::uint64_t rowsWalked() const;
+
 private:
     friend class Field;
     friend class FieldList;
     friend class Connection;
     struct Data;
+
+    /// Becomes the open recordset of a result, or a closed one for a result without fields.
+    void adopt(Result result, const ConnectionPtr& connection);
+    void openText(const QString& text, const ConnectionPtr& connection, bool several);
+    void arrange();
+    void moveTo(std::int64_t position);
+    QVariant fieldValue(int field) const;
+    void setFieldValue(int field, const QVariant& value);
+    void setPending(const QString& name, const QVariant& value);
+    void openEdit(bool isNew);
+    void insertRecord();
+    void updateRecord();
+
     std::unique_ptr<Data> d;
 };
 

@@ -40,6 +40,13 @@ public:
     /// The value as a host sees it (see base/value.h). Bytes that are not UTF-8 are replaced.
     QVariant value(std::size_t row) const;
 
+    /// Where the column keeps repeated texts once: the number that stands for this row's text, below
+    /// textCodes(), so that a test of the text can be made once per number. kNoTextCode for a row
+    /// that is no text or is kept whole.
+    virtual std::uint32_t textCode(std::size_t row) const = 0;
+    virtual std::uint32_t textCodes() const = 0;
+    static constexpr std::uint32_t kNoTextCode = UINT32_MAX;
+
     /// Bytes that the column occupies, for the memory figures.
     virtual std::size_t memoryUsed() const = 0;
 };

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "store/table.h"
+
+#include <QString>
+#include <QStringList>
+#include <QVariantList>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace zkp::ado {
+
+/// One field of a result, as the published properties tell it.
+struct FieldInfo {
+    QString name;
+    int type = 0; ///< DataTypeEnum
+    int definedSize = 0;
+};
+
+/// The fields and records of one statement; no fields at all for a statement that gives none.
+struct Result {
+    std::vector<FieldInfo> fields;
+    store::Table table;
+};
+
+/// What bounds and watches one statement.
+struct RunOptions {
+    int timeoutSeconds = 0;                     ///< 0 is no bound
+    std::function<void(std::int64_t)> progress; ///< may throw: the fetch ends, the error reaches the caller
+};
+
+/// The results that one statement gives (a stored procedure may give several), fetched one by one.
+class ResultStream {
+public:
+    virtual ~ResultStream() = default;
+    /// The next result with all its records; nothing after the last.
+    virtual std::optional<Result> next() = 0;
+};
+
+/// The table behind the records of a plain select of one table, for editing them. Rows are known
+/// by a key of the provider's own.
+class BaseTable {
+public:
+    virtual ~BaseTable() = default;
+    virtual bool hasColumn(const QString& name) const = 0;
+    /// The table's column behind a field of the select list; empty for an expression.
+    virtual QString columnOfField(int field) const = 0;
+
+    /// The statement's records as they are now, the key of each as an additional last column.
+    virtual Result recordsWithKeys() = 0;
+    /// Writes inside a transaction with bound parameters. `insert` gives the new row's key.
+    virtual QVariant insert(const QStringList& columns, const QVariantList& values) = 0;
+    virtual void update(const QVariant& key, const QStringList& columns, const QVariantList& values) = 0;
+    /// The select list's values of one row, as `recordsWithKeys` would give them, without the key.
+    virtual Result record(const QVariant& key) = 0;
+};
+
+/// A kind of database. Everything that Connection and Recordset ask of one is here; failures are
+/// Errors with the database's own words.
+class Provider {
+public:
+    virtual ~Provider() = default;
+
+    /// Starts one statement, in the words of the report builders: what this database needs to
+    /// understand it is done here.
+    virtual std::unique_ptr<ResultStream> start(const QString& statement, const RunOptions& options) = 0;
+    /// The text that the database received last.
+    virtual QString lastStatementSent() const = 0;
+
+    virtual void begin() = 0;
+    virtual void commit() = 0;
+    virtual void rollback() = 0;
+
+    /// Nothing when the statement is no plain select of one table.
+    virtual std::unique_ptr<BaseTable> baseTable(const QString& statement, const RunOptions& options) = 0;
+
+    /// The answer of Connection::OpenSchema; a null name asks for all tables.
+    virtual Result schema(int schema, const std::optional<QString>& table) = 0;
+};
+
+} // namespace zkp::ado

@@ -1,0 +1,153 @@
+#include "ado/sqlite/fetch.h"
+
+namespace zkp::ado::sqlite {
+
+namespace {
+
+constexpr std::size_t kBatchesOnTheWay = 6;
+constexpr std::size_t kRowsBetweenReports = 10'000;
+
+} // namespace
+
+Fetch::Fetch(std::shared_ptr<Database> database, Statement& statement, Deadline deadline,
+             const RunOptions& options)
+    : database_(std::move(database))
+    , statement_(statement)
+    , deadline_(deadline)
+    , options_(options)
+    , builders_(static_cast<std::size_t>(statement.columnCount())) {
+    const Turn turn(*database_);
+    for (int column = 0; column < statement.columnCount(); ++column)
+        declared_.push_back(declaredType(sqlite3_column_decltype(statement.handle(), column)));
+}
+
+Fetch::~Fetch() {
+    if (!stepper_.joinable())
+        return;
+    {
+        const std::lock_guard lock(mutex_);
+        cancelled_ = true;
+    }
+    changed_.notify_all();
+    // The stepper may be deep in a join that gives no row for long.
+    sqlite3_interrupt(database_->handle());
+    stepper_.join();
+}
+
+Result Fetch::run() {
+    auto first = std::make_unique<RowBatch>(statement_.columnCount());
+    fill(*first);
+    store(*first);
+    if (first->failure)
+        throw *first->failure;
+    if (!first->isLast)
+        runOverlapped();
+    return finish();
+}
+
+/// Takes rows until the batch is full or the statement ends.
+void Fetch::fill(RowBatch& batch) {
+    batch.clear();
+    const Turn turn(*database_, deadline_);
+    while (!batch.isFull()) {
+        const int code = sqlite3_step(statement_.handle());
+        if (code == SQLITE_ROW) {
+            batch.addRow(statement_.handle());
+            continue;
+        }
+        batch.isLast = true;
+        if (code != SQLITE_DONE)
+            batch.failure = database_->failure(code);
+        return;
+    }
+}
+
+void Fetch::store(const RowBatch& batch) {
+    const std::size_t before = rows_;
+    for (std::size_t column = 0; column < builders_.size(); ++column)
+        batch.appendTo(builders_[column], static_cast<int>(column), declared_[column].storage);
+    rows_ += batch.rows();
+    if (options_.progress && rows_ / kRowsBetweenReports != before / kRowsBetweenReports)
+        options_.progress(static_cast<std::int64_t>(rows_));
+}
+
+void Fetch::runOverlapped() {
+    for (std::size_t i = 0; i < kBatchesOnTheWay; ++i)
+        free_.push_back(std::make_unique<RowBatch>(statement_.columnCount()));
+    stepper_ = std::thread(&Fetch::stepAll, this);
+    bool last = false;
+    while (!last) {
+        BatchPtr batch = takeFilled();
+        store(*batch);
+        if (batch->failure)
+            throw *batch->failure;
+        last = batch->isLast;
+        giveFree(std::move(batch));
+    }
+    stepper_.join();
+}
+
+void Fetch::stepAll() {
+    for (;;) {
+        BatchPtr batch = takeFree();
+        if (!batch)
+            return;
+        try {
+            fill(*batch);
+        } catch (const std::exception& e) {
+            batch->failure.emplace(kErrDatabase, QString::fromUtf8(e.what()));
+        }
+        const bool last = batch->isLast || batch->failure;
+        giveFilled(std::move(batch));
+        if (last)
+            return;
+    }
+}
+
+Fetch::BatchPtr Fetch::takeFilled() {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [this] { return !filled_.empty(); });
+    BatchPtr batch = std::move(filled_.front());
+    filled_.pop_front();
+    return batch;
+}
+
+/// Nothing when the fetch has been given up.
+Fetch::BatchPtr Fetch::takeFree() {
+    std::unique_lock lock(mutex_);
+    changed_.wait(lock, [this] { return cancelled_ || !free_.empty(); });
+    if (cancelled_)
+        return nullptr;
+    BatchPtr batch = std::move(free_.front());
+    free_.pop_front();
+    return batch;
+}
+
+void Fetch::giveFilled(BatchPtr batch) {
+    {
+        const std::lock_guard lock(mutex_);
+        filled_.push_back(std::move(batch));
+    }
+    changed_.notify_all();
+}
+
+void Fetch::giveFree(BatchPtr batch) {
+    {
+        const std::lock_guard lock(mutex_);
+        free_.push_back(std::move(batch));
+    }
+    changed_.notify_all();
+}
+
+Result Fetch::finish() {
+    Result result;
+    result.table.rows = rows_;
+    for (std::size_t column = 0; column < builders_.size(); ++column) {
+        const char* name = sqlite3_column_name(statement_.handle(), static_cast<int>(column));
+        result.fields.push_back(fieldInfo(QString::fromUtf8(name), declared_[column], builders_[column]));
+        result.table.columns.push_back(builders_[column].finish());
+    }
+    return result;
+}
+
+} // namespace zkp::ado::sqlite

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "ado/sqlite/row_batch.h"
+#include "ado/sqlite/statement.h"
+
+#include <condition_variable>
+#include <deque>
+#include <memory>
+#include <thread>
+
+namespace zkp::ado::sqlite {
+
+/// Fetches all rows of a bound statement into columns. Long results are stepped through on a
+/// thread of their own while the calling thread fills the columns and reports progress.
+class Fetch {
+public:
+    Fetch(std::shared_ptr<Database> database, Statement& statement, Deadline deadline,
+          const RunOptions& options);
+    ~Fetch();
+    Fetch(const Fetch&) = delete;
+    Fetch& operator=(const Fetch&) = delete;
+
+    Result run();
+
+private:
+    using BatchPtr = std::unique_ptr<RowBatch>;
+
+    void fill(RowBatch& batch);
+    void store(const RowBatch& batch);
+    void reportProgress(std::size_t before);
+    void runOverlapped();
+    void stepAll();
+    BatchPtr takeFilled();
+    BatchPtr takeFree();
+    void giveFilled(BatchPtr batch);
+    void giveFree(BatchPtr batch);
+    Result finish();
+
+    std::shared_ptr<Database> database_;
+    Statement& statement_;
+    Deadline deadline_;
+    const RunOptions& options_;
+    std::vector<Declared> declared_;
+    std::vector<store::ColumnBuilder> builders_;
+    std::size_t rows_ = 0;
+
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::deque<BatchPtr> filled_;
+    std::deque<BatchPtr> free_;
+    bool cancelled_ = false;
+    std::thread stepper_;
+};
+
+} // namespace zkp::ado::sqlite
