@@ -32,7 +32,6 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , surfaceEvents(state, columnProperties, surface, events, *host) {
     buildMenuBands(children.Picture1);
     columnProperties.resize(surface.Cols());
-    surfaceEvents.connect();
     lifecycle.initProperties();
 }
 
@@ -46,13 +45,14 @@ void ZkpGrid::Parts::setCols(int count) {
 }
 
 ZkpGrid::ZkpGrid(std::shared_ptr<Host> host, QObject* parent)
-    : QObject(parent), parts_(std::make_shared<Parts>(std::move(host))) {}
+    : QObject(parent), parts_(std::make_shared<Parts>(std::move(host))) {
+    parts_->surfaceEvents.connect(parts_);
+}
 
 ZkpGrid::~ZkpGrid() {
     UserControl_Terminate();
     parts_->state.destroyed = true;
     parts_->events.blockSignals(true);
-    parts_->surface.notifications = {};
 }
 
 ColumnList& ZkpGrid::Columns() { return parts_->columns; }
@@ -126,10 +126,14 @@ QVariant ZkpGrid::ClearGrid() {
     return {};
 }
 
+/// The mark comes off first, so that it does not travel with the insertion.
 void ZkpGrid::AddItem(const QString& mitem, const QVariant& mindex) {
-    parts_->surface.AddItem(mitem, mindex.isValid() ? toInt32(mindex) : -1);
+    const auto parts = parts_;
+    LoadHooks::run(parts->hooks.RedrawRow, parts->state.PreRow);
+    parts->surface.AddItem(mitem, mindex.isValid() ? toInt32(mindex) : -1);
 }
 
+/// The mark is left as it is, unlike in AddItem; wanted.
 void ZkpGrid::RemoveItem(int mindex) { parts_->surface.RemoveItem(mindex); }
 void ZkpGrid::CancelLoad() { parts_->state.CancelRequested = true; }
 void ZkpGrid::StopSearch() { parts_->state.SearchStopRequested = true; }

@@ -27,6 +27,7 @@ struct LoadHooks {
     // Painting and marking.
     std::function<void()> DrawInterface;
     std::function<void()> Selectrow;
+    std::function<void(double row)> RedrawRow; ///< takes the mark off a row
 
     /// Runs a hook that may be empty.
     template <class Hook, class... Args>

@@ -1,6 +1,7 @@
 #include "ui/surface_events.h"
 
 #include "base/texts.h"
+#include "core/keep_alive.h"
 
 namespace zkp {
 
@@ -11,12 +12,22 @@ constexpr int kCtrl = 2;
 
 } // namespace
 
-void SurfaceEvents::connect() {
+void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
+    const auto guarded = [this, owner](auto handler) {
+        return [this, owner, handler](auto&&... arguments) {
+            const std::shared_ptr<void> alive = owner.lock();
+            if (!alive || state_.destroyed)
+                return;
+            handler(arguments...);
+            if (state_.destroyed)
+                releaseLater(alive); // the surface itself is still at work below
+        };
+    };
     SurfaceNotifications& on = surface_.notifications;
-    on.click = [this] { click(); };
-    on.dblClick = [this] { Q_EMIT events_.DblClick(); };
-    on.keyDown = [this](int& code, int shift) { keyDown(code, shift); };
-    on.columnResized = [this](int col) { properties_.setColWidth(col, surface_.ColWidth(col)); };
+    on.click = guarded([this] { click(); });
+    on.dblClick = guarded([this] { Q_EMIT events_.DblClick(); });
+    on.keyDown = guarded([this](int& code, int shift) { keyDown(code, shift); });
+    on.columnResized = guarded([this](int col) { properties_.setColWidth(col, surface_.ColWidth(col)); });
 }
 
 void SurfaceEvents::click() {

@@ -6,6 +6,8 @@
 #include "platform/grid_surface.h"
 #include "platform/host.h"
 
+#include <memory>
+
 namespace zkp {
 
 /// What the control does with the notifications of the visible surface.
@@ -14,8 +16,9 @@ public:
     SurfaceEvents(ReportState& state, ColumnProperties& properties, GridSurface& surface, Events& events, Host& host)
         : state_(state), properties_(properties), surface_(surface), events_(events), host_(host) {}
 
-    /// Takes the surface's notifications.
-    void connect();
+    /// Takes the surface's notifications. `owner` keeps everything here alive while one of them runs,
+    /// since a handler may destroy the control.
+    void connect(const std::weak_ptr<void>& owner);
 
 private:
     void click();
