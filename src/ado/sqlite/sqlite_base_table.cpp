@@ -1,10 +1,149 @@
 #include "ado/sqlite/sqlite_base_table.h"
 
+#include "ado/constants.h"
+#include "ado/dialect/sqlite_rewrite.h"
+#include "ado/sqlite/field_types.h"
+#include "ado/sqlite/plain_select.h"
+#include "ado/sqlite/run.h"
+#include "base/text.h"
+
+#include <QDateTime>
+#include <QHash>
+
 namespace zkp::ado::sqlite {
 
-std::unique_ptr<BaseTable> openBaseTable(const std::shared_ptr<Database>&, const QString&,
-                                         const RunOptions&) {
-    return nullptr;
+namespace {
+
+QString quoted(const QString& name) {
+    return u'"' + QString(name).replace(u'"', QStringLiteral("\"\"")) + u'"';
+}
+
+/// The columns of a table with what they were declared as; empty when it is no table.
+QHash<QString, std::pair<QString, Declared>> tableColumns(const std::shared_ptr<Database>& database,
+                                                          const QString& table) {
+    QHash<QString, std::pair<QString, Declared>> columns;
+    Statement query(database, QStringLiteral("SELECT c.name, c.type FROM sqlite_schema s JOIN "
+                                             "pragma_table_info(s.name) c WHERE s.type = 'table' "
+                                             "AND s.name = ?1 COLLATE NOCASE"));
+    query.bind({table});
+    const Turn turn(*database);
+    while (query.step()) {
+        const Declared declared = declaredType(query.text(1).toUtf8().constData());
+        columns.insert(nameKey(query.text(0)), {query.text(0), declared});
+    }
+    return columns;
+}
+
+class SqliteBaseTable final : public BaseTable {
+public:
+    SqliteBaseTable(std::shared_ptr<Database> database, PlainSelect select, RunOptions options,
+                    QHash<QString, std::pair<QString, Declared>> columns)
+        : database_(std::move(database))
+        , select_(std::move(select))
+        , options_(std::move(options))
+        , columns_(std::move(columns)) {
+        // One row's select list: TOP and the key have no place there, the rest is the statement's.
+        rowStatement_ = dialect::rewriteForSqlite(select_.beforeFrom + QStringLiteral("FROM ") +
+                                                  select_.source + QStringLiteral(" WHERE _rowid_ = ?1"));
+        const Statement statement(database_, rowStatement_);
+        for (int i = 0; i < statement.columnCount(); ++i)
+            fieldColumns_.push_back(QString::fromUtf8(sqlite3_column_origin_name(statement.handle(), i)));
+    }
+
+    bool hasColumn(const QString& name) const override { return columns_.contains(nameKey(name)); }
+    QString columnOfField(int field) const override { return fieldColumns_.value(field); }
+
+    Result recordsWithKeys() override {
+        const QString sql = select_.beforeFrom + QStringLiteral(", _rowid_ ") + select_.fromOn;
+        return runStatement(database_, dialect::rewriteForSqlite(sql), {}, options_);
+    }
+
+    QVariant insert(const QStringList& columns, const QVariantList& values) override {
+        QStringList names;
+        QStringList places;
+        for (const QString& column : columns) {
+            names << quoted(columns_.value(nameKey(column)).first);
+            places << QStringLiteral("?");
+        }
+        const QString what =
+            columns.isEmpty() ? QStringLiteral(" DEFAULT VALUES")
+                              : QStringLiteral(" (%1) VALUES (%2)").arg(names.join(u','), places.join(u','));
+        write(QStringLiteral("INSERT INTO ") + quoted(select_.table) + what, stored(columns, values));
+        const Turn turn(*database_);
+        return QVariant::fromValue<qlonglong>(sqlite3_last_insert_rowid(database_->handle()));
+    }
+
+    void update(const QVariant& key, const QStringList& columns, const QVariantList& values) override {
+        QStringList settings;
+        for (const QString& column : columns)
+            settings << quoted(columns_.value(nameKey(column)).first) + QStringLiteral("=?");
+        QVariantList parameters = stored(columns, values);
+        parameters << key;
+        write(QStringLiteral("UPDATE %1 SET %2 WHERE _rowid_=?")
+                  .arg(quoted(select_.table), settings.join(u',')),
+              parameters);
+    }
+
+    Result record(const QVariant& key) override {
+        Result result = runStatement(database_, rowStatement_, {key}, options_);
+        if (result.table.rows != 1)
+            throw Error(kErrDatabase, QStringLiteral("The row is no longer there."));
+        return result;
+    }
+
+private:
+    /// A column declared as a date takes no time of day.
+    QVariantList stored(const QStringList& columns, const QVariantList& values) const {
+        QVariantList list = values;
+        for (qsizetype i = 0; i < list.size(); ++i) {
+            const bool isDate = columns_.value(nameKey(columns[i])).second.type == adDBDate;
+            if (isDate && list[i].typeId() == QMetaType::QDateTime)
+                list[i] = list[i].toDateTime().date();
+        }
+        return list;
+    }
+
+    /// Writes one row or nothing. A savepoint works inside the host's transaction and outside.
+    void write(const QString& sql, const QVariantList& parameters) {
+        const Turn turn(*database_, Deadline::in(options_.timeoutSeconds));
+        database_->setLastStatement(sql);
+        Statement statement(database_, sql);
+        statement.bind(parameters);
+        database_->execute("SAVEPOINT zkp_write");
+        try {
+            while (statement.step()) {
+            }
+            if (sqlite3_changes(database_->handle()) != 1)
+                throw Error(kErrDatabase, QStringLiteral("The row is no longer there."));
+            sqlite3_reset(statement.handle());
+            database_->execute("RELEASE zkp_write");
+        } catch (...) {
+            sqlite3_reset(statement.handle());
+            sqlite3_exec(database_->handle(), "ROLLBACK TO zkp_write; RELEASE zkp_write", nullptr, nullptr,
+                         nullptr);
+            throw;
+        }
+    }
+
+    std::shared_ptr<Database> database_;
+    PlainSelect select_;
+    RunOptions options_;
+    QHash<QString, std::pair<QString, Declared>> columns_; ///< by name key
+    QString rowStatement_;
+    QStringList fieldColumns_;
+};
+
+} // namespace
+
+std::unique_ptr<BaseTable> openBaseTable(const std::shared_ptr<Database>& database, const QString& statement,
+                                         const RunOptions& options) {
+    auto select = parsePlainSelect(statement);
+    if (!select)
+        return nullptr;
+    auto columns = tableColumns(database, select->table);
+    if (columns.isEmpty())
+        return nullptr;
+    return std::make_unique<SqliteBaseTable>(database, std::move(*select), options, std::move(columns));
 }
 
 } // namespace zkp::ado::sqlite

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace zkp::ado::sqlite {
+
+/// A select of one table without grouping: each record is one row of the table.
+struct PlainSelect {
+    QString table;      ///< without signs
+    QString beforeFrom; ///< the statement up to its FROM
+    QString fromOn;     ///< FROM and what follows
+    QString source;     ///< the table as the statement names it, with its alias
+};
+
+/// Nothing when the statement is anything else.
+std::optional<PlainSelect> parsePlainSelect(const QString& statement);
+
+} // namespace zkp::ado::sqlite
