@@ -260,11 +260,11 @@ RecordsetPtr Recordset::NextRecordset() {
         return nullptr;
     auto stream = std::move(d->further);
     const ConnectionPtr connection = d->connection;
-    if (d->records)
-        Close();
     auto result = stream->next();
     if (!result)
         return nullptr;
+    if (d->records)
+        Close();
     auto next = std::make_shared<Recordset>();
     next->d->source = d->source;
     next->d->command = d->command;

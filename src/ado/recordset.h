@@ -75,7 +75,8 @@ public:
     /// Another cursor over the same records, unfiltered, on the first of them.
     RecordsetPtr Clone();
     void Requery();
-    /// The next result of a command, or nothing after the last. This recordset then closes.
+    /// The next result of a command; this recordset then closes. Nothing after the last result, which
+    /// stays open.
     RecordsetPtr NextRecordset();
 
     void AddNew();

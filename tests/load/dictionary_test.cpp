@@ -1,0 +1,148 @@
+#include "load_fixture.h"
+#include "sql/dictionary.h"
+
+using namespace Qt::StringLiterals;
+using namespace zkp;
+
+namespace {
+
+/// A dictionary with one row for each mixture of flags that the statements tell apart.
+class DictionaryTest : public testing::Test {
+protected:
+    DictionaryTest() {
+        state.Cn = std::make_shared<ado::Connection>();
+        state.Cn->Open(u"sqlite:"_s);
+        state.Cn->Execute(u"create table CLMNS (dtfld text, Cptn text, visbl integer, IsPublic integer, "
+                          "isGroup integer, [Sum] integer, [Avg] integer, [Min] integer, [Max] integer)"_s);
+        state.Cn->Execute(u"insert into CLMNS values ('PLAIN','β',1,1,0,0,0,0,0), ('SECRET','α',1,0,0,0,0,0,0),"
+                          "('HIDDEN','γ',0,1,1,1,0,0,0), ('GROUP','ε',1,1,1,0,0,0,0), ('SUMS','δ',1,0,0,1,0,0,0)"_s);
+        state.clmns = u"CLMNS"_s;
+    }
+
+    QStringList keys() {
+        QStringList keys;
+        const auto rows = dictionary.recordset();
+        if (rows->RecordCount() > 0)
+            for (rows->MoveFirst(); !rows->Eof(); rows->MoveNext())
+                keys << rows->Fields().Item(u"dtfld").Value().toString();
+        return keys;
+    }
+
+    ReportState state;
+    Dictionary dictionary{state};
+};
+
+} // namespace
+
+TEST_F(DictionaryTest, TheStatementGoesByModeAndUser) {
+    const struct {
+        bool totals;
+        QString user;
+        QString statement;
+        QStringList keys;
+    } cases[] = {
+        {false, u""_s, u"Select * from CLMNS where visbl = 1  order by cptn"_s,
+         {u"SECRET"_s, u"PLAIN"_s, u"SUMS"_s, u"GROUP"_s}},
+        {false, u"7"_s, u"Select * from CLMNS where visbl = 1 and IsPublic <> 0 order by cptn"_s,
+         {u"PLAIN"_s, u"GROUP"_s}},
+        {true, u""_s,
+         u"Select * from CLMNS where visbl = 1 and (isGroup = 1 or [Sum] = 1 or [Avg] = 1 or [Min] =1  or [Max] = 1) order by cptn"_s,
+         {u"SUMS"_s, u"GROUP"_s}},
+        {true, u"7"_s,
+         u"Select * from CLMNS where visbl = 1 and IsPublic <> 0 and (isGroup = 1 or [Sum] = 1 or [Avg] = 1 or [Min] =1  or [Max] = 1) order by cptn"_s,
+         {u"GROUP"_s}},
+    };
+    for (const auto& c : cases) {
+        dictionary.release();
+        state.TotalForm = c.totals;
+        state.ProductID = c.user;
+        dictionary.load();
+        EXPECT_EQ(dictionary.recordset()->Source(), c.statement);
+        EXPECT_EQ(keys(), c.keys);
+    }
+}
+
+TEST_F(DictionaryTest, RowsThatAreOpenAreReusedFromTheFirst) {
+    dictionary.load();
+    keys();
+    const auto rows = dictionary.recordset();
+    state.Cn->Execute(u"delete from CLMNS"_s);
+    state.TotalForm = true;
+    dictionary.load();
+    EXPECT_EQ(dictionary.recordset(), rows);
+    EXPECT_EQ(rows->AbsolutePosition(), 1);
+    EXPECT_EQ(keys().size(), 4);
+}
+
+TEST_F(DictionaryTest, ABlankNameMeansNoDictionary) {
+    state.clmns = u"  "_s;
+    dictionary.load();
+    EXPECT_EQ(dictionary.recordset()->State(), ado::adStateClosed);
+}
+
+TEST_F(DictionaryTest, TheEmptyReportAsksInTheBooleanDialect) {
+    state.TotalForm = true;
+    dictionary.loadForEmptyReport();
+    EXPECT_EQ(dictionary.recordset()->Source(),
+              u"Select * from CLMNS where visbl=1 and (isGroup or [Sum] or [Avg] or [Min] or [Max]) order by cptn"_s);
+    EXPECT_EQ(keys(), (QStringList{u"SUMS"_s, u"GROUP"_s}));
+    state.TotalForm = false;
+    dictionary.loadForEmptyReport();
+    EXPECT_EQ(dictionary.recordset()->Source(), u"Select * from CLMNS where visbl = 1  order by cptn"_s);
+}
+
+using DictionaryLoadTest = LoadTest;
+
+TEST_F(DictionaryLoadTest, TheDictionaryFollowsEvenWhenRowsAreFrozen) {
+    grid->setclmns(u"NOWHERE"_s);
+    grid->setRefreshOnChange(false);
+    fill();
+    grid->refresh();
+    EXPECT_EQ(host->messages.size(), 1u); // it was asked for
+}
+
+TEST_F(DictionaryLoadTest, AMissingDictionaryShowsTheErrorBox) {
+    grid->setclmns(u"NOWHERE"_s);
+    fill();
+    grid->refresh();
+    ASSERT_EQ(host->messages.size(), 1u);
+    EXPECT_EQ(host->messages[0].style, 48); // a statement that the database could not take
+    EXPECT_EQ(host->messages[0].title, u"QRN Insurance"_s);
+}
+
+TEST_F(DictionaryLoadTest, AnEmptyReportShowsHeadingsAndMinRows) {
+    connection->Execute(u"create table CLMNS (dtfld text, cptn text, visbl integer)"_s);
+    columns({u"POLICYID"_s, u"AGENTNAME"_s});
+    fill();
+    grid->refresh();
+    grid->setclmns(u"CLMNS"_s);
+    grid->setMinRows(6);
+    grid->PrepareEmptyGrid();
+    EXPECT_EQ(grid->Rows(), 6);
+    EXPECT_EQ(grid->TextMatrix(0, 1), u"AGENTNAME"_s);
+    EXPECT_EQ(grid->TextMatrix(1, 0), u""_s);
+    EXPECT_EQ(grid->Col(), 0);
+    EXPECT_TRUE(host->messages.empty());
+}
+
+TEST_F(DictionaryLoadTest, AnEmptyReportNeedsADictionaryAndAConnection) {
+    fill();
+    columns({u"POLICYID"_s});
+    grid->refresh();
+    grid->PrepareEmptyGrid();
+    EXPECT_EQ(grid->Rows(), 4);
+}
+
+TEST_F(DictionaryLoadTest, TheSpecialSourceReplacesTheRecordSourceWhereItExists) {
+    connection->Execute(u"create table CLMNS (dtfld text, cptn text, visbl integer)"_s);
+    connection->Execute(u"create view SpecialPolicies as select * from POLICIES"_s);
+    grid->setclmns(u"CLMNS"_s);
+    fill();
+    grid->setspecialinfo(true);
+    grid->setspecialrecordsource(u"Nowhere"_s);
+    grid->PrepareEmptyGrid();
+    EXPECT_EQ(grid->RecordsourceSTR(), u"select * from POLICIES order by POLICYID"_s);
+    grid->setspecialrecordsource(u" specialpolicies "_s);
+    grid->PrepareEmptyGrid();
+    EXPECT_EQ(grid->RecordsourceSTR(), u" specialpolicies "_s);
+}

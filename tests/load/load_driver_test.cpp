@@ -1,0 +1,228 @@
+#include "load_fixture.h"
+
+using namespace Qt::StringLiterals;
+using namespace zkp;
+
+using LoadDriverTest = LoadTest;
+
+TEST_F(LoadDriverTest, FillAloneShowsNothing) {
+    columns({u"AGENTNAME"_s});
+    const int rows = grid->Rows();
+    fill();
+    EXPECT_EQ(grid->Rows(), rows);
+    EXPECT_EQ(grid->RecCount(), 0);
+}
+
+TEST_F(LoadDriverTest, FillStoresWhatItIsGiven) {
+    grid->Fill(connection, u"POLICIES"_s, ZKP_Table_QUERY);
+    EXPECT_EQ(grid->Cn(), connection);
+    EXPECT_EQ(grid->SourceType(), ZKP_Table_QUERY);
+    EXPECT_EQ(grid->RecordsourceSTR(), u"POLICIES"_s);
+}
+
+TEST_F(LoadDriverTest, ALoadSizesTheSurfaceToTheRecordsAndOneHeadingRow) {
+    columns({u"POLICYID"_s});
+    fill();
+    grid->refresh();
+    EXPECT_EQ(grid->Rows(), 4);
+    EXPECT_EQ(grid->RecCount(), 3);
+    EXPECT_EQ(grid->Row(), 1);
+    EXPECT_TRUE(grid->Redraw());
+    EXPECT_EQ(host->pointer(), 0);
+    EXPECT_TRUE(host->messages.empty());
+}
+
+TEST_F(LoadDriverTest, TheBandShowsTheCountWithNumberSignAndBlank) {
+    fill();
+    grid->refresh();
+    EXPECT_EQ(grid->Picture1().Bands(u"BndTemplate").Tools(u"txtRecs").Text, u"3# "_s);
+}
+
+TEST_F(LoadDriverTest, AnEmptyResultLeavesTheHeadingAndTheFormerCountText) {
+    columns({u"POLICYID"_s});
+    fill();
+    grid->refresh();
+    logEvents();
+    fill(u"select * from POLICIES where 1=0"_s);
+    grid->refresh();
+    EXPECT_EQ(grid->Rows(), 1);
+    EXPECT_EQ(grid->RecCount(), 0);
+    EXPECT_EQ(log, QStringList{}); // the row reader does not run
+    EXPECT_EQ(grid->Picture1().Tools(u"txtRecs").Text, u"3# "_s);
+}
+
+TEST_F(LoadDriverTest, WithTwoFixedRowsAnEmptyResultKeepsThem) {
+    grid->setRows(3);
+    grid->setFixedRows(2);
+    fill(u"select * from POLICIES where 1=0"_s);
+    grid->refresh();
+    EXPECT_EQ(grid->Rows(), 2);
+    EXPECT_TRUE(host->messages.empty());
+}
+
+TEST_F(LoadDriverTest, RecCountMinusOneCountsAsNoRecords) {
+    columns({u"POLICYID"_s});
+    fill();
+    grid->setRecCount(-1);
+    grid->refresh();
+    EXPECT_EQ(grid->Rows(), 1);
+    EXPECT_EQ(grid->RecCount(), 0);
+    grid->refresh(); // the count of 0 is not -1
+    EXPECT_EQ(grid->Rows(), 4);
+}
+
+TEST_F(LoadDriverTest, RecCountMinusOneIsNotLookedAtWithRunTimeStatements) {
+    columns({u"POLICYID"_s});
+    fill();
+    grid->setSqlOnRunTime(true);
+    grid->setRecCount(-1);
+    grid->refresh();
+    EXPECT_EQ(grid->RecCount(), 3);
+}
+
+TEST_F(LoadDriverTest, RefreshOnChangeFalseChangesNoRow) {
+    columns({u"POLICYID"_s});
+    fill();
+    grid->refresh();
+    fill(u"select * from POLICIES where POLICYID=1"_s);
+    grid->setRefreshOnChange(false);
+    grid->refresh();
+    EXPECT_EQ(grid->Rows(), 4);
+    EXPECT_EQ(grid->RecCount(), 3);
+}
+
+TEST_F(LoadDriverTest, RefreshWithoutAConnectionThrowsAndLoadsNothing) {
+    grid->setCn(nullptr);
+    grid->setSourceType(ZKP_SQLStatement);
+    for (const int kind : {ZKP_SQLStatement, ZKP_Table_QUERY}) {
+        grid->setSourceType(kind);
+        const auto error = errorOf([&] { grid->refresh(); });
+        ASSERT_TRUE(error);
+        EXPECT_EQ(error->number(), 0x8004000Au);
+        EXPECT_EQ(error->description(), u"The Property Cn Hasn't Been set!"_s);
+    }
+    EXPECT_EQ(grid->Rows(), 2);
+    EXPECT_EQ(host->pointer(), 0);
+    EXPECT_EQ(grid->MousePointer(), 0);
+    EXPECT_TRUE(host->messages.empty());
+}
+
+TEST_F(LoadDriverTest, RefreshOfAMissingRecordsetThrows) {
+    grid->setSourceType(ZKP_RecordSet);
+    const auto error = errorOf([&] { grid->refresh(); });
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->number(), 0x8004000Au);
+    EXPECT_EQ(error->description(), u"The Property RecordSource Hasn't Been set!"_s);
+}
+
+TEST_F(LoadDriverTest, AMissingCommandAndConnectionFailTwiceAndThrowTheFirst) {
+    std::vector<std::pair<std::uint32_t, QString>> failures;
+    grid->setErrorSink([&](const Error& error) { failures.emplace_back(error.number(), error.description()); });
+    grid->setCn(nullptr);
+    grid->setSourceType(ZKP_Command);
+    EXPECT_EQ(errorNumberOf([&] { grid->refresh(); }), 0x80040014u);
+    ASSERT_EQ(failures.size(), 2u);
+    EXPECT_EQ(failures[0].second, u"The Property RecordSource As ADODB.Command Hasn't Been set!"_s);
+    EXPECT_EQ(failures[1].first, 0x8004000Au);
+    EXPECT_EQ(failures[1].second, u"The Property Cn Hasn't Been set!"_s);
+}
+
+TEST_F(LoadDriverTest, AKindAboveThreePassesTheChecksAndFailsInItsBox) {
+    grid->setSourceType(4);
+    grid->refresh();
+    ASSERT_EQ(host->messages.size(), 1u);
+    EXPECT_EQ(host->messages[0].title, u"QRN Insurance"_s);
+    EXPECT_EQ(host->messages[0].style, 16);
+    EXPECT_TRUE(grid->Redraw());
+}
+
+TEST_F(LoadDriverTest, ABadStatementShowsItsOwnWordsAndReleasesTheRecordSource) {
+    fill();
+    grid->refresh();
+    fill(u"select NOTHING from POLICIES"_s);
+    grid->refresh();
+    ASSERT_EQ(host->messages.size(), 1u);
+    EXPECT_TRUE(host->messages[0].text.contains(u"NOTHING"_s));
+    EXPECT_EQ(host->messages[0].style, 16);
+    EXPECT_EQ(host->messages[0].title, u""_s);
+    EXPECT_EQ(grid->RecordSource().value<ado::RecordsetPtr>(), nullptr);
+    EXPECT_EQ(grid->Rows(), 4); // the old rows stay
+    fill();
+    grid->refresh(); // and the control works on
+    EXPECT_EQ(host->messages.size(), 1u);
+}
+
+TEST_F(LoadDriverTest, TheConnectionsTimeOutComesBack) {
+    connection->setCommandTimeout(77);
+    grid->setCommandTimeout(5);
+    int during = 0;
+    connection->setFetchProgress([&](std::int64_t) { during = connection->CommandTimeout(); });
+    fill();
+    grid->refresh();
+    EXPECT_EQ(connection->CommandTimeout(), 77);
+    fill(u"select * from NOWHERE"_s);
+    grid->refresh();
+    EXPECT_EQ(connection->CommandTimeout(), 77);
+    EXPECT_TRUE(during == 0 || during == 5);
+}
+
+TEST_F(LoadDriverTest, TheStatementRunsUnderTheControlsTimeOut) {
+    grid->setCommandTimeout(1);
+    fill(u"with recursive n(i) as (select 1 union all select i+1 from n where i < 500000000) select count(*) from n"_s);
+    grid->refresh();
+    ASSERT_EQ(host->messages.size(), 1u);
+    EXPECT_EQ(connection->CommandTimeout(), 30);
+    columns({u"POLICYID"_s});
+    fill();
+    grid->refresh();
+    EXPECT_EQ(grid->Rows(), 4);
+}
+
+TEST_F(LoadDriverTest, TheFirstDataRowBecomesCurrent) {
+    columns({u"POLICYID"_s});
+    fill();
+    grid->refresh();
+    grid->setRow(3);
+    grid->refresh();
+    EXPECT_EQ(grid->Row(), 1);
+    EXPECT_EQ(grid->TopRow(), 1);
+}
+
+TEST_F(LoadDriverTest, TheBodysColoursAreWrittenAnew) {
+    columns({u"POLICYID"_s});
+    grid->setRow(1);
+    grid->setCellBackColor(0x00FF00FF);
+    fill();
+    grid->refresh();
+    EXPECT_EQ(grid->MSFlexGrid1().styleAt(1, 0).backColor, grid->BackColor());
+}
+
+TEST_F(LoadDriverTest, PendingEventsRunOnceWhenThereAreRecords) {
+    int runs = 0;
+    host->onPendingEvents = [&] { ++runs; };
+    fill();
+    grid->refresh();
+    EXPECT_EQ(runs, 1);
+    fill(u"select * from POLICIES where 1=0"_s);
+    grid->refresh();
+    EXPECT_EQ(runs, 1);
+}
+
+TEST_F(LoadDriverTest, CancelLoadAndStopSearchStopNothing) {
+    columns({u"POLICYID"_s});
+    QObject::connect(&grid->events(), &Events::RetrieveRow, [&](RetrieveRowArgs&) {
+        grid->CancelLoad();
+        grid->StopSearch();
+    });
+    fill();
+    grid->refresh();
+    EXPECT_EQ(report(), (QStringList{u"1: 1"_s, u"1: 2"_s, u"1: 3"_s}));
+}
+
+TEST_F(LoadDriverTest, ATotalsReportHasNoStatementYetAndSaysSo) {
+    grid->setTotalForm(true);
+    fill();
+    grid->refresh();
+    EXPECT_EQ(host->messages.size(), 1u);
+    EXPECT_TRUE(grid->Redraw());
+}
