@@ -98,8 +98,9 @@ private:
     }
 
     int parseField() {
-        if (at_ >= tokens_.size() ||
-            (tokens_[at_].kind != TokenKind::Word && tokens_[at_].kind != TokenKind::Name))
+        const bool isThere =
+            at_ < tokens_.size() && !tokens_[at_].isWord(u"and") && !tokens_[at_].isWord(u"or");
+        if (!isThere || (tokens_[at_].kind != TokenKind::Word && tokens_[at_].kind != TokenKind::Name))
             fail();
         const QString name = dialect::nameOf(tokens_[at_++]);
         const int field = records_.indexOf(name);

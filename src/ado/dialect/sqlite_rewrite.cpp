@@ -54,12 +54,15 @@ public:
         for (std::size_t k = 0; k < solid_.size(); ++k) {
             if (at(k).isWord(u"convert"))
                 rewriteConvert(k);
-            else if (at(k).isWord(u"select"))
-                rewriteTop(k);
             else if (at(k).isWord(u"in") && answered)
                 collateList(k);
             else if (at(k).kind == TokenKind::Text && answered)
                 collateConstant(k);
+        }
+        // Behind what the constants got, since a limit closes a select.
+        for (std::size_t k = 0; k < solid_.size(); ++k) {
+            if (at(k).isWord(u"select"))
+                rewriteTop(k);
         }
         return changed_ ? written_.join(QString()) : statement_;
     }

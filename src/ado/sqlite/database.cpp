@@ -9,7 +9,8 @@ namespace zkp::ado::sqlite {
 
 namespace {
 
-constexpr int kBusyMilliseconds = 1000;
+/// Others' writing takes no longer as a rule.
+constexpr int kBusyMilliseconds = 500;
 
 } // namespace
 

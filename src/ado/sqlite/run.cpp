@@ -1,13 +1,35 @@
 #include "ado/sqlite/run.h"
 
+#include "ado/dialect/tokenizer.h"
 #include "ado/sqlite/fetch.h"
 
 namespace zkp::ado::sqlite {
+
+namespace {
+
+/// What writes rows was asked of the guard table by table; whatever else writes (REINDEX, some
+/// pragmas) it is not asked about.
+void checkWriting(const Database& database, const Statement& statement, const QString& sql) {
+    if (!database.isReadOnly() || sqlite3_stmt_readonly(statement.handle()) != 0)
+        return;
+    for (const dialect::Token& token : dialect::tokenize(sql)) {
+        for (const QStringView word : {u"insert", u"update", u"delete", u"replace", u"with"}) {
+            if (token.isWord(word))
+                return;
+        }
+        if (token.kind != dialect::TokenKind::Space)
+            throw Error(kErrDatabase, QStringLiteral("The connection is open for reading only"),
+                        QStringLiteral("SQLite"));
+    }
+}
+
+} // namespace
 
 Result runStatement(const std::shared_ptr<Database>& database, const QString& sql,
                     const QVariantList& parameters, const RunOptions& options) {
     const Deadline deadline = Deadline::in(options.timeoutSeconds);
     Statement statement(database, sql, deadline);
+    checkWriting(*database, statement, sql);
     statement.bind(parameters);
     if (statement.columnCount() > 0)
         return Fetch(database, statement, deadline, options).run();
