@@ -13,4 +13,16 @@ function(zkp_layer name)
   foreach(used IN LISTS ARG_USES)
     target_link_libraries(zkp_${name} PUBLIC zkp_${used})
   endforeach()
+  zkp_precompile(zkp_${name} zkp_base)
+endfunction()
+
+# The headers that nearly every source includes, compiled once: for the target that owns them, and for
+# those that name it. Sources still include what they use.
+function(zkp_precompile target owner)
+  if(target STREQUAL owner)
+    target_precompile_headers(${target} PRIVATE <QHash> <QLocale> <QString> <QStringList> <QVariant>
+      <algorithm> <functional> <memory> <optional> <string> <vector>)
+  else()
+    target_precompile_headers(${target} REUSE_FROM ${owner})
+  endif()
 endfunction()
