@@ -1,0 +1,103 @@
+#include "commands/arguments.h"
+#include "commands/command.h"
+
+#include "platform/scripted_host.h"
+#include "window/report_text.h"
+#include "window/report_window.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace zkp::app {
+
+namespace {
+
+constexpr int kRowsAsText = 20;
+
+/// Without a screen Qt can't start; its off-screen platform can.
+void chooseOffscreenWithoutDisplay() {
+    const bool hasScreen = !qEnvironmentVariableIsEmpty("DISPLAY") ||
+                           !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") ||
+                           !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM");
+#ifdef Q_OS_LINUX
+    if (!hasScreen)
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+#else
+    Q_UNUSED(hasScreen)
+#endif
+}
+
+bool hasDisplay() {
+    return QGuiApplication::platformName() != QLatin1String("offscreen") &&
+           QGuiApplication::platformName() != QLatin1String("minimal");
+}
+
+/// Nobody could answer a box that stands off screen: it becomes a line on standard error.
+class ConsoleHost : public ScriptedHost {
+public:
+    int msgBox(const QString& text, int style, const QString& title) override {
+        printError(text.simplified());
+        return ScriptedHost::msgBox(text, style, title);
+    }
+};
+
+int showWindow(const QString& database) {
+    ReportWindow window;
+    window.show();
+    window.showDatabase(database);
+    return QApplication::exec();
+}
+
+int drawPicture(const QString& database, const QString& picture) {
+    const auto host = std::make_shared<ConsoleHost>();
+    ReportWindow window(host);
+    window.show();
+    const bool isLoaded = window.showDatabase(database) && host->messages.empty();
+    QApplication::processEvents();
+    if (!isLoaded)
+        return kExitFailed;
+    printLine(reportText(window.grid().MSFlexGrid1(), kRowsAsText));
+    if (!window.grab().save(picture)) {
+        printError(QStringLiteral("zkpreport show: can't write the picture %1").arg(picture));
+        return kExitFailed;
+    }
+    printLine(QStringLiteral("\nThere is no display. The window is in the picture %1")
+                  .arg(QDir::toNativeSeparators(QFileInfo(picture).absoluteFilePath())));
+    return kExitDone;
+}
+
+} // namespace
+
+int runShow(Start start, const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Shows the list of policies of a database in a window. Without a display it draws the window\n"
+        "into a picture and prints the first rows as text."));
+    parser.addPositionalArgument(QStringLiteral("DB"), QStringLiteral("The same as --database."),
+                                 QStringLiteral("[DB]"));
+    parser.addOption({QStringLiteral("database"), QStringLiteral("SQLite file (demo.db)."),
+                      QStringLiteral("FILE"), QStringLiteral("demo.db")});
+    parser.addOption({QStringLiteral("picture"), QStringLiteral("Where the picture goes (plain_report.png)."),
+                      QStringLiteral("FILE"), QStringLiteral("plain_report.png")});
+    // The parser's help asks for an application, which a wrong option must not need.
+    chooseOffscreenWithoutDisplay();
+    const QApplication application(start.argc, start.argv);
+    if (const auto exitCode = parseArguments(parser, QStringLiteral("show"), arguments))
+        return *exitCode;
+
+    const QStringList named = parser.positionalArguments();
+    if (named.size() > 1 || (named.size() == 1 && parser.isSet(QStringLiteral("database")))) {
+        printError(QStringLiteral("zkpreport show: name one database"));
+        return kExitUsage;
+    }
+    const QString database = named.isEmpty() ? parser.value(QStringLiteral("database")) : named.front();
+    if (!QFileInfo::exists(database)) {
+        printError(QStringLiteral("zkpreport show: there is no file %1; zkpreport demo-db %1 makes a "
+                                  "demonstration database").arg(database));
+        return kExitUsage;
+    }
+    return hasDisplay() ? showWindow(database) : drawPicture(database, parser.value(QStringLiteral("picture")));
+}
+
+} // namespace zkp::app
