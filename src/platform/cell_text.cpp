@@ -85,4 +85,21 @@ QString boundText(const CellBinding& binding, std::size_t record, const ReportLo
     return {};
 }
 
+std::optional<double> boundNumber(const CellBinding& binding, std::size_t record) {
+    if (!binding.column || binding.format == CellFormat::Blank || record >= binding.column->size())
+        return std::nullopt;
+    const ValueKind kind = binding.column->kind(record);
+    if (kind == ValueKind::Integer)
+        return static_cast<double>(binding.column->integer(record));
+    if (kind != ValueKind::Amount)
+        return std::nullopt;
+    const std::int64_t scaled = binding.column->amount(record).scaled;
+    if (binding.format == CellFormat::OwnText)
+        return static_cast<double>(scaled) / Currency::kScale;
+    const std::int64_t unit = binding.format == CellFormat::Grouped2 ? 100 : Currency::kScale;
+    const std::int64_t rest = scaled % unit; // has the sign of the amount
+    const std::int64_t away = rest >= unit / 2 ? 1 : rest <= -(unit / 2) ? -1 : 0;
+    return static_cast<double>(scaled / unit + away) / static_cast<double>(Currency::kScale / unit);
+}
+
 } // namespace zkp

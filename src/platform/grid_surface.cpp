@@ -148,12 +148,10 @@ void GridSurface::Data::changed() {
         raise(surface.view.changed);
 }
 
-void GridSurface::Data::rowChanged(int row) {
-    if (!redraw)
-        changePending = true;
-    else if (surface.view.rowChanged)
+void GridSurface::Data::tellRow(int row) {
+    if (surface.view.rowChanged)
         raise(surface.view.rowChanged, row);
-    else if (surface.view.changed)
+    else
         raise(surface.view.changed);
 }
 

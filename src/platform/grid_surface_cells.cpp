@@ -1,6 +1,7 @@
 #include "platform/grid_surface.h"
 
 #include "base/error.h"
+#include "base/number.h"
 #include "platform/cell_text.h"
 #include "platform/grid_surface_data.h"
 
@@ -15,10 +16,27 @@ QString GridSurface::Data::cellText(int row, int col) const {
     if (const std::optional<QString> own = texts.text(id, column))
         return *own;
     const RowRecord& record = rows.at(id);
+    const CellBinding* binding = bindingOf(record, column);
+    return binding ? boundText(*binding, record.record, locale) : QString();
+}
+
+std::optional<double> GridSurface::Data::cellNumber(int row, int col) const {
+    const RowId id = order.at(row);
+    if (id == kNoRow)
+        return std::nullopt;
+    const RowRecord& record = rows.at(id);
+    const CellBinding* binding = bindingOf(record, columns.id(col));
+    if (binding && !texts.has(id, columns.id(col)))
+        if (const std::optional<double> number = boundNumber(*binding, record.record))
+            return number;
+    return toNumber(cellText(row, col), locale);
+}
+
+const CellBinding* GridSurface::Data::bindingOf(const RowRecord& record, ColumnId column) const {
     if (record.layout == 0)
-        return {};
+        return nullptr;
     const Layout& layout = layouts[record.layout - 1u];
-    return column < layout.size() ? boundText(layout[column], record.record, locale) : QString();
+    return column < layout.size() ? &layout[column] : nullptr;
 }
 
 /// A blank text needs no place where nothing would show anyway.

@@ -69,8 +69,13 @@ struct GridSurface::Data {
         return order.at(row);
     }
     const RowRecord& recordOf(int row) const;
+    /// What the cell shows of its record; nullptr when nothing.
+    const CellBinding* bindingOf(const RowRecord& record, ColumnId column) const;
 
     QString cellText(int row, int col) const;
+    /// The number that the cell's text is in the locale.
+    std::optional<double> cellNumber(int row, int col) const;
+    std::vector<double> sortKeys(int code, int top, int count, int col) const;
     void writeText(int row, int col, const QString& text);
     void applyPiece(const StylePiece& piece, const StylePatch& patch);
     CellRange filledBlock() const;
@@ -84,7 +89,13 @@ struct GridSurface::Data {
     /// Puts the cursor there and tells whoever listens what really moved.
     void moveCursor(const SurfaceCursor& next);
     void changed();
-    void rowChanged(int row);
+    void rowChanged(int row) {
+        if (redraw)
+            tellRow(row);
+        else
+            changePending = true;
+    }
+    void tellRow(int row);
     void scrolled();
 
     /// Calls a copy, since the function may put another one in its place while it runs.

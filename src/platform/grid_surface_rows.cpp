@@ -14,9 +14,13 @@ void GridSurface::Data::failRow(int row) {
 RowId GridSurface::Data::touch(int row) {
     checkRow(row);
     const int missing = row + 1 - order.realSize();
-    if (missing <= 0)
-        return order.at(row);
-    order.append(rows.allocate(missing));
+    if (missing == 1) { // what a load does with every record
+        const RowId id = rows.allocateOne();
+        order.appendOne(id);
+        return id;
+    }
+    if (missing > 1)
+        order.append(rows.allocate(missing));
     return order.at(row);
 }
 

@@ -11,6 +11,8 @@ namespace zkp {
 
 namespace {
 
+constexpr int kCurrencyType = 6; // ColDataType
+
 bool isDescending(int code) {
     return code % 2 == 0;
 }
@@ -27,6 +29,18 @@ CellRange sortedBlock(const CellRange& selection, const SurfaceShape& shape) {
 }
 
 } // namespace
+
+std::vector<double> GridSurface::Data::sortKeys(int code, int top, int count, int col) const {
+    const TextOfRow text = [&](int i) { return cellText(top + i, col); };
+    const NumberOfRow number = [&](int i) { return cellNumber(top + i, col); };
+    const bool generic = code <= kSortGenericDown;
+    if (code == kSortNumericUp || code == kSortNumericDown ||
+        (generic && columns.at(col).dataType == kCurrencyType))
+        return numberKeys(count, number);
+    if (generic)
+        return genericKeys(count, text, number, locale);
+    return textKeys(count, text, locale, code >= kSortTextUp);
+}
 
 void GridSurface::setSort(int code) {
     if (code < kSortNone || code > kSortCustom)
@@ -50,15 +64,8 @@ void GridSurface::setSort(int code) {
             return; // the comparison added or removed rows: the order found is of rows that are no more
     } else {
         std::vector<SortKeys> keys;
-        for (int col = block.left; col <= block.right; ++col) {
-            const TextOfRow text = [&](int i) { return d->cellText(block.top + i, col); };
-            if (code <= kSortGenericDown)
-                keys.push_back(genericKeys(count, text, d->locale, d->columns.at(col).dataType == 6));
-            else if (code <= kSortNumericDown)
-                keys.push_back(numberKeys(count, text, d->locale));
-            else
-                keys.push_back(textKeys(count, text, d->locale, code >= kSortTextUp));
-        }
+        for (int col = block.left; col <= block.right; ++col)
+            keys.push_back(d->sortKeys(code, block.top, count, col));
         sorted = orderByKeys(count, keys, isDescending(code));
     }
     std::vector<RowId> ids;

@@ -27,11 +27,6 @@ void PrefixCounts::append(int count) {
     tree_.push_back(before(i - 1) - before(first) + count);
 }
 
-void PrefixCounts::add(std::size_t index, int delta) {
-    for (std::size_t i = index + 1; i <= tree_.size(); i += lowestBit(i))
-        tree_[i - 1] += delta;
-}
-
 int PrefixCounts::before(std::size_t index) const {
     int sum = 0;
     for (std::size_t i = index; i > 0; i -= lowestBit(i))

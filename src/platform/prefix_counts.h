@@ -16,7 +16,10 @@ public:
 
     void assign(const std::vector<int>& counts);
     void append(int count);
-    void add(std::size_t index, int delta);
+    void add(std::size_t index, int delta) {
+        for (std::size_t i = index + 1; i <= tree_.size(); i += i & (~i + 1))
+            tree_[i - 1] += delta;
+    }
 
     std::size_t size() const { return tree_.size(); }
     /// The sum of the counts before that element.

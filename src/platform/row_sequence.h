@@ -43,6 +43,19 @@ public:
     /// Puts a run behind the last row that has an id; it takes the place of as many trailing blanks
     /// (and lengthens the sequence when there are fewer).
     void append(const RowRun& run);
+    /// The same for one row; mostly its id follows that of the row before, as in a load.
+    void appendOne(RowId id) {
+        const bool goesOn = cursor_.count > 0 && cursor_.start + cursor_.count == real_ &&
+                            cursor_.first + static_cast<RowId>(cursor_.count) == id;
+        if (!goesOn)
+            return append({id, 1});
+        ++blocks_.back().runs.back().count;
+        ++blocks_.back().rows;
+        counts_.add(blocks_.size() - 1, 1);
+        ++cursor_.count;
+        ++real_;
+        blanks_ -= blanks_ > 0 ? 1 : 0;
+    }
     /// Puts a run before the row at `position`, which has an id or is the first trailing blank.
     void insert(int position, const RowRun& run);
     /// Takes rows with an id out and tells which.

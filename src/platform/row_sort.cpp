@@ -1,6 +1,5 @@
 #include "platform/row_sort.h"
 
-#include "base/number.h"
 #include "base/text.h"
 
 #include <QCollator>
@@ -8,7 +7,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <optional>
 
 namespace zkp {
 
@@ -67,10 +65,10 @@ std::vector<int> places(const std::vector<QString>& texts, const ReportLocale& l
 
 } // namespace
 
-SortKeys numberKeys(int count, const TextOfRow& text, const ReportLocale& locale) {
+SortKeys numberKeys(int count, const NumberOfRow& number) {
     SortKeys keys(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
-        keys[static_cast<std::size_t>(i)] = toNumber(text(i), locale).value_or(0);
+        keys[static_cast<std::size_t>(i)] = number(i).value_or(0);
     return keys;
 }
 
@@ -84,31 +82,32 @@ SortKeys textKeys(int count, const TextOfRow& text, const ReportLocale& locale, 
     return keys;
 }
 
-SortKeys genericKeys(int count, const TextOfRow& text, const ReportLocale& locale, bool isCurrency) {
-    if (isCurrency)
-        return numberKeys(count, text, locale);
-    SortKeys keys(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        const QString cell = text(i);
-        const std::optional<double> number = toNumber(cell, locale);
-        if (!number && !isBlank(cell))
+SortKeys genericKeys(int count, const TextOfRow& text, const NumberOfRow& number,
+                     const ReportLocale& locale) {
+    for (int i = 0; i < count; ++i)
+        if (!number(i) && !isBlank(text(i)))
             return textKeys(count, text, locale, false);
-        keys[static_cast<std::size_t>(i)] = number.value_or(0);
-    }
-    return keys;
+    return numberKeys(count, number);
 }
 
+// From the least to the weightiest list, each time stable; keys lie beside their rows so that a
+// comparison looks at nothing else.
 std::vector<int> orderByKeys(int count, const std::vector<SortKeys>& keys, bool descending) {
+    struct Keyed {
+        double key;
+        int row;
+    };
     std::vector<int> rows = inOrder(count);
-    std::stable_sort(rows.begin(), rows.end(), [&](int a, int b) {
-        for (const SortKeys& column : keys) {
-            const double first = column[static_cast<std::size_t>(a)];
-            const double second = column[static_cast<std::size_t>(b)];
-            if (first != second)
-                return descending ? second < first : first < second;
-        }
-        return false;
-    });
+    std::vector<Keyed> keyed(rows.size());
+    for (auto list = keys.rbegin(); list != keys.rend(); ++list) {
+        for (std::size_t i = 0; i < rows.size(); ++i)
+            keyed[i] = {(*list)[static_cast<std::size_t>(rows[i])], rows[i]};
+        if (descending)
+            std::stable_sort(keyed.begin(), keyed.end(), [](Keyed a, Keyed b) { return b.key < a.key; });
+        else
+            std::stable_sort(keyed.begin(), keyed.end(), [](Keyed a, Keyed b) { return a.key < b.key; });
+        std::transform(keyed.begin(), keyed.end(), rows.begin(), [](Keyed k) { return k.row; });
+    }
     return rows;
 }
 

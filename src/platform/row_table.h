@@ -29,6 +29,13 @@ class RowTable {
 public:
     /// Consecutive ids of blank rows.
     RowRun allocate(int count);
+    /// The id of one blank row.
+    RowId allocateOne() {
+        if (!free_.empty() || next_ % kPageRows == 0)
+            return allocate(1).first;
+        ++used_;
+        return next_++;
+    }
     /// The rows are gone; reading their ids again gives blank rows.
     void release(const RowRun& run);
     void clear();

@@ -1,6 +1,6 @@
 #include "platform/cell_text.h"
 
-#include "base/format.h"
+#include "base/number.h"
 #include "platform/sample_column.h"
 
 #include <gtest/gtest.h>
@@ -86,4 +86,19 @@ TEST(CellText, BlankMissingAndOutsideShowNothing) {
     EXPECT_EQ(shown(whole(5), CellFormat::Blank), QString());
     EXPECT_EQ(boundText({}, 0, greek()), QString());
     EXPECT_EQ(boundText({sampleColumn({whole(1)}), CellFormat::OwnText}, 1, greek()), QString());
+}
+
+TEST(CellText, ANumberToldWithoutItsTextIsTheNumberOfTheText) {
+    const std::vector<std::int64_t> amounts{
+        0, 1, 49, 50, -49, -50, 5'000, 4'999, -5'000, 15'000, 12'345'678'950, -99'999'999};
+    for (const CellFormat format : {CellFormat::OwnText, CellFormat::Grouped2, CellFormat::Grouped0})
+        for (const std::int64_t scaled : amounts)
+            for (const SampleValue& value : {SampleValue(Currency{scaled}), SampleValue(scaled)}) {
+                const CellBinding binding{sampleColumn({value}), format};
+                EXPECT_EQ(boundNumber(binding, 0), toNumber(boundText(binding, 0, greek()), greek()))
+                    << scaled;
+            }
+    EXPECT_FALSE(boundNumber({sampleColumn({std::string("5")}), CellFormat::OwnText}, 0));
+    EXPECT_FALSE(boundNumber({sampleColumn({whole(5)}), CellFormat::Blank}, 0));
+    EXPECT_FALSE(boundNumber({sampleColumn({whole(5)}), CellFormat::OwnText}, 1));
 }
