@@ -92,6 +92,15 @@ ZKP_HEADING_FONT(bool, FixedFontBold, bold)
 ZKP_HEADING_FONT(bool, FixedFontItalic, italic)
 ZKP_HEADING_FONT(bool, FixedFontUnderline, underline)
 
+/// Remembered until the flags of the columns have been looked at, so that a host that only sets the
+/// text gets its groups.
+void ZkpGrid::setGroupby(const QString& value) {
+    const auto parts = parts_;
+    parts->state.Groupby = value;
+    parts->state.givenGroupby = value;
+    parts->events.notify(QStringLiteral("Groupby"));
+}
+
 /// A frozen first data row is painted at once, cell by cell.
 void ZkpGrid::setFreezeBackColor(const Color& value) {
     const auto parts = parts_;

@@ -13,6 +13,7 @@ enum ErrorNumber : std::uint32_t {
     kErrOverflow = 6,             ///< a number outside its type's range
     kErrSubscript = 9,            ///< an index outside its collection
     kErrTypeMismatch = 13,        ///< a value that cannot become the wanted type
+    kErrInvalidNull = 94,         ///< a null where a text or number is needed
     kErrObjectNotSet = 91,        ///< an object that was never given
     kErrNoSuchMember = 438,       ///< a name that the object does not have
     kErrInvalidArrayIndex = 381,  ///< a row or column outside the surface

@@ -15,6 +15,7 @@ short GroupFactorFlags::FindGroupNum() const {
 
 void GroupFactorFlags::CheckGroupBy(int cols) {
     state_.GroupFactorCount = 0;
+    state_.givenGroupby.reset();
     QStringList fields;
     for (int c = 0; c < cols; ++c) {
         const Column& column = columns_.ofGridColumn(c);
@@ -24,6 +25,8 @@ void GroupFactorFlags::CheckGroupBy(int cols) {
             fields << column.Datafield;
         ++state_.GroupFactorCount;
     }
+    if (fields.isEmpty())
+        state_.GroupFactors.clear();
     state_.Groupby = fields.join(u',');
     events_.notify(QStringLiteral("Groupby"));
 }

@@ -9,6 +9,8 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <optional>
+
 namespace zkp {
 
 /// Thrown when a handler has destroyed the control in the middle of an operation: the operation
@@ -40,6 +42,13 @@ struct ReportState {
 
     QStringList GroupFactors;
     short GroupFactorCount = 0;
+    /// A `Groupby` that a host (or a saved shape) set and no rebuild from the flags has seen yet.
+    std::optional<QString> givenGroupby;
+
+    // Totals reports: whether percentage columns are wanted, and the clone that they are worked out from.
+    bool HasPercentColumns = false;
+    ado::RecordsetPtr TotalsRecordset;
+
     short DebitColumn = -1;
     short CreditColumn = -1;
     short BalanceColumn = -1;

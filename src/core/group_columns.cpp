@@ -1,0 +1,88 @@
+#include "core/group_columns.h"
+
+#include "base/text.h"
+#include "support/utility.h"
+
+namespace zkp {
+
+void GroupColumns::InsertColumn(int whereisit) {
+    host_.setPointer(kPointerHourglass);
+    try {
+        insertEmptyColumn(whereisit);
+    } catch (const Error& error) {
+        ShowError(host_, error);
+        return;
+    }
+    host_.setPointer(kPointerDefault);
+}
+
+void GroupColumns::insertEmptyColumn(int position) {
+    setCols_(surface_.Cols() + 1);
+    columns_.Add({}, position + 1);
+    columns_.Remove(columns_.Count()); // the one that raising the count appended
+    surface_.setColPosition(surface_.Cols() - 1, position);
+
+    const QString blank = QStringLiteral(" ");
+    properties_.setColCaption(position, blank);
+    properties_.setColDataField(position, blank);
+    properties_.setColCalcEuro(position, false);
+    properties_.setColWidth(position, 1000);
+    properties_.setColAlignment(position, 0);
+    properties_.setColCredit(position, false);
+    properties_.setColDebit(position, false);
+    properties_.setColBalance(position, false);
+    properties_.setColTotals(position, false);
+    properties_.setColStatic(position, false);
+    properties_.setColLR(position, false);
+    properties_.setColIndexKey(position, false);
+    properties_.setColEditRs(position, blank);
+    properties_.setColEditable(position, false);
+    properties_.setColEditKind(position, 0);
+    properties_.setColEditTag(position, blank);
+    properties_.setColEditLength(position, 0);
+    properties_.setColEditField1(position, blank);
+    properties_.setColEditField2(position, blank);
+    surface_.setFixedAlignment(position, 4);
+}
+
+void GroupColumns::recallFactors() {
+    const std::optional<QString> given = state_.givenGroupby;
+    flags_.CheckGroupBy(surface_.Cols());
+    if (flags_.FindGroupNum() > 0 || !given || isBlank(*given))
+        return;
+    state_.Groupby = *given;
+    state_.givenGroupby = given;
+}
+
+void GroupColumns::MakeFixedForGroup() {
+    recallFactors();
+    if (state_.Groupby.isEmpty())
+        return;
+    state_.GroupFactors = state_.Groupby.split(u',');
+    state_.GroupFactorCount = static_cast<short>(state_.GroupFactors.size());
+    for (int i = 0; i < state_.GroupFactorCount; ++i)
+        placeFactor(i, state_.GroupFactors[i]);
+    surface_.setMergeCells(1);
+    for (int i = 0; i < state_.GroupFactorCount; ++i)
+        surface_.setMergeCol(i, true);
+}
+
+/// A column that stands right is left alone. An inserted one takes the mark of a factor over from the
+/// column further right that had the same field; that one stays as a plain column.
+void GroupColumns::placeFactor(int position, const QString& factor) {
+    if (position < surface_.Cols() && sameName(properties_.ColDataField(position), factor)) {
+        if (!properties_.ColForTot(position))
+            properties_.setColForTot(position, true);
+        return;
+    }
+    InsertColumn(position);
+    properties_.setColDataField(position, factor);
+    properties_.setColForTot(position, true);
+    for (int c = position + 1; c < surface_.Cols(); ++c)
+        if (properties_.ColForTot(c) && sameName(properties_.ColDataField(c), factor)) {
+            properties_.setColForTot(c, false);
+            return;
+        }
+}
+
+} // namespace zkp

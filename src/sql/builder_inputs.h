@@ -1,0 +1,48 @@
+#pragma once
+
+#include "core/column_list.h"
+#include "core/events.h"
+#include "core/record_source.h"
+#include "core/report_state.h"
+#include "platform/grid_surface.h"
+
+namespace zkp {
+
+/// What every statement builder reads of the report, and the properties that it writes back.
+class BuilderInputs {
+public:
+    BuilderInputs(ReportState& state, const ColumnList& columns, const GridSurface& surface, Events& events)
+        : state(state), columns(columns), surface_(surface), source_(state), events_(events) {}
+
+    ReportState& state;
+    const ColumnList& columns;
+
+    /// The grid's column count.
+    int cols() const { return surface_.Cols(); }
+    QString dataField(int column) const { return columns.ofGridColumn(column).Datafield; }
+    bool isTotalled(int column) const { return columns.ofGridColumn(column).Totals; }
+    /// `RecordsourceSTR`.
+    QString sourceText() const { return source_.text(); }
+
+    /// How many group factors have a name to walk: `GroupFactorCount`, bounded by the names.
+    int factorCount() const {
+        return std::min<int>(state.GroupFactorCount, static_cast<int>(state.GroupFactors.size()));
+    }
+    const QString& factor(int i) const { return state.GroupFactors[i]; }
+
+    void setFilter(const QString& text) { write(state.Filter, text, QStringLiteral("Filter")); }
+    void setGroupby(const QString& text) { write(state.Groupby, text, QStringLiteral("Groupby")); }
+    void setOrderBy(const QString& text) { write(state.OrderBy, text, QStringLiteral("OrderBy")); }
+
+private:
+    void write(QString& member, const QString& text, const QString& key) {
+        member = text;
+        events_.notify(key);
+    }
+
+    const GridSurface& surface_;
+    RecordSource source_;
+    Events& events_;
+};
+
+} // namespace zkp

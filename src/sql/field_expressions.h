@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/host.h"
+#include "sql/builder_inputs.h"
+
+namespace zkp {
+
+/// Turns one dictionary key into a select item.
+class FieldExpressions {
+public:
+    FieldExpressions(BuilderInputs& inputs, Host& host) : inputs_(inputs), host_(host) {}
+
+    /// The item of a key, with " AS [KEY]" when an alias is wanted; `Tables` gains the field's table.
+    /// Empty for an unknown key (or with no dictionary); one blank when the source's columns can't be
+    /// read. A failure shows a box and gives the item as far as it was built.
+    QString makefldSql(const QString& FieldName, QString& Tables, bool WithAlias = true);
+
+private:
+    QString itemOf(ado::Recordset& row) const;
+    bool canReadSourceColumns(ado::Recordset& row) const;
+    static void addTable(const QVariant& table, QString& Tables);
+
+    BuilderInputs& inputs_;
+    Host& host_;
+};
+
+} // namespace zkp

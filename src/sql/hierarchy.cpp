@@ -1,0 +1,98 @@
+#include "sql/hierarchy.h"
+
+#include "base/text.h"
+#include "base/value.h"
+
+namespace zkp {
+
+namespace {
+
+/// The levels that compare a second column with the identity at that level.
+struct Level {
+    QStringView code;
+    QStringView column;
+};
+constexpr Level kLevels[] = {
+    {u"1", u"AgencyIdentity"},
+    {u"2", u"AssistantIdentity"},
+    {u"3", u"UnitIdentity"},
+    {u"4", u"ManagerIdentity"},
+};
+
+bool isOwnRowsOnly(const QString& level) { return level == QStringLiteral("0") || level == QStringLiteral("5"); }
+
+/// Empty for any other level: such a user sees all rows.
+QString secondColumn(const QString& level) {
+    for (const Level& known : kLevels)
+        if (level == known.code)
+            return known.column.toString();
+    return {};
+}
+
+QString quoted(const QString& text) { return u'\'' + text + u'\''; }
+
+QString fieldText(ado::Recordset& row, int index) {
+    return valueText(row.Fields().Item(index).Value(), ReportLocale(QLocale::c()));
+}
+
+} // namespace
+
+void Hierarchy::LoadIerarxia() {
+    ReportState& state = inputs_.state;
+    ado::Recordset row;
+    row.Open(QStringLiteral(" exec Sec_GetUserIerarxiaID ") + quoted(state.ProductID), state.Cn);
+    state.Ierarxia = fieldText(row, 0);
+    state.IerID = fieldText(row, 1);
+    row.Close();
+}
+
+QString Hierarchy::normalized(const QString& filter) {
+    const QString key = nameKey(filter);
+    return key.isEmpty() || key == QStringLiteral("TRUE") ? QStringLiteral(" 0=0 ") : filter;
+}
+
+void Hierarchy::restrictFilter() {
+    const ReportState& state = inputs_.state;
+    QString filter = normalized(state.Filter);
+    if (!state.ProductID.isEmpty()) {
+        const QString column = secondColumn(state.Ierarxia);
+        if (isOwnRowsOnly(state.Ierarxia)) {
+            filter += QStringLiteral(" and ProductIdentity = ") + quoted(trimmed(state.ProductID).toString());
+        } else if (!column.isEmpty()) {
+            // Two blanks at the front for level 1 alone, as wanted.
+            filter += (state.Ierarxia == QStringLiteral("1") ? QStringLiteral("  and (") : QStringLiteral(" and (")) +
+                      QStringLiteral("ProductIdentity = ") + quoted(state.ProductID) + QStringLiteral(" or ") +
+                      column + QStringLiteral(" = ") + quoted(state.IerID) + u')';
+        }
+    }
+    if (filter != state.Filter)
+        inputs_.setFilter(filter);
+}
+
+QString Hierarchy::restricted(const QString& filter) const {
+    const ReportState& state = inputs_.state;
+    if (state.ProductID.isEmpty())
+        return filter;
+    if (isOwnRowsOnly(state.Ierarxia))
+        return filter + QStringLiteral("  and (ProductIdentity) = ") + quoted(state.ProductID);
+    QString column = secondColumn(state.Ierarxia);
+    if (column.isEmpty())
+        return filter;
+    if (state.Ierarxia == QStringLiteral("2"))
+        column = QStringLiteral("assistantIdentity"); // a small a here, as wanted
+    return filter + QStringLiteral(" and ((ProductIdentity) = ") + quoted(state.ProductID) +
+           QStringLiteral(" or (") + column + QStringLiteral(") = ") + quoted(state.IerID) + u')';
+}
+
+QString Hierarchy::recordsetFilter() const {
+    const ReportState& state = inputs_.state;
+    if (isOwnRowsOnly(state.Ierarxia))
+        return QStringLiteral(" ProductIdentity = ") + quoted(state.ProductID);
+    const QString column = secondColumn(state.Ierarxia);
+    if (column.isEmpty())
+        return {};
+    return QStringLiteral(" (ProductIdentity = ") + quoted(state.ProductID) + QStringLiteral(" or ") + column +
+           QStringLiteral(" = ") + quoted(state.IerID) + u')';
+}
+
+} // namespace zkp

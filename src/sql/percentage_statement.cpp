@@ -1,0 +1,62 @@
+#include "sql/percentage_statement.h"
+
+#include "base/text.h"
+#include "base/texts.h"
+#include "sql/statement_text.h"
+
+namespace zkp {
+
+QString PercentageStatement::RunTimePosSql() {
+    try {
+        return build();
+    } catch (const std::exception&) {
+        host_.msgBox(texts::percentagesFailed(), kMsgBoxCritical);
+        return {};
+    }
+}
+
+QString PercentageStatement::build() {
+    const ReportState& state = inputs_.state;
+    if (isBlank(state.MasterTable))
+        master_.FindMaster();
+    QString tables = QStringLiteral(", ") + state.MasterTable + u' ';
+    if (isBlank(state.Groupby))
+        return {};
+
+    QString groups;
+    QString select;
+    for (int i = 0; i < inputs_.factorCount(); ++i) {
+        appendItem(groups, fields_.makefldSql(inputs_.factor(i), tables, false));
+        appendItem(select, fields_.makefldSql(inputs_.dataField(i), tables));
+    }
+    // Never cleared, so that each percentage column adds all of it once more; wanted.
+    QString percentTables;
+    for (int i = state.GroupFactorCount; i < inputs_.cols(); ++i) {
+        const QString column = nameKey(inputs_.dataField(i));
+        if (!column.startsWith(QStringLiteral("POS_")))
+            continue;
+        if (column == QStringLiteral("POS_CNT")) {
+            appendItem(select, QStringLiteral("Count(") + countKey() + QStringLiteral(") AS CNT"));
+            continue;
+        }
+        const QString base = mid(column, 5);
+        const QString expression = fields_.makefldSql(base, percentTables, false);
+        tables += u' ' + percentTables + u' ';
+        appendItem(select, QStringLiteral("SUM(") + expression + QStringLiteral(") AS SUM_") + base);
+    }
+    const QString from = joins_.MakeFromAndJoins(tables);
+    hierarchy_.restrictFilter();
+    QString statement = QStringLiteral("SELECT DISTINCT ") + select + QStringLiteral(" FROM ") + from +
+                        QStringLiteral(" Where ") + state.Filter;
+    if (!isBlank(groups))
+        statement += QStringLiteral(" Group By ") + groups;
+    return statement;
+}
+
+QString PercentageStatement::countKey() const {
+    const ReportState& state = inputs_.state;
+    return isBlank(state.RKeyname) ? QStringLiteral("*")
+                                   : trimmed(QString(state.MasterTable + u'.' + state.RKeyname)).toString();
+}
+
+} // namespace zkp

@@ -1,0 +1,50 @@
+#include "sql/statement_dispatch.h"
+
+#include "base/number.h"
+#include "base/text.h"
+
+namespace zkp {
+
+namespace {
+
+// General settings: the command times in seconds.
+constexpr int kTimesKey = 2;
+constexpr int kNormalTime = 6;
+constexpr int kTotalsTime = 7;
+
+} // namespace
+
+bool StatementDispatch::composesAtRunTime() const {
+    return inputs_.state.SqlOnRunTime && !isBlank(inputs_.state.MasterTable);
+}
+
+QString StatementDispatch::DetailStatement() {
+    return composesAtRunTime() ? runTime_.RunTimeSQL() : normal_.NormalSQL();
+}
+
+void StatementDispatch::OpenTotalRecordset() {
+    ReportState& state = inputs_.state;
+    groups_.recallFactors();
+    if (!isBlank(state.Groupby))
+        groups_.MakeFixedForGroup();
+    const QString statement = composesAtRunTime() ? statistics_.RunTimeStatsSQL() : grouped_.GroupedSQL();
+
+    if (!state.ReportRecordset)
+        state.ReportRecordset = std::make_shared<ado::Recordset>();
+    if (state.ReportRecordset->State() == ado::adStateOpen)
+        state.ReportRecordset->Close();
+    if (!state.Cn)
+        throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"), QStringLiteral("Cn"));
+    state.Cn->setCommandTimeout(seconds(kTotalsTime));
+    state.ReportRecordset->Open(statement, state.Cn, ado::adOpenStatic);
+    if (state.HasPercentColumns)
+        state.TotalsRecordset = state.ReportRecordset->Clone();
+    state.Cn->setCommandTimeout(seconds(kNormalTime));
+}
+
+int StatementDispatch::seconds(int subKey) {
+    QString description;
+    return toInt32(QVariant(settings_.GETGeneral(kTimesKey, subKey, description)));
+}
+
+} // namespace zkp

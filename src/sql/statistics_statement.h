@@ -1,0 +1,45 @@
+#pragma once
+
+#include "sql/dictionary.h"
+#include "sql/field_expressions.h"
+#include "sql/filter_translation.h"
+#include "sql/hierarchy.h"
+#include "sql/joins.h"
+
+namespace zkp {
+
+/// The totals statement over physical names and joins. It has no percentage subqueries: a "POS_"
+/// column comes back as its "SUM_" base and the control works the percentage out.
+class StatisticsStatement {
+public:
+    StatisticsStatement(BuilderInputs& inputs, Dictionary& dictionary, FieldExpressions& fields, Joins& joins,
+                        FilterTranslation& translation, Hierarchy& hierarchy, Host& host)
+        : inputs_(inputs)
+        , dictionary_(dictionary)
+        , fields_(fields)
+        , joins_(joins)
+        , translation_(translation)
+        , hierarchy_(hierarchy)
+        , host_(host) {}
+
+    /// Overwrites `Filter`, `Groupby` (physical from here on), `OrderBy` and `SQLRun`. A failure shows
+    /// a box and gives what was built, usually nothing.
+    QString RunTimeStatsSQL();
+
+private:
+    QString build();
+    QString groupItems(QString& tables);
+    QString wantedColumns();
+    QString aggregates(const QString& wanted, QString& tables);
+    QString groupList(QString& tables);
+
+    BuilderInputs& inputs_;
+    Dictionary& dictionary_;
+    FieldExpressions& fields_;
+    Joins& joins_;
+    FilterTranslation& translation_;
+    Hierarchy& hierarchy_;
+    Host& host_;
+};
+
+} // namespace zkp
