@@ -43,13 +43,12 @@ void ChunkStage::start(Form form, ValueKind kind) {
         ends_.assign(rows_, 0);
 }
 
-void ChunkStage::pushNull(bool null) {
-    if (null && !anyNull_) {
+void ChunkStage::pushNull() {
+    if (!anyNull_) {
         anyNull_ = true;
         nulls_.assign(rows_, false);
     }
-    if (anyNull_)
-        nulls_.push_back(null);
+    nulls_.push_back(true);
     ++rows_;
 }
 
@@ -71,7 +70,7 @@ void ChunkStage::appendNull() {
         numbers_.push_back(0);
         break;
     }
-    pushNull(true);
+    pushNull();
 }
 
 void ChunkStage::appendNumber(ValueKind kind, std::int64_t value) {
@@ -79,7 +78,7 @@ void ChunkStage::appendNumber(ValueKind kind, std::int64_t value) {
         start(Form::Numbers, kind);
     if (form_ == Form::Numbers && (kind == kind_ || widenToDouble(kind, value))) {
         numbers_.push_back(value);
-        pushNull(false);
+        pushValue();
         return;
     }
     pushMixed(kind, value);
@@ -111,7 +110,7 @@ void ChunkStage::appendCode(std::uint32_t code) {
         start(Form::Codes, ValueKind::Text);
     if (form_ == Form::Codes) {
         codes_.push_back(code + 1);
-        pushNull(false);
+        pushValue();
         return;
     }
     appendBytes(ValueKind::Text, texts_->text(code));
@@ -123,7 +122,7 @@ void ChunkStage::appendBytes(ValueKind kind, std::string_view bytes) {
     if (form_ == Form::Bytes && kind == kind_) {
         arena_.insert(arena_.end(), bytes.begin(), bytes.end());
         ends_.push_back(arena_.size());
-        pushNull(false);
+        pushValue();
         return;
     }
     pushMixedBytes(kind, bytes);
@@ -169,7 +168,7 @@ void ChunkStage::pushMixed(ValueKind kind, std::int64_t payload) {
         toMixed();
     kinds_.push_back(kind);
     numbers_.push_back(payload);
-    pushNull(false);
+    pushValue();
 }
 
 void ChunkStage::pushMixedBytes(ValueKind kind, std::string_view bytes) {

@@ -31,7 +31,12 @@ private:
     enum class Form : std::uint8_t { Empty, Numbers, Codes, Bytes, Mixed };
 
     void start(Form form, ValueKind kind);
-    void pushNull(bool null);
+    void pushNull();
+    void pushValue() {
+        if (anyNull_)
+            nulls_.push_back(false);
+        ++rows_;
+    }
     bool widenToDouble(ValueKind kind, std::int64_t& value);
     void toMixed();
     void pushMixed(ValueKind kind, std::int64_t payload);

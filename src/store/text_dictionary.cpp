@@ -1,8 +1,34 @@
 #include "store/text_dictionary.h"
 
-#include <functional>
+#include <cstring>
 
 namespace zkp::store {
+
+namespace {
+
+/// Eight bytes at a time, folded by multiplication: short texts are most of what is looked up.
+std::uint32_t hashOf(std::string_view text) {
+    constexpr std::uint64_t factor = 0x9e3779b97f4a7c15u;
+    std::uint64_t hash = text.size() * factor;
+    const auto mix = [&hash](std::uint64_t word) {
+        hash = (hash ^ word) * factor;
+        hash ^= hash >> 32;
+    };
+    const char* at = text.data();
+    std::size_t left = text.size();
+    for (; left >= 8; at += 8, left -= 8) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, at, 8);
+        mix(word);
+    }
+    std::uint64_t rest = 0;
+    for (std::size_t i = 0; i < left; ++i)
+        rest = rest << 8 | static_cast<unsigned char>(at[i]);
+    mix(rest);
+    return static_cast<std::uint32_t>(hash ^ hash >> 29);
+}
+
+} // namespace
 
 std::uint32_t TextDictionary::add(std::string_view text) {
     arena_.insert(arena_.end(), text.begin(), text.end());
@@ -21,7 +47,7 @@ std::uint32_t TextLookup::findOrAdd(std::string_view text) {
     if (dictionary_->size() * 4ull >= slots_.size() * 3ull)
         grow();
 
-    const auto hash = static_cast<std::uint32_t>(std::hash<std::string_view>{}(text));
+    const std::uint32_t hash = hashOf(text);
     const std::size_t mask = slots_.size() - 1;
     for (std::size_t i = hash & mask;; i = (i + 1) & mask) {
         Slot& slot = slots_[i];

@@ -1,6 +1,7 @@
 #include "ado/sqlite/row_batch.h"
 
 #include <bit>
+#include <new>
 
 namespace zkp::ado::sqlite {
 
@@ -36,14 +37,20 @@ void appendText(store::ColumnBuilder& builder, std::string_view text, Storage st
 
 } // namespace
 
+RowBatch::RowBatch(int columns)
+    : columns_(static_cast<std::size_t>(columns)) {
+    for (Cells& cells : columns_) {
+        cells.types.resize(kRows);
+        cells.payloads.resize(kRows);
+    }
+}
+
 void RowBatch::clear() {
     rows_ = 0;
     bytes_ = 0;
     isLast = false;
     failure.reset();
     for (Cells& cells : columns_) {
-        cells.types.clear();
-        cells.payloads.clear();
         cells.bytes.clear();
         if (cells.bytes.capacity() > 4 * kBytes)
             cells.bytes = {};
@@ -53,28 +60,31 @@ void RowBatch::clear() {
 void RowBatch::addRow(sqlite3_stmt* statement) {
     int column = 0;
     for (Cells& cells : columns_) {
-        const int type = sqlite3_column_type(statement, column);
-        std::int64_t payload = 0;
-        const void* bytes = nullptr;
-        if (type == SQLITE_INTEGER) {
-            payload = sqlite3_column_int64(statement, column);
-        } else if (type == SQLITE_FLOAT) {
-            payload = std::bit_cast<std::int64_t>(sqlite3_column_double(statement, column));
-        } else if (type != SQLITE_NULL) {
-            bytes = type == SQLITE_TEXT ? sqlite3_column_text(statement, column)
-                                        : sqlite3_column_blob(statement, column);
-            payload = bytes ? sqlite3_column_bytes(statement, column) : 0;
-        }
-        cells.types.push_back(static_cast<std::uint8_t>(type));
-        cells.payloads.push_back(payload);
-        if (bytes) {
-            const char* begin = static_cast<const char*>(bytes);
-            cells.bytes.insert(cells.bytes.end(), begin, begin + payload);
-            bytes_ += static_cast<std::size_t>(payload);
-        }
-        ++column;
+        // One look at the column instead of one for each of type, bytes and length. The value needs
+        // no protection: nobody else uses the handle during the caller's turn.
+        sqlite3_value* const value = sqlite3_column_value(statement, column++);
+        const int type = sqlite3_value_type(value);
+        std::int64_t& payload = cells.payloads[rows_];
+        cells.types[rows_] = static_cast<std::uint8_t>(type);
+        if (type == SQLITE_INTEGER)
+            payload = sqlite3_value_int64(value);
+        else if (type == SQLITE_FLOAT)
+            payload = std::bit_cast<std::int64_t>(sqlite3_value_double(value));
+        else if (type != SQLITE_NULL)
+            payload = addBytes(cells, value, type);
     }
     ++rows_;
+}
+
+std::int64_t RowBatch::addBytes(Cells& cells, sqlite3_value* value, int type) {
+    const void* bytes = type == SQLITE_TEXT ? sqlite3_value_text(value) : sqlite3_value_blob(value);
+    const auto length = static_cast<std::size_t>(sqlite3_value_bytes(value));
+    if (!bytes && (type == SQLITE_TEXT || length > 0))
+        throw std::bad_alloc();
+    const char* begin = static_cast<const char*>(bytes);
+    cells.bytes.insert(cells.bytes.end(), begin, begin + length);
+    bytes_ += length;
+    return static_cast<std::int64_t>(length);
 }
 
 void RowBatch::appendTo(store::ColumnBuilder& builder, int column, Storage storage) const {

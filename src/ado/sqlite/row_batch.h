@@ -13,8 +13,7 @@ namespace zkp::ado::sqlite {
 /// Some rows on their way from SQLite's thread to the columns, column by column.
 class RowBatch {
 public:
-    explicit RowBatch(int columns)
-        : columns_(static_cast<std::size_t>(columns)) {}
+    explicit RowBatch(int columns);
 
     void clear();
     std::size_t rows() const { return rows_; }
@@ -36,8 +35,10 @@ private:
     struct Cells {
         std::vector<std::uint8_t> types;
         std::vector<std::int64_t> payloads; ///< the number, a double's bits or the count of bytes
-        std::vector<char> bytes;
+        std::vector<char> bytes;            ///< of texts and binary values, one behind the other
     };
+    std::int64_t addBytes(Cells& cells, sqlite3_value* value, int type);
+
     std::vector<Cells> columns_;
     std::size_t rows_ = 0;
     std::size_t bytes_ = 0;
