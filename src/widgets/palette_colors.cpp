@@ -1,5 +1,7 @@
 #include "widgets/palette_colors.h"
 
+#include <cstdlib>
+
 namespace zkp {
 
 namespace {
@@ -33,7 +35,20 @@ constexpr QPalette::ColorRole kRoles[] = {
     QPalette::ToolTipBase,     // 24
 };
 
+/// How light a colour looks, 0 to 255.
+int lightness(const QColor& color) {
+    return qGray(color.rgb());
+}
+
+constexpr int kLeastContrast = 70;
+
 } // namespace
+
+QColor readableOn(const QColor& back, const QColor& fore) {
+    if (std::abs(lightness(back) - lightness(fore)) >= kLeastContrast)
+        return fore;
+    return lightness(back) >= 128 ? QColor(Qt::black) : QColor(Qt::white);
+}
 
 QColor paintedColor(Color color, const QPalette& palette) {
     if (isSystemColor(color)) {

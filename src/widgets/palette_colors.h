@@ -11,6 +11,10 @@ namespace zkp {
 /// moment, so that a dark desktop works.
 QColor paintedColor(Color color, const QPalette& palette);
 
+/// The text colour, or black or white where it could not be read: a colour that a report was given on a
+/// light desktop may meet the palette's text colour of a dark one.
+QColor readableOn(const QColor& back, const QColor& fore);
+
 /// An opaque colour as the control stores it.
 Color storedColor(const QColor& color);
 

@@ -12,7 +12,7 @@ namespace zkp {
 namespace {
 
 constexpr int kSidePadding = 4; // pixels left and right of a text
-constexpr int kTopPadding = 3;  // pixels above a text at the top of a tall cell
+constexpr int kEdgePadding = 3; // pixels between a text and the top or bottom of a tall cell
 constexpr int kAlignGeneral = 9;
 constexpr int kAlignLeftCentre = 1;
 constexpr int kAlignRightCentre = 7;
@@ -39,7 +39,10 @@ void drawFocusRect(QPainter& painter, const SurfacePainter::Frame& frame, const 
 }
 
 void fillBackground(QPainter& painter, const SurfacePainter::Frame& frame, const QRect& dirty) {
-    const QColor color = paintedColor(frame.surface.look().BackColorBkg, frame.palette);
+    // Left at its default, the empty part is as quiet as the window around it.
+    const Color stored = frame.surface.look().BackColorBkg;
+    const QColor color = stored == GridSurface::Look().BackColorBkg ? frame.palette.color(QPalette::Window)
+                                                                    : paintedColor(stored, frame.palette);
     const int right = frame.page.right();
     const int bottom = frame.page.bottom();
     if (dirty.right() >= right)
@@ -106,6 +109,9 @@ SurfacePainter::Cell SurfacePainter::readCell(const Frame& frame, PageTexts& tex
     cell.fixed = frame.page.isFixed(rowSpan, colSpan);
     cell.back = paintedColor(style.backColor, frame.palette);
     cell.fore = paintedColor(style.foreColor, frame.palette);
+    if (isSystemColor(style.backColor) != isSystemColor(style.foreColor))
+        cell.fore = readableOn(cell.back, cell.fore);
+    cell.firstRowHeight = rowSpan.size;
     cell.underline = style.underline;
     cell.strikethru = style.strikethru;
     cell.text = texts.at(row, col);
@@ -215,10 +221,12 @@ void SurfacePainter::drawText(QPainter& painter, const Cell& cell) {
     const int left = room.left() + std::max(0, across == 0 ? 0 : across == 1 ? slack / 2 : slack);
     const int spare = room.height() - cell.face->height();
     const int centred = spare / 2;
+    // At the top of a block the text stands level with its neighbours of one row.
+    const int edge = std::min(kEdgePadding, (cell.firstRowHeight - 1 - cell.face->height()) / 2);
     const int down = cell.alignment % 3; // 0 top, 1 centre, 2 bottom
     const int top = room.top() + (down == 1   ? centred
-                                  : down == 0 ? std::min(kTopPadding, centred)
-                                              : std::max(spare - kTopPadding, centred));
+                                  : down == 0 ? std::min(edge, centred)
+                                              : std::max(spare - edge, centred));
     const int baseline = top + cell.face->ascent();
     batch_.add(*cell.face, cell.fore, *text, {left, baseline});
     if (cell.underline)

@@ -29,6 +29,7 @@ public:
 private:
     struct Cell {
         QRect rect;
+        int firstRowHeight = 0; ///< of the block's first row
         bool fixed = false;
         QColor back;
         QColor fore;
