@@ -23,8 +23,22 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , columnProperties(columns, surface, events)
     , groupFactors(state, columns, events)
     , accountColumns(state, columns, surface, roughTextWidth)
+    , groupColumns(state, columns, columnProperties, groupFactors, surface, *host, [this](int count) { setCols(count); })
     , source(state)
     , dictionary(state)
+    , settings(state.Cn)
+    , inputs(state, columns, surface, events)
+    , hierarchy(inputs)
+    , fields(inputs, *host)
+    , masterTable(inputs, *host)
+    , joins(inputs, *host)
+    , translation(inputs, *host)
+    , runTime(inputs, fields, joins, translation, hierarchy, *host)
+    , normal(inputs, hierarchy, *host)
+    , grouped(inputs, dictionary, hierarchy)
+    , statistics(inputs, dictionary, fields, joins, translation, hierarchy, *host)
+    , percentages(inputs, masterTable, fields, joins, hierarchy, *host)
+    , dispatch(inputs, groupColumns, settings, normal, runTime, grouped, statistics)
     , reader(state, columnProperties, columns, surface, events, *host, hooks)
     , driver(state, surface, children.Picture1, dictionary, reader, *host, hooks)
     , emptyReport(state, columnProperties, surface, children.Picture1, dictionary, *host, hooks)
@@ -32,7 +46,22 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , surfaceEvents(state, columnProperties, surface, events, *host) {
     buildMenuBands(children.Picture1);
     columnProperties.resize(surface.Cols());
+    connectHooks();
     lifecycle.initProperties();
+}
+
+/// What a load asks of the other parts.
+void ZkpGrid::Parts::connectHooks() {
+    hooks.LoadIerarxia = [this] { hierarchy.LoadIerarxia(); };
+    hooks.DictionaryLoaded = [this] {
+        if (state.SqlOnRunTime)
+            masterTable.FindMaster();
+    };
+    hooks.DetailStatement = [this] { return dispatch.DetailStatement(); };
+    hooks.OpenTotalRecordset = [this] { dispatch.OpenTotalRecordset(); };
+    hooks.RunTimeSQLCounter = [this] { runTime.RunTimeSQLCounter(); };
+    hooks.CommandFilter = [this] { return hierarchy.recordsetFilter(); };
+    hooks.MakeFixedForGroup = [this] { groupColumns.MakeFixedForGroup(); };
 }
 
 /// A count that is not above 0 is ignored.
@@ -142,6 +171,8 @@ QString ZkpGrid::RecordsourceSTR() const { return parts_->source.text(); }
 bool ZkpGrid::HasTotals() const { return parts_->groupFactors.HasTotals(); }
 short ZkpGrid::FindGroupNum() const { return parts_->groupFactors.FindGroupNum(); }
 void ZkpGrid::CheckGroupBy() { parts_->groupFactors.CheckGroupBy(parts_->surface.Cols()); }
+void ZkpGrid::InsertColumn(int whereisit) { parts_->groupColumns.InsertColumn(whereisit); }
+void ZkpGrid::MakeFixedForGroup() { parts_->groupColumns.MakeFixedForGroup(); }
 bool ZkpGrid::FindAccountColumns() { return parts_->accountColumns.FindAccountColumns(); }
 void ZkpGrid::RecalcBalanceColumn() { parts_->accountColumns.RecalcBalanceColumn(); }
 

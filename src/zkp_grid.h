@@ -126,6 +126,34 @@ public:
 
     Q_INVOKABLE short FindGroupNum() const;
     Q_INVOKABLE void CheckGroupBy();
+    /// Makes an empty column at a position. A failure shows the error box.
+    Q_INVOKABLE void InsertColumn(int whereisit);
+
+    // The statements, and the steps that build them, for hosts that want to see them. Each reads and
+    // writes the control's properties as a load does; a step that fails shows its box.
+    Q_INVOKABLE QString RunTimeSQL();
+    Q_INVOKABLE QString RunTimeSQLCounter();
+    Q_INVOKABLE QString NormalSQL();
+    Q_INVOKABLE QString GroupedSQL();
+    Q_INVOKABLE QString RunTimeStatsSQL();
+    Q_INVOKABLE QString RunTimePosSql();
+    Q_INVOKABLE QString DetailStatement();
+    Q_INVOKABLE void OpenTotalRecordset();
+    Q_INVOKABLE QString makefldSql(const QString& FieldName, QString& Tables, bool WithAlias = true);
+    Q_INVOKABLE void FindMaster();
+    Q_INVOKABLE QString MakeFromAndJoins(QString& Tables);
+    Q_INVOKABLE QString FindJoinON(const QString& Table);
+    Q_INVOKABLE void TranslateFilter(QString& Tables);
+    Q_INVOKABLE void LoadIerarxia();
+    Q_INVOKABLE void LoadDictionary();
+    Q_INVOKABLE void MakeFixedForGroup();
+    Q_INVOKABLE QString ReplaceStringIntoAString(const QString& StrForReplace, const QString& StrSource,
+                                                 const QString& StrDest);
+
+    /// A general setting of the database; "NULL" when there is none, empty when it can't be read.
+    Q_INVOKABLE QString GETGeneral(int IntGenKey, int IntGenSubKey, QString& StrGenDescription);
+    /// False when it could not be stored.
+    Q_INVOKABLE bool SETGeneral(int IntGenKey, int IntGenSubKey, const QString& StrGenDescription);
 
     // What the place that holds the control tells it.
     Q_INVOKABLE void UserControl_Resize();

@@ -10,6 +10,9 @@
 #include "load/load_driver.h"
 #include "load/row_reader.h"
 #include "sql/dictionary.h"
+#include "sql/statement_dispatch.h"
+#include "sql/percentage_statement.h"
+#include "support/settings_store.h"
 #include "ui/lifecycle.h"
 #include "ui/surface_events.h"
 #include "zkp_grid.h"
@@ -33,8 +36,24 @@ struct ZkpGrid::Parts {
     ColumnProperties columnProperties;
     GroupFactorFlags groupFactors;
     AccountColumns accountColumns;
+    GroupColumns groupColumns;
     zkp::RecordSource source;
     Dictionary dictionary;
+    SettingsStore settings;
+
+    BuilderInputs inputs;
+    Hierarchy hierarchy;
+    FieldExpressions fields;
+    MasterTableLookup masterTable;
+    Joins joins;
+    FilterTranslation translation;
+    RunTimeStatement runTime;
+    NormalStatement normal;
+    GroupedStatement grouped;
+    StatisticsStatement statistics;
+    PercentageStatement percentages;
+    StatementDispatch dispatch;
+
     RowReader reader;
     LoadDriver driver;
     EmptyReport emptyReport;
@@ -42,6 +61,9 @@ struct ZkpGrid::Parts {
     SurfaceEvents surfaceEvents;
 
     void setCols(int count);
+
+private:
+    void connectHooks();
 };
 
 } // namespace zkp

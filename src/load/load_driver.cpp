@@ -63,7 +63,7 @@ void LoadDriver::showFailure(const Error& error) {
 
 void LoadDriver::load() {
     surface_.setRedraw(true);
-    loadDictionary();
+    LoadDictionary();
     if (!state_.RefreshOnChange)
         return; // the dictionary follows, the rows stay
 
@@ -81,7 +81,7 @@ void LoadDriver::load() {
     surface_.Refresh();
 }
 
-void LoadDriver::loadDictionary() {
+void LoadDriver::LoadDictionary() {
     if (!dictionary_.isNamed())
         return;
     dictionary_.load();

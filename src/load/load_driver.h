@@ -37,9 +37,11 @@ public:
     /// or a pending event), it shows a box and does nothing else.
     void FillGrid();
 
+    /// Opens the report's dictionary rows, or goes back to the first of them. Nothing without `clmns`.
+    void LoadDictionary();
+
 private:
     void load();
-    void loadDictionary();
     bool makeRecordset();
     void openDetailRecordset();
     void openBySourceType();

@@ -1,5 +1,6 @@
 #include "sql/statement_dispatch.h"
 
+#include "base/error.h"
 #include "base/number.h"
 #include "base/text.h"
 
