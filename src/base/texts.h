@@ -22,6 +22,13 @@ inline QString commandNotSet() {
 }
 inline QString hitBottom() { return QStringLiteral("HitBottom"); }
 
+// Computed columns of loss-ratio reports.
+inline QString lossRatio() { return QStringLiteral("Παραγωγή/Ζημιές (Loss Ratio)"); }
+inline QString lossRatioInverse() { return QStringLiteral("Ζημιές/Παραγωγή (Loss Ratio)"); }
+inline QString lossRatioDifference() { return QStringLiteral("Παραγωγή-Ζημιές"); }
+/// The closing bracket has no opening one, as wanted.
+inline QString lossRatioShare() { return QStringLiteral("Ζημιές%Παραγωγής)"); }
+
 // Statement builders.
 inline QString fieldItemFailed() {
     return QStringLiteral("Δεν μπορώ να δημιουργήσω το Field SQL Statement (makefldSql)");
@@ -48,6 +55,48 @@ inline QString statisticsFailed() {
 }
 inline QString percentagesFailed() {
     return QStringLiteral("Δεν μπορώ να δημιουργήσω το SQL Statement για τα ποσοστά (RunTimePosSql)");
+}
+
+// The columns that the user may pick: the count, and what follows a field's caption for each aggregate.
+inline QString countCaption() { return QStringLiteral("Αριθμός"); }
+inline QString sumSuffix() { return QStringLiteral(" (Αθροισμα)"); }
+inline QString averageSuffix() { return QStringLiteral(" (Μέσος Ορος)"); }
+inline QString minimumSuffix() { return QStringLiteral(" (Minimum)"); }
+inline QString maximumSuffix() { return QStringLiteral(" (Maximum)"); }
+inline QString shareSuffix() { return QStringLiteral(" (Ποσ %)"); }
+
+// The shell's failures, spelt as the office knows them.
+inline QString shellNoMemory() {
+    return QStringLiteral("Το αρχείο δεν μπορεί να φορτωθεί λόγω έλειψης μνήμης");
+}
+inline QString shellNoFile() { return QStringLiteral("Το αρχείο δεν υπάρχει"); }
+inline QString shellNoFolder() { return QStringLiteral("Ο Κατάλογος δεν βρέθηκε"); }
+inline QString shellBadProgram() { return QStringLiteral("The executable file is invalid or corrupt"); }
+inline QString shellNoRights() {
+    return QStringLiteral("Δεν έχετε δικαιώματα πρόσβασης στον κατάλογο ή στο αρχείο");
+}
+inline QString shellBadAssociation() {
+    return QStringLiteral("This file type does not have a valid file association.");
+}
+inline QString shellBusy() {
+    return QStringLiteral("The file could not be opened because the target application is busy. "
+                          "Please try again in a moment.");
+}
+inline QString shellDdeFailed() {
+    return QStringLiteral("The file could not be opened because the DDE transaction failed. "
+                          "Please try again in a moment.");
+}
+inline QString shellTimeout() {
+    return QStringLiteral("The file could not be opened due to time out. Please try again in a moment.");
+}
+inline QString shellNoLibrary() {
+    return QStringLiteral("The specified dynamic-link library was not found.");
+}
+inline QString shellNoProgram() { return QStringLiteral("Το αρχείο δεν έχει συνδεδεμένη εφαρμογή"); }
+inline QString shellInUse() { return QStringLiteral("Το αρχείο χρησιμοποιείτε ήδη απο άλη εφαρμογή"); }
+/// "occurred" stands twice, as wanted.
+inline QString shellFailed() {
+    return QStringLiteral("An error occurred occurred whilst trying to open or print the selected file.");
 }
 
 } // namespace zkp::texts

@@ -16,7 +16,9 @@ void ShowError(Host& host, const Error& error) {
                 texts::errorTitle());
 }
 
-QVariant NullTo(const QVariant& value, const QVariant& fallback) { return value.isValid() ? value : fallback; }
+QVariant NullTo(const QVariant& value, const QVariant& fallback) {
+    return value.isValid() ? value : fallback;
+}
 
 QVariant ToDouble(const QVariant& value, const ReportLocale& locale) {
     const QVariant notNumeric = QVariant::fromValue<short>(0);
