@@ -40,6 +40,8 @@ public:
     const ShapedText& shape(const QString& text);
     /// The beginning of the text that fits, with an ellipsis behind it.
     const ShapedText& shapeElided(const QString& text, int width);
+    /// Texts kept at the moment.
+    qsizetype kept() const { return texts_.size(); }
 
 private:
     ShapedText shapeNow(const QString& text) const;

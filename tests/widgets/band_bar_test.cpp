@@ -1,0 +1,126 @@
+#include "widgets/band_bar.h"
+
+#include "print_qt.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QToolButton>
+#include <QtTest/QTest>
+
+#include <gtest/gtest.h>
+
+namespace zkp {
+namespace {
+
+class BandBarTest : public testing::Test {
+protected:
+    BandBarTest() {
+        Band& band = bar.addBand(kBand);
+        add(band, QStringLiteral("txtRecs"), ToolKind::Label).Text = QStringLiteral("20.000");
+        add(band, QStringLiteral("mnuRefresh"), ToolKind::Button).Caption = QStringLiteral("&Ανανέωση");
+        Tool& list = add(band, QStringLiteral("mnuField"), ToolKind::List);
+        list.list = QStringList{QStringLiteral("Κλάδος"), QStringLiteral("Πελάτης")};
+        add(band, QStringLiteral("mnuCaption"), ToolKind::Text).Text = QStringLiteral("τίτλος");
+        row = std::make_unique<BandBar>(bar, kBand);
+        row->resize(600, row->sizeHint().height());
+        row->show();
+    }
+    Tool& add(Band& band, const QString& name, ToolKind kind) {
+        Tool tool;
+        tool.Name = name;
+        tool.kind = kind;
+        return bar.addTool(band, tool);
+    }
+    template <class Widget>
+    Widget* tool(const char* name) {
+        return row->findChild<Widget*>(QString::fromLatin1(name));
+    }
+
+    const QString kBand = QStringLiteral("BndTemplate");
+    MenuBar bar;
+    std::unique_ptr<BandBar> row;
+};
+
+TEST_F(BandBarTest, TheRowShowsTheBandsToolsWithTheCountAtItsEnd) {
+    EXPECT_EQ(tool<QLabel>("txtRecs")->text(), QStringLiteral("20.000"));
+    EXPECT_GT(tool<QLabel>("txtRecs")->x(), tool<QLineEdit>("mnuCaption")->x());
+    EXPECT_EQ(tool<QToolButton>("mnuRefresh")->toolTip(), QStringLiteral("Ανανέωση"));
+    EXPECT_EQ(tool<QComboBox>("mnuField")->count(), 2);
+    EXPECT_EQ(tool<QLineEdit>("mnuCaption")->text(), QStringLiteral("τίτλος"));
+}
+
+TEST_F(BandBarTest, TheRowFollowsTheModelWhenItIsRefreshed) {
+    bar.Tools(u"txtRecs").Text = QStringLiteral("5");
+    bar.Tools(u"mnuRefresh").Enabled = false;
+    bar.Tools(u"mnuField").Visible = false;
+    bar.Refresh();
+    EXPECT_EQ(tool<QLabel>("txtRecs")->text(), QStringLiteral("5"));
+    EXPECT_FALSE(tool<QToolButton>("mnuRefresh")->isEnabled());
+    EXPECT_FALSE(tool<QComboBox>("mnuField")->isVisible());
+}
+
+TEST_F(BandBarTest, AToolAddedLaterShows) {
+    add(bar.Bands(kBand), QStringLiteral("mnuPrint"), ToolKind::Button).Caption = QStringLiteral("Εκτύπωση");
+    bar.Refresh();
+    ASSERT_NE(tool<QToolButton>("mnuPrint"), nullptr);
+}
+
+TEST_F(BandBarTest, WhatTheUserDoesGoesToTheBar) {
+    QStringList done;
+    bar.toolClicked = [&](Tool& t) { done += t.Name; };
+    bar.listChanged = [&](Tool& t) { done += t.Text; };
+    bar.textChanged = [&](Tool& t) { done += t.Text; };
+    QTest::mouseClick(tool<QToolButton>("mnuRefresh"), Qt::LeftButton);
+    QTest::keyClick(tool<QComboBox>("mnuField"), Qt::Key_Down);
+    tool<QLineEdit>("mnuCaption")->setCursorPosition(100);
+    QTest::keyClick(tool<QLineEdit>("mnuCaption"), Qt::Key_Backspace);
+    EXPECT_EQ(done,
+              (QStringList{QStringLiteral("mnuRefresh"), QStringLiteral("Κλάδος"), QStringLiteral("τίτλο")}));
+}
+
+TEST_F(BandBarTest, AnErrorOfAClickGoesToTheRelay) {
+    QStringList failures;
+    row->failed = [&](const Error& error) { failures += error.description(); };
+    bar.toolClicked = [](Tool&) { throw Error(kErrInvalidCall, QStringLiteral("λάθος")); };
+    QTest::mouseClick(tool<QToolButton>("mnuRefresh"), Qt::LeftButton);
+    EXPECT_EQ(failures, QStringList{QStringLiteral("λάθος")});
+}
+
+TEST_F(BandBarTest, TheRowMayGoAwayInItsClick) {
+    bar.toolClicked = [this](Tool&) { row.release()->deleteLater(); };
+    QTest::mouseClick(tool<QToolButton>("mnuRefresh"), Qt::LeftButton);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(bar.changed, nullptr);
+}
+
+TEST_F(BandBarTest, APopupShowsItsBandWithSubmenus) {
+    Band& popup = bar.addBand(QStringLiteral("mnuPopup"));
+    add(popup, QStringLiteral("mnuDelete"), ToolKind::Button).Caption = QStringLiteral("Διαγραφή");
+    Tool& align = add(popup, QStringLiteral("mnuAlign"), ToolKind::SubMenu);
+    align.Caption = QStringLiteral("Στοίχιση");
+    align.subBand = QStringLiteral("bndAlign");
+    add(bar.addBand(QStringLiteral("bndAlign")), QStringLiteral("mnuLeft"), ToolKind::Check).Checked = true;
+    bar.popup(u"mnuPopup");
+    auto* menu = row->findChild<QMenu*>();
+    ASSERT_NE(menu, nullptr);
+    ASSERT_EQ(menu->actions().size(), 2);
+    QMenu* sub = menu->actions()[1]->menu();
+    ASSERT_NE(sub, nullptr);
+    EXPECT_TRUE(sub->actions()[0]->isChecked());
+    QString clicked;
+    bar.toolClicked = [&](Tool& t) { clicked = t.Name; };
+    menu->actions()[0]->trigger();
+    EXPECT_EQ(clicked, QStringLiteral("mnuDelete"));
+}
+
+TEST_F(BandBarTest, ABandThatOpensItselfEnds) {
+    Band& popup = bar.addBand(QStringLiteral("mnuPopup"));
+    add(popup, QStringLiteral("again"), ToolKind::SubMenu).subBand = QStringLiteral("mnuPopup");
+    bar.popup(u"mnuPopup");
+    EXPECT_NE(row->findChild<QMenu*>(), nullptr);
+}
+
+} // namespace
+} // namespace zkp

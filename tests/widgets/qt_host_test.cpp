@@ -1,0 +1,124 @@
+#include "widgets/qt_host.h"
+
+#include "print_qt.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QColorDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace zkp {
+namespace {
+
+/// Runs `answer` on the dialog once it is open.
+template <class Dialog>
+void whenOpen(std::function<void(Dialog&)> answer) {
+    QTimer::singleShot(0, qApp, [answer] {
+        auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        answer(*dialog);
+    });
+}
+
+TEST(QtHostTest, ABoxShowsItsTextsAndGivesTheButton) {
+    QtHost host;
+    QString text, title;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        text = box.text();
+        title = box.windowTitle();
+        box.button(QMessageBox::No)->click();
+    });
+    EXPECT_EQ(
+        host.msgBox(QStringLiteral("Να ανανεώσω τώρα τη λίστα;"), kMsgBoxQuestion + 4, QStringLiteral("QRN")),
+        kAnswerNo);
+    EXPECT_EQ(text, QStringLiteral("Να ανανεώσω τώρα τη λίστα;"));
+    EXPECT_EQ(title, QStringLiteral("QRN"));
+}
+
+TEST(QtHostTest, APlainBoxAnswersOk) {
+    QtHost host;
+    whenOpen<QMessageBox>([](QMessageBox& box) { box.close(); });
+    EXPECT_EQ(host.msgBox(QStringLiteral("HitBottom"), kMsgBoxPlain, {}), kAnswerOk);
+}
+
+TEST(QtHostTest, ABoxWithAParentIsModalToItsWindowOnly) {
+    QWidget window;
+    window.show();
+    QtHost host(&window);
+    Qt::WindowModality modality = Qt::NonModal;
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        modality = box.windowModality();
+        box.accept();
+    });
+    host.msgBox(QStringLiteral("x"), kMsgBoxCritical, {});
+    EXPECT_EQ(modality, Qt::WindowModal);
+}
+
+TEST(QtHostTest, AParentThatGoesAwayCancels) {
+    auto* window = new QWidget;
+    window->show();
+    QtHost host(window);
+    QTimer::singleShot(0, qApp, [window] { delete window; });
+    EXPECT_EQ(host.msgBox(QStringLiteral("x"), kMsgBoxQuestion + 3, {}), kAnswerCancel);
+}
+
+TEST(QtHostTest, AnInputIsTheTextOrNothing) {
+    QtHost host;
+    whenOpen<QInputDialog>([](QInputDialog& dialog) {
+        dialog.setTextValue(QStringLiteral("Νέο"));
+        dialog.accept();
+    });
+    EXPECT_EQ(host.inputBox(QStringLiteral("Όνομα"), {}, QStringLiteral("Παλιό")), QStringLiteral("Νέο"));
+    whenOpen<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(host.inputBox(QStringLiteral("Όνομα"), {}, {}), std::nullopt);
+}
+
+TEST(QtHostTest, AColourComesBackAsItIsStored) {
+    QtHost host;
+    whenOpen<QColorDialog>([](QColorDialog& dialog) {
+        EXPECT_EQ(dialog.currentColor(), QColor(1, 2, 3));
+        dialog.setCurrentColor(QColor(0x10, 0x20, 0x30));
+        dialog.accept();
+    });
+    EXPECT_EQ(host.colorDialog(0x030201), 0x302010u);
+}
+
+TEST(QtHostTest, ThePointerIsTheApplications) {
+    {
+        QtHost host;
+        host.setPointer(kPointerHourglass);
+        ASSERT_NE(QApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        EXPECT_EQ(host.pointer(), kPointerHourglass);
+        host.setPointer(kPointerHourglass);
+        host.setPointer(kPointerDefault);
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+        host.setPointer(kPointerHourglass);
+    }
+    EXPECT_EQ(QApplication::overrideCursor(), nullptr) << "a host that goes away leaves no pointer behind";
+}
+
+TEST(QtHostTest, AFileThatIsNotThereIsNotOpened) {
+    QtHost host;
+    EXPECT_LE(host.shellOpen(QStringLiteral("/no/such/file.xlsx"), QStringLiteral("open"), {}, {}, 1), 32);
+    EXPECT_LE(host.shellOpen(QStringLiteral("/no/such/program"), QStringLiteral("open"), QStringLiteral("-x"),
+                             {}, 1),
+              32);
+}
+
+TEST(QtHostTest, PendingEventsRunOnce) {
+    QtHost host;
+    int ran = 0;
+    QTimer::singleShot(0, qApp, [&] { ++ran; });
+    host.runPendingEvents();
+    EXPECT_EQ(ran, 1);
+}
+
+} // namespace
+} // namespace zkp
