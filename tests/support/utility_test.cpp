@@ -25,8 +25,9 @@ TEST(ShowError, ABadStatementHasAFixedTextAndTheExclamation) {
     ShowError(host, Error(0x80040E14, u"near \"from\": syntax error"_s));
     ASSERT_EQ(host.messages.size(), 1u);
     // Its first letter is a Latin H; the text is not put in capitals.
-    EXPECT_EQ(host.messages[0].text,
-              u"Παρουσιάστικε Εξαίρεση : \r\rH στήλη που επιλέξατε υπάρχει ήδη στη λίστα ή δεν είναι εγκυρη.\r\r"_s);
+    EXPECT_EQ(
+        host.messages[0].text,
+        u"Παρουσιάστικε Εξαίρεση : \r\rH στήλη που επιλέξατε υπάρχει ήδη στη λίστα ή δεν είναι εγκυρη.\r\r"_s);
     EXPECT_EQ(host.messages[0].text.at(27), QChar(u'H'));
     EXPECT_EQ(host.messages[0].style, 48);
     EXPECT_EQ(host.messages[0].title, u"QRN Insurance"_s);
