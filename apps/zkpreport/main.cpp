@@ -1,3 +1,5 @@
 #include "commands/command.h"
 
-int main(int argc, char** argv) { return zkp::app::runCommandLine({argc, argv}); }
+int main(int argc, char** argv) {
+    return zkp::app::runCommandLine({argc, argv});
+}

@@ -10,8 +10,8 @@ namespace zkp::app {
 namespace {
 
 constexpr std::array kCommands{
-    Command{"show", "[--database FILE] [--picture FILE]", "shows a plain report of a database; the usual command",
-            runShow},
+    Command{"show", "[--database FILE] [--picture FILE]",
+            "shows a plain report of a database; the usual command", runShow},
     Command{"run", "FILE.js [ARGUMENT...]", "runs a script, with no window and no display", runRun},
     Command{"demo-db", "FILE [--rows N] [--seed S]", "makes the demonstration database", runDemoDb},
 };
@@ -44,10 +44,16 @@ void printBytes(std::FILE* to, const QString& line) {
 
 } // namespace
 
-std::span<const Command> commands() { return kCommands; }
+std::span<const Command> commands() {
+    return kCommands;
+}
 
-void printLine(const QString& line) { printBytes(stdout, line); }
-void printError(const QString& line) { printBytes(stderr, line); }
+void printLine(const QString& line) {
+    printBytes(stdout, line);
+}
+void printError(const QString& line) {
+    printBytes(stderr, line);
+}
 
 int runCommandLine(Start start) {
     QStringList arguments;
@@ -65,7 +71,8 @@ int runCommandLine(Start start) {
     }
     const Command* command = findCommand(first);
     if (!command) {
-        printError(QStringLiteral("zkpreport: there is no command %1; zkpreport --help lists them").arg(first));
+        printError(
+            QStringLiteral("zkpreport: there is no command %1; zkpreport --help lists them").arg(first));
         return kExitUsage;
     }
     return command->run(start, arguments.mid(1));

@@ -31,14 +31,16 @@ int runDemoDb(Start start, const QStringList& arguments) {
     const QCoreApplication application(start.argc, start.argv);
     demo::Options options;
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Makes the demonstration database of an insurance office."));
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("Where it goes; must not exist yet."));
+    parser.setApplicationDescription(
+        QStringLiteral("Makes the demonstration database of an insurance office."));
+    parser.addPositionalArgument(QStringLiteral("FILE"),
+                                 QStringLiteral("Where it goes; must not exist yet."));
     parser.addOption({QStringLiteral("rows"), QStringLiteral("How many policies (%1).").arg(options.policies),
                       QStringLiteral("N")});
-    parser.addOption({QStringLiteral("seed"),
-                      QStringLiteral("The same seed and number of policies give the same data (%1).")
-                          .arg(options.seed),
-                      QStringLiteral("S")});
+    parser.addOption(
+        {QStringLiteral("seed"),
+         QStringLiteral("The same seed and number of policies give the same data (%1).").arg(options.seed),
+         QStringLiteral("S")});
     if (const auto exitCode = parseArguments(parser, QStringLiteral("demo-db"), arguments))
         return *exitCode;
     if (parser.positionalArguments().size() != 1) {

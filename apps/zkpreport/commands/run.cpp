@@ -12,10 +12,11 @@ int runRun(Start start, const QStringList& arguments) {
         return kExitUsage;
     }
     if (arguments.front() == QLatin1String("--help") || arguments.front() == QLatin1String("-h")) {
-        printLine(QStringLiteral("Usage: zkpreport run FILE.js [ARGUMENT...]\n\n"
-                                 "Runs a script against the report engine. The script finds the arguments in\n"
-                                 "`args`. Exit code 0: the script ended; 1: it failed, FILE:LINE: message is on\n"
-                                 "standard error; 2: it could not be read."));
+        printLine(
+            QStringLiteral("Usage: zkpreport run FILE.js [ARGUMENT...]\n\n"
+                           "Runs a script against the report engine. The script finds the arguments in\n"
+                           "`args`. Exit code 0: the script ended; 1: it failed, FILE:LINE: message is on\n"
+                           "standard error; 2: it could not be read."));
         return kExitDone;
     }
     const QCoreApplication application(start.argc, start.argv);

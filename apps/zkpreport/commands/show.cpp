@@ -52,7 +52,6 @@ int showWindow(const QString& database) {
 int drawPicture(const QString& database, const QString& picture) {
     const auto host = std::make_shared<ConsoleHost>();
     ReportWindow window(host);
-    window.show();
     const bool isLoaded = window.showDatabase(database) && host->messages.empty();
     QApplication::processEvents();
     if (!isLoaded)
@@ -94,10 +93,12 @@ int runShow(Start start, const QStringList& arguments) {
     const QString database = named.isEmpty() ? parser.value(QStringLiteral("database")) : named.front();
     if (!QFileInfo::exists(database)) {
         printError(QStringLiteral("zkpreport show: there is no file %1; zkpreport demo-db %1 makes a "
-                                  "demonstration database").arg(database));
+                                  "demonstration database")
+                       .arg(database));
         return kExitUsage;
     }
-    return hasDisplay() ? showWindow(database) : drawPicture(database, parser.value(QStringLiteral("picture")));
+    return hasDisplay() ? showWindow(database)
+                        : drawPicture(database, parser.value(QStringLiteral("picture")));
 }
 
 } // namespace zkp::app

@@ -27,15 +27,15 @@ int choice(const QVariant& value, const char* what) {
 } // namespace
 
 ScriptObjectPtr ConnectionObject::of(Bridge& bridge, const ado::ConnectionPtr& connection) {
-    return connection ? bridge.shared<ConnectionObject>(connection.get(), connection) : nullptr;
+    return connection ? bridge.shared<ConnectionObject>(connection.get(), nullptr, connection) : nullptr;
 }
 
 ScriptObjectPtr CommandObject::of(Bridge& bridge, const ado::CommandPtr& command) {
-    return command ? bridge.shared<CommandObject>(command.get(), command) : nullptr;
+    return command ? bridge.shared<CommandObject>(command.get(), nullptr, command) : nullptr;
 }
 
 ScriptObjectPtr RecordsetObject::of(Bridge& bridge, const ado::RecordsetPtr& recordset) {
-    return recordset ? bridge.shared<RecordsetObject>(recordset.get(), recordset) : nullptr;
+    return recordset ? bridge.shared<RecordsetObject>(recordset.get(), nullptr, recordset) : nullptr;
 }
 
 ScriptObjectPtr FieldsObject::Item(const QVariant& nameOrIndex) {

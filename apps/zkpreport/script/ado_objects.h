@@ -21,7 +21,8 @@ class ConnectionObject : public ScriptObject {
     Q_PROPERTY(QString LastStatementSent READ LastStatementSent)
 
 public:
-    explicit ConnectionObject(ado::ConnectionPtr connection) : connection_(std::move(connection)) {}
+    explicit ConnectionObject(ado::ConnectionPtr connection)
+        : connection_(std::move(connection)) {}
     /// The object for a connection of the engine; null for null.
     static ScriptObjectPtr of(Bridge& bridge, const ado::ConnectionPtr& connection);
 
@@ -60,7 +61,8 @@ class CommandObject : public ScriptObject {
     Q_PROPERTY(zkp::ado::ConnectionPtr ActiveConnection READ ActiveConnection WRITE setActiveConnection)
 
 public:
-    explicit CommandObject(ado::CommandPtr command) : command_(std::move(command)) {}
+    explicit CommandObject(ado::CommandPtr command)
+        : command_(std::move(command)) {}
     static ScriptObjectPtr of(Bridge& bridge, const ado::CommandPtr& command);
 
     QString className() const override { return QStringLiteral("Command"); }
@@ -69,7 +71,9 @@ public:
     QString CommandText() const { return command_->CommandText; }
     void setCommandText(const QString& text) { command_->CommandText = text; }
     ado::ConnectionPtr ActiveConnection() const { return command_->ActiveConnection; }
-    void setActiveConnection(const ado::ConnectionPtr& connection) { command_->ActiveConnection = connection; }
+    void setActiveConnection(const ado::ConnectionPtr& connection) {
+        command_->ActiveConnection = connection;
+    }
 
 private:
     ado::CommandPtr command_;
@@ -84,7 +88,9 @@ class FieldObject : public ScriptObject {
     Q_PROPERTY(QVariant Value READ Value WRITE setValue)
 
 public:
-    FieldObject(ado::RecordsetPtr recordset, int index) : recordset_(std::move(recordset)), index_(index) {}
+    FieldObject(ado::RecordsetPtr recordset, int index)
+        : recordset_(std::move(recordset))
+        , index_(index) {}
 
     QString className() const override { return QStringLiteral("Field"); }
 
@@ -107,7 +113,8 @@ class FieldsObject : public ScriptObject {
     Q_PROPERTY(int Count READ Count)
 
 public:
-    explicit FieldsObject(ado::RecordsetPtr recordset) : recordset_(std::move(recordset)) {}
+    explicit FieldsObject(ado::RecordsetPtr recordset)
+        : recordset_(std::move(recordset)) {}
 
     QString className() const override { return QStringLiteral("Fields"); }
     bool isCallable() const override { return true; }
@@ -137,7 +144,8 @@ class RecordsetObject : public ScriptObject {
     Q_PROPERTY(zkp::script::ScriptObjectPtr Fields READ Fields)
 
 public:
-    explicit RecordsetObject(ado::RecordsetPtr recordset) : recordset_(std::move(recordset)) {}
+    explicit RecordsetObject(ado::RecordsetPtr recordset)
+        : recordset_(std::move(recordset)) {}
     static ScriptObjectPtr of(Bridge& bridge, const ado::RecordsetPtr& recordset);
 
     QString className() const override { return QStringLiteral("Recordset"); }

@@ -21,11 +21,16 @@ QObject& targetOf(ScriptObject& object, const ScriptMember& member) {
 
 } // namespace
 
-QString Bridge::bridgeFile() { return QStringLiteral("file:zkp:bridge"); }
+QString Bridge::bridgeFile() {
+    return QStringLiteral("file:zkp:bridge");
+}
 
-Bridge::Bridge(QJSEngine& engine) : engine_(engine), values_(*this), gate_(*this) {
+Bridge::Bridge(QJSEngine& engine)
+    : engine_(engine)
+    , values_(*this)
+    , gate_(*this) {
     QJSEngine::setObjectOwnership(&gate_, QJSEngine::CppOwnership);
-    const QJSValue maker = engine_.evaluate(QString::fromUtf8(kBridgeSource), bridgeFile());
+    const QJSValue maker = engine_.evaluate(QString::fromUtf8(kBridgeSource), QStringLiteral("zkp:bridge"));
     helpers_ = maker.call({engine_.newQObject(&gate_), QJSValue(bridgeFile())});
     if (helpers_.isError())
         throw Error(kErrInvalidCall, helpers_.toString());
@@ -34,7 +39,9 @@ Bridge::Bridge(QJSEngine& engine) : engine_(engine), values_(*this), gate_(*this
 
 Bridge::~Bridge() = default;
 
-QJSValue Bridge::helper(const char* name) const { return helpers_.property(QString::fromLatin1(name)); }
+QJSValue Bridge::helper(const char* name) const {
+    return helpers_.property(QString::fromLatin1(name));
+}
 
 void Bridge::addGlobal(const QString& name, const QJSValue& value) {
     engine_.globalObject().setProperty(name, value);
@@ -80,7 +87,8 @@ QJSValue Bridge::facade(const ScriptObjectPtr& object) {
         handlesSinceSweep_ = 0;
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         std::erase_if(shared_, [](const auto& entry) { return entry.second.expired(); });
-        std::erase_if(handles_, [&](const auto& entry) { return !entry.second && entry.first != object.get(); });
+        std::erase_if(handles_,
+                      [&](const auto& entry) { return !entry.second && entry.first != object.get(); });
     }
     auto* handle = new ScriptHandle(object);
     handles_[object.get()] = handle;
@@ -113,8 +121,8 @@ QJSValue Bridge::invoke(const QJSValue& function, const QJSValue& argument) {
     const QJSValue thrown = outcome.isError() ? outcome : outcome.property(QStringLiteral("thrown"));
     keepFailure(thrown);
     const QJSValue number = thrown.property(QStringLiteral("number"));
-    const QString message = thrown.isError() ? thrown.property(QStringLiteral("message")).toString()
-                                             : thrown.toString();
+    const QString message =
+        thrown.isError() ? thrown.property(QStringLiteral("message")).toString() : thrown.toString();
     throw Error(number.isNumber() ? static_cast<std::uint32_t>(number.toNumber()) : kErrInvalidCall, message);
 }
 
@@ -136,8 +144,8 @@ void Bridge::locate(const QJSValue& error) {
 }
 
 QJSValue Bridge::makeError(const Error& error) {
-    return helper("makeError").call({QJSValue(error.number()), QJSValue(error.description()),
-                                     QJSValue(error.source())});
+    return helper("makeError")
+        .call({QJSValue(error.number()), QJSValue(error.description()), QJSValue(error.source())});
 }
 
 QJSValue Bridge::guarded(const std::function<QJSValue()>& work) {
@@ -216,8 +224,7 @@ QJSValue Bridge::call(ScriptHandle* handle, int id, const QJSValue& arguments) {
 QJSValue Bridge::create(const QString& className, int argumentCount) {
     return guarded([&] {
         if (argumentCount > 0) {
-            throw Error(kErrArgumentCount,
-                        QStringLiteral("new %1() takes no arguments").arg(className));
+            throw Error(kErrArgumentCount, QStringLiteral("new %1() takes no arguments").arg(className));
         }
         return facade(constructors_.value(className)());
     });

@@ -14,6 +14,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <tuple>
 
 namespace zkp::script {
 
@@ -38,9 +39,11 @@ public:
     /// The script's object for an object, the same each time as long as the script holds it; null for null.
     QJSValue facade(const ScriptObjectPtr& object);
 
-    /// The object of class T for something of the engine at `key`: the one that lives, or a new one.
-    template <class T, class... Args> std::shared_ptr<T> shared(const void* key, Args&&... args) {
-        std::weak_ptr<ScriptObject>& known = shared_[{key, &T::staticMetaObject}];
+    /// The object of class T for something of the engine at an address: the one that lives, or a new
+    /// one. `owner` is what keeps the address from meaning something else while the object lives.
+    template <class T, class... Args>
+    std::shared_ptr<T> shared(const void* address, const void* owner, Args&&... args) {
+        std::weak_ptr<ScriptObject>& known = shared_[{address, owner, &T::staticMetaObject}];
         if (const ScriptObjectPtr alive = known.lock())
             return std::static_pointer_cast<T>(alive);
         const auto made = std::make_shared<T>(std::forward<Args>(args)...);
@@ -63,6 +66,7 @@ public:
 
     /// A thrown value's place in the script ("FILE:LINE") is set right if it points into the bridge.
     void locate(const QJSValue& error);
+    /// The file that bridge.js goes by in places and traces, in the engine's own form.
     static QString bridgeFile();
 
     // The gate's side: what a script does with an object.
@@ -93,7 +97,7 @@ private:
     std::vector<MemberPlace> members_;
     QHash<QString, std::function<ScriptObjectPtr()>> constructors_;
     QHash<QString, QJSValue> argumentGuards_;
-    std::map<std::pair<const void*, const QMetaObject*>, std::weak_ptr<ScriptObject>> shared_;
+    std::map<std::tuple<const void*, const void*, const QMetaObject*>, std::weak_ptr<ScriptObject>> shared_;
     std::map<const ScriptObject*, QPointer<ScriptHandle>> handles_;
     std::function<void(const QString&)> printer_;
     CallFrame* frame_ = nullptr;

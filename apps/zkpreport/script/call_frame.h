@@ -10,7 +10,10 @@ namespace zkp::script {
 /// failure here: however the control ends the operation, the script then gets the handler's failure.
 class CallFrame {
 public:
-    explicit CallFrame(CallFrame*& top) : top_(top), outer_(top), depth_(outer_ ? outer_->depth_ + 1 : 1) {
+    explicit CallFrame(CallFrame*& top)
+        : top_(top)
+        , outer_(top)
+        , depth_(outer_ ? outer_->depth_ + 1 : 1) {
         top_ = this;
     }
     ~CallFrame() { top_ = outer_; }

@@ -13,7 +13,8 @@ class ButtonObject : public ScriptObject {
     Q_PROPERTY(bool Enabled READ Enabled WRITE setEnabled)
 
 public:
-    explicit ButtonObject(ScriptControlPtr control) : control_(std::move(control)) {}
+    explicit ButtonObject(ScriptControlPtr control)
+        : control_(std::move(control)) {}
 
     QString className() const override { return QStringLiteral("Button"); }
 
@@ -39,7 +40,8 @@ class LabelObject : public ScriptObject {
 
 public:
     LabelObject(ScriptControlPtr control, Label& (ZkpGrid::*which)())
-        : control_(std::move(control)), which_(which) {}
+        : control_(std::move(control))
+        , which_(which) {}
 
     QString className() const override { return QStringLiteral("Label"); }
 

@@ -15,7 +15,7 @@ Column& ColumnObject::record() const {
 
 ScriptObjectPtr ColumnsObject::Item(int number) {
     Column& record = control_->grid().Columns().Item(number);
-    return control_->bridge().shared<ColumnObject>(&record, control_, record);
+    return control_->bridge().shared<ColumnObject>(&record, control_.get(), control_, record);
 }
 
 } // namespace zkp::script

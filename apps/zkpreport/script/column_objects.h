@@ -11,13 +11,21 @@ class ColumnObject : public ScriptObject {
 
 #define ZKP_COLUMN_PROPERTY(Type, Name)                                                                      \
     Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
-    Type Name() const { return record().Name; }                                                              \
-    void set##Name(const Type& value) { record().Name = value; }
+    Type Name() const {                                                                                      \
+        return record().Name;                                                                                \
+    }                                                                                                        \
+    void set##Name(const Type& value) {                                                                      \
+        record().Name = value;                                                                               \
+    }
 
 public:
-    ColumnObject(ScriptControlPtr control, Column& record) : control_(std::move(control)), record_(&record) {}
+    ColumnObject(ScriptControlPtr control, Column& record)
+        : control_(std::move(control))
+        , record_(&record) {}
 
-    QString className() const override { return QStringLiteral("Column"); }
+    QString className() const override {
+        return QStringLiteral("Column");
+    }
 
     ZKP_COLUMN_MEMBERS(ZKP_COLUMN_PROPERTY)
 #undef ZKP_COLUMN_PROPERTY
@@ -36,7 +44,8 @@ class ColumnsObject : public ScriptObject {
     Q_PROPERTY(int Count READ Count)
 
 public:
-    explicit ColumnsObject(ScriptControlPtr control) : control_(std::move(control)) {}
+    explicit ColumnsObject(ScriptControlPtr control)
+        : control_(std::move(control)) {}
 
     QString className() const override { return QStringLiteral("Columns"); }
     bool isCallable() const override { return true; }

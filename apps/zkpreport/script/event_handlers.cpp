@@ -9,7 +9,8 @@ namespace {
 using ListPtr = std::shared_ptr<EventHandlers::List>;
 using Binder = QMetaObject::Connection (*)(Events&, const ListPtr&);
 
-template <class Args> QJSValue argumentObject(Args& e, const EventHandlers::List& list) {
+template <class Args>
+QJSValue argumentObject(Args& e, const EventHandlers::List& list) {
     QStringList names;
     QList<QJSValue> values;
     visit(e, [&](const char* name, auto& member) {
@@ -20,7 +21,8 @@ template <class Args> QJSValue argumentObject(Args& e, const EventHandlers::List
 }
 
 /// What the handlers left in the argument object goes back to the control.
-template <class Args> void writeBack(Args& e, const QJSValue& object, const EventHandlers::List& list) {
+template <class Args>
+void writeBack(Args& e, const QJSValue& object, const EventHandlers::List& list) {
     visit(e, [&]<class Member>(const char* name, Member& member) {
         const QString key = QString::fromLatin1(name);
         const QVariant left =
@@ -33,7 +35,8 @@ template <class Args> void writeBack(Args& e, const QJSValue& object, const Even
     });
 }
 
-template <class Args> void raiseWith(Args& e, const EventHandlers::List& list) {
+template <class Args>
+void raiseWith(Args& e, const EventHandlers::List& list) {
     const QJSValue object = argumentObject(e, list);
     list.raise(object);
     try {
@@ -52,8 +55,8 @@ const std::map<QString, Binder>& binders() {
     {QStringLiteral(#name), [](Events& events, const ListPtr& list) {                                        \
          return QObject::connect(&events, &Events::name, [list](Args& e) { raiseWith(e, *list); });          \
      }},
-    static const std::map<QString, Binder> all{
-        ZKP_PLAIN_EVENTS(ZKP_BIND_PLAIN) ZKP_ARGUMENT_EVENTS(ZKP_BIND_ARGUMENT)};
+    static const std::map<QString, Binder> all{ZKP_PLAIN_EVENTS(ZKP_BIND_PLAIN)
+                                                   ZKP_ARGUMENT_EVENTS(ZKP_BIND_ARGUMENT)};
 #undef ZKP_BIND_PLAIN
 #undef ZKP_BIND_ARGUMENT
     return all;

@@ -14,7 +14,9 @@ namespace zkp::script {
 /// only while there is a function for it, so that the control knows which events are heard.
 class EventHandlers {
 public:
-    EventHandlers(Bridge& bridge, Events& events) : bridge_(bridge), events_(events) {}
+    EventHandlers(Bridge& bridge, Events& events)
+        : bridge_(bridge)
+        , events_(events) {}
 
     ~EventHandlers() { clear(); }
     EventHandlers(const EventHandlers&) = delete;

@@ -13,7 +13,8 @@ class EventObject : public ScriptObject {
 
 public:
     EventObject(ScriptControlPtr control, QString event)
-        : control_(std::move(control)), event_(std::move(event)) {}
+        : control_(std::move(control))
+        , event_(std::move(event)) {}
 
     QString className() const override { return event_; }
 
@@ -31,12 +32,17 @@ class EventsObject : public ScriptObject {
 
 #define ZKP_EVENT_PROPERTY(name, ...)                                                                        \
     Q_PROPERTY(zkp::script::ScriptObjectPtr name READ name)                                                  \
-    ScriptObjectPtr name() const { return event(QStringLiteral(#name)); }
+    ScriptObjectPtr name() const {                                                                           \
+        return event(QStringLiteral(#name));                                                                 \
+    }
 
 public:
-    explicit EventsObject(ScriptControlPtr control) : control_(std::move(control)) {}
+    explicit EventsObject(ScriptControlPtr control)
+        : control_(std::move(control)) {}
 
-    QString className() const override { return QStringLiteral("Events"); }
+    QString className() const override {
+        return QStringLiteral("Events");
+    }
 
     ZKP_PLAIN_EVENTS(ZKP_EVENT_PROPERTY)
     ZKP_ARGUMENT_EVENTS(ZKP_EVENT_PROPERTY)

@@ -20,6 +20,8 @@ QJSValue Gate::create(const QString& className, int argumentCount) {
     return bridge_.create(className, argumentCount);
 }
 
-void Gate::print(const QString& line) { bridge_.print(line); }
+void Gate::print(const QString& line) {
+    bridge_.print(line);
+}
 
 } // namespace zkp::script

@@ -12,7 +12,8 @@ class Gate : public QObject {
     Q_OBJECT
 
 public:
-    explicit Gate(Bridge& bridge) : bridge_(bridge) {}
+    explicit Gate(Bridge& bridge)
+        : bridge_(bridge) {}
 
     Q_INVOKABLE QJSValue get(QObject* handle, int member);
     Q_INVOKABLE void set(QObject* handle, int member, const QJSValue& value);

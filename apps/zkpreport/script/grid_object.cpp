@@ -10,27 +10,29 @@
 namespace zkp::script {
 
 ScriptObjectPtr GridObject::Columns() const {
-    return control_->bridge().shared<ColumnsObject>(&control_->grid().Columns(), control_);
+    return control_->bridge().shared<ColumnsObject>(&control_->grid().Columns(), control_.get(), control_);
 }
 
 ScriptObjectPtr GridObject::events() const {
-    return control_->bridge().shared<EventsObject>(&control_->grid().events(), control_);
+    return control_->bridge().shared<EventsObject>(&control_->grid().events(), control_.get(), control_);
 }
 
 ScriptObjectPtr GridObject::Picture1() const {
-    return control_->bridge().shared<MenuBarObject>(&control_->grid().Picture1(), control_);
+    return control_->bridge().shared<MenuBarObject>(&control_->grid().Picture1(), control_.get(), control_);
 }
 
 ScriptObjectPtr GridObject::cmdHide() const {
-    return control_->bridge().shared<ButtonObject>(&control_->grid().cmdHide(), control_);
+    return control_->bridge().shared<ButtonObject>(&control_->grid().cmdHide(), control_.get(), control_);
 }
 
 ScriptObjectPtr GridObject::surface(GridSurface& (ZkpGrid::*which)()) const {
-    return control_->bridge().shared<SurfaceObject>(&(control_->grid().*which)(), control_, which);
+    return control_->bridge().shared<SurfaceObject>(&(control_->grid().*which)(), control_.get(), control_,
+                                                    which);
 }
 
 ScriptObjectPtr GridObject::label(Label& (ZkpGrid::*which)()) const {
-    return control_->bridge().shared<LabelObject>(&(control_->grid().*which)(), control_, which);
+    return control_->bridge().shared<LabelObject>(&(control_->grid().*which)(), control_.get(), control_,
+                                                  which);
 }
 
 int GridObject::UserControl_KeyDown(int& KeyCode, int Shift) {

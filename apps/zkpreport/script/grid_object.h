@@ -19,7 +19,8 @@ class GridObject : public ScriptObject {
     Q_PROPERTY(zkp::script::ScriptObjectPtr lblfilter READ lblfilter)
 
 public:
-    explicit GridObject(ScriptControlPtr control) : control_(std::move(control)) {}
+    explicit GridObject(ScriptControlPtr control)
+        : control_(std::move(control)) {}
 
     QString className() const override { return QStringLiteral("ZkpGrid"); }
     QObject* delegate() const override { return &control_->grid(); }

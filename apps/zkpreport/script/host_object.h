@@ -15,8 +15,12 @@ class HostObject : public ScriptObject {
 
 #define ZKP_HOST_FUNCTION(Name, member)                                                                      \
     Q_PROPERTY(QJSValue Name READ Name WRITE set##Name)                                                      \
-    QJSValue Name() const { return host_->member; }                                                          \
-    void set##Name(const QJSValue& function) { setFunction(host_->member, function, #Name); }
+    QJSValue Name() const {                                                                                  \
+        return host_->member;                                                                                \
+    }                                                                                                        \
+    void set##Name(const QJSValue& function) {                                                               \
+        setFunction(host_->member, function, #Name);                                                         \
+    }
 
     Q_PROPERTY(QJSValue messages READ messages WRITE setMessages)
     Q_PROPERTY(QJSValue opened READ opened WRITE setOpened)
@@ -27,20 +31,43 @@ class HostObject : public ScriptObject {
 public:
     /// `localeChanged` passes a new locale on to the controls.
     HostObject(std::shared_ptr<ScriptsHost> host, std::function<void(const QLocale&)> localeChanged)
-        : host_(std::move(host)), localeChanged_(std::move(localeChanged)) {}
+        : host_(std::move(host))
+        , localeChanged_(std::move(localeChanged)) {}
 
-    QString className() const override { return QStringLiteral("host"); }
+    QString className() const override {
+        return QStringLiteral("host");
+    }
 
-    QJSValue messages() const { return host_->messageList; }
-    void setMessages(const QJSValue& list) { setList(host_->messageList, list, "messages"); }
-    QJSValue opened() const { return host_->openedList; }
-    void setOpened(const QJSValue& list) { setList(host_->openedList, list, "opened"); }
-    int beeps() const { return host_->beeps; }
-    void setBeeps(int count) { host_->beeps = count; }
-    int pointer() const { return host_->pointer(); }
-    void setPointer(int pointer) { host_->setPointer(pointer); }
-    QLocale locale() const { return QLocale(); }
-    void setLocale(const QLocale& locale) { localeChanged_(locale); }
+    QJSValue messages() const {
+        return host_->messageList;
+    }
+    void setMessages(const QJSValue& list) {
+        setList(host_->messageList, list, "messages");
+    }
+    QJSValue opened() const {
+        return host_->openedList;
+    }
+    void setOpened(const QJSValue& list) {
+        setList(host_->openedList, list, "opened");
+    }
+    int beeps() const {
+        return host_->beeps;
+    }
+    void setBeeps(int count) {
+        host_->beeps = count;
+    }
+    int pointer() const {
+        return host_->pointer();
+    }
+    void setPointer(int pointer) {
+        host_->setPointer(pointer);
+    }
+    QLocale locale() const {
+        return QLocale();
+    }
+    void setLocale(const QLocale& locale) {
+        localeChanged_(locale);
+    }
 
     ZKP_HOST_FUNCTION(onMsgBox, msgBoxFunction)
     ZKP_HOST_FUNCTION(onInputBox, inputBoxFunction)

@@ -7,7 +7,7 @@ namespace zkp::script {
 namespace {
 
 ScriptObjectPtr toolObject(const ScriptControlPtr& control, const Tool& tool) {
-    return control->bridge().shared<ToolObject>(&tool, control, tool.Name);
+    return control->bridge().shared<ToolObject>(&tool, control.get(), control, tool.Name);
 }
 
 } // namespace
@@ -24,13 +24,17 @@ QString ToolObject::List(int index) const {
     return tool().list.at(index);
 }
 
-ScriptObjectPtr BandObject::Tools(const QString& name) { return toolObject(control_, band().Tools(name)); }
+ScriptObjectPtr BandObject::Tools(const QString& name) {
+    return toolObject(control_, band().Tools(name));
+}
 
 ScriptObjectPtr MenuBarObject::Bands(const QString& name) {
     const Band& band = bar().Bands(name);
-    return control_->bridge().shared<BandObject>(&band, control_, band.Name);
+    return control_->bridge().shared<BandObject>(&band, control_.get(), control_, band.Name);
 }
 
-ScriptObjectPtr MenuBarObject::Tools(const QString& name) { return toolObject(control_, bar().Tools(name)); }
+ScriptObjectPtr MenuBarObject::Tools(const QString& name) {
+    return toolObject(control_, bar().Tools(name));
+}
 
 } // namespace zkp::script

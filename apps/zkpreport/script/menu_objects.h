@@ -19,7 +19,9 @@ class ToolObject : public ScriptObject {
     Q_PROPERTY(int ListCount READ ListCount)
 
 public:
-    ToolObject(ScriptControlPtr control, QString name) : control_(std::move(control)), name_(std::move(name)) {}
+    ToolObject(ScriptControlPtr control, QString name)
+        : control_(std::move(control))
+        , name_(std::move(name)) {}
 
     QString className() const override { return QStringLiteral("Tool"); }
 
@@ -55,7 +57,9 @@ class BandObject : public ScriptObject {
     Q_PROPERTY(double Height READ Height WRITE setHeight)
 
 public:
-    BandObject(ScriptControlPtr control, QString name) : control_(std::move(control)), name_(std::move(name)) {}
+    BandObject(ScriptControlPtr control, QString name)
+        : control_(std::move(control))
+        , name_(std::move(name)) {}
 
     QString className() const override { return QStringLiteral("Band"); }
 
@@ -78,7 +82,8 @@ class MenuBarObject : public ScriptObject {
     Q_PROPERTY(QString lastPopup READ lastPopup)
 
 public:
-    explicit MenuBarObject(ScriptControlPtr control) : control_(std::move(control)) {}
+    explicit MenuBarObject(ScriptControlPtr control)
+        : control_(std::move(control)) {}
 
     QString className() const override { return QStringLiteral("MenuBar"); }
 

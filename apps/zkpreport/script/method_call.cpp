@@ -47,6 +47,10 @@ int argumentCount(const QJSValue& arguments) {
     return count;
 }
 
+QString counted(int count) {
+    return count == 1 ? QStringLiteral("1 argument") : QStringLiteral("%1 arguments").arg(count);
+}
+
 const QMetaMethod& overloadFor(const ScriptMember& member, int count) {
     for (const QMetaMethod& method : member.overloads) {
         if (method.parameterCount() == count)
@@ -55,11 +59,10 @@ const QMetaMethod& overloadFor(const ScriptMember& member, int count) {
     const int most = member.overloads.back().parameterCount();
     if (count > most) {
         throw Error(kErrArgumentCount,
-                    QStringLiteral("%1 takes %2 arguments at most, not %3").arg(member.name).arg(most).arg(count));
+                    QStringLiteral("%1 takes %2 at most, not %3").arg(member.name, counted(most)).arg(count));
     }
-    throw Error(kErrArgumentMissing, QStringLiteral("%1 needs %2 arguments, not %3")
-                                         .arg(member.name)
-                                         .arg(member.overloads.front().parameterCount())
+    throw Error(kErrArgumentMissing, QStringLiteral("%1 needs %2, not %3")
+                                         .arg(member.name, counted(member.overloads.front().parameterCount()))
                                          .arg(count));
 }
 

@@ -4,7 +4,8 @@
 
 namespace zkp::script {
 
-ScriptClass::ScriptClass(const ScriptObject& sample) : name_(sample.className()) {
+ScriptClass::ScriptClass(const ScriptObject& sample)
+    : name_(sample.className()) {
     addProperties(*sample.metaObject(), false);
     addMethods(*sample.metaObject(), false);
     if (const QMetaObject* delegate = sample.delegateClass()) {

@@ -15,9 +15,9 @@ struct ScriptMember {
     QString name;
     bool isMethod = false;
     bool onDelegate = false;
-    QMetaProperty property;              ///< not valid for a method and for a write-only property
-    QMetaMethod setter;                  ///< writes a write-only property
-    std::vector<QMetaMethod> overloads;  ///< by rising number of arguments
+    QMetaProperty property;             ///< not valid for a method and for a write-only property
+    QMetaMethod setter;                 ///< writes a write-only property
+    std::vector<QMetaMethod> overloads; ///< by rising number of arguments
 };
 
 /// The names of one class of objects, as its meta-objects tell them. A class info "NAME" = "PROPERTY"

@@ -34,7 +34,8 @@ class ScriptHandle : public QObject {
     Q_OBJECT
 
 public:
-    explicit ScriptHandle(ScriptObjectPtr object) : object_(std::move(object)) {}
+    explicit ScriptHandle(ScriptObjectPtr object)
+        : object_(std::move(object)) {}
     const ScriptObjectPtr& object() const { return object_; }
 
 private:

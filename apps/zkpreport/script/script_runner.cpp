@@ -69,9 +69,8 @@ void ScriptRunner::addGlobals() {
     bridge_->addConstructor(QStringLiteral("Recordset"), [this] {
         return RecordsetObject::of(*bridge_, std::make_shared<ado::Recordset>());
     });
-    bridge_->addConstructor(QStringLiteral("Command"), [this] {
-        return CommandObject::of(*bridge_, std::make_shared<ado::Command>());
-    });
+    bridge_->addConstructor(QStringLiteral("Command"),
+                            [this] { return CommandObject::of(*bridge_, std::make_shared<ado::Command>()); });
     bridge_->addGlobal(QStringLiteral("host"),
                        bridge_->facade(std::make_shared<HostObject>(
                            host_, [this](const QLocale& locale) { setLocale(locale); })));

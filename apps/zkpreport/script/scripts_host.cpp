@@ -8,12 +8,16 @@ void append(QJSValue list, const QJSValue& entry) {
     list.setProperty(list.property(QStringLiteral("length")).toUInt(), entry);
 }
 
-bool isNothing(const QJSValue& answer) { return answer.isUndefined() || answer.isNull(); }
+bool isNothing(const QJSValue& answer) {
+    return answer.isUndefined() || answer.isNull();
+}
 
 } // namespace
 
 ScriptsHost::ScriptsHost(Bridge& bridge)
-    : messageList(bridge.engine().newArray()), openedList(bridge.engine().newArray()), bridge_(&bridge) {}
+    : messageList(bridge.engine().newArray())
+    , openedList(bridge.engine().newArray())
+    , bridge_(&bridge) {}
 
 void ScriptsHost::release() {
     bridge_ = nullptr;

@@ -17,7 +17,8 @@ public:
     QJSValue msgBoxFunction, inputBoxFunction, saveDialogFunction, colorDialogFunction, fontDialogFunction;
 
     int msgBox(const QString& text, int style, const QString& title) override;
-    std::optional<QString> inputBox(const QString& prompt, const QString& title, const QString& text) override;
+    std::optional<QString> inputBox(const QString& prompt, const QString& title,
+                                    const QString& text) override;
     std::optional<QString> saveDialog(const QString& title, const QString& filter,
                                       const QString& fileName) override;
     std::optional<std::uint32_t> colorDialog(std::uint32_t start) override;

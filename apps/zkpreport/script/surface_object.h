@@ -9,27 +9,41 @@ namespace zkp::script {
 class SurfaceObject : public ScriptObject {
     Q_OBJECT
 
-#define ZKP_SCRIPT_VALUE(Type, Name)                                                                        \
+#define ZKP_SCRIPT_VALUE(Type, Name)                                                                         \
     Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
-    Type Name() const { return surface().Name(); }                                                           \
-    void set##Name(const Type& value) { surface().set##Name(value); }
-#define ZKP_SCRIPT_READ(Type, Name)                                                                         \
+    Type Name() const {                                                                                      \
+        return surface().Name();                                                                             \
+    }                                                                                                        \
+    void set##Name(const Type& value) {                                                                      \
+        surface().set##Name(value);                                                                          \
+    }
+#define ZKP_SCRIPT_READ(Type, Name)                                                                          \
     Q_PROPERTY(Type Name READ Name)                                                                          \
-    Type Name() const { return surface().Name(); }
-#define ZKP_SCRIPT_INDEXED(Type, Name)                                                                      \
-    Q_INVOKABLE Type Name(int index) const { return surface().Name(index); }                                 \
-    Q_INVOKABLE void set##Name(int index, const Type& value) { surface().set##Name(index, value); }
-#define ZKP_SCRIPT_LOOK(Type, Name)                                                                         \
+    Type Name() const {                                                                                      \
+        return surface().Name();                                                                             \
+    }
+#define ZKP_SCRIPT_INDEXED(Type, Name)                                                                       \
+    Q_INVOKABLE Type Name(int index) const {                                                                 \
+        return surface().Name(index);                                                                        \
+    }                                                                                                        \
+    Q_INVOKABLE void set##Name(int index, const Type& value) {                                               \
+        surface().set##Name(index, value);                                                                   \
+    }
+#define ZKP_SCRIPT_LOOK(Type, Name)                                                                          \
     Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
-    Type Name() const { return surface().look().Name; }                                                      \
+    Type Name() const {                                                                                      \
+        return surface().look().Name;                                                                        \
+    }                                                                                                        \
     void set##Name(const Type& value) {                                                                      \
         GridSurface::Look look = surface().look();                                                           \
         look.Name = value;                                                                                   \
         surface().setLook(look);                                                                             \
     }
-#define ZKP_SCRIPT_PLACE(Type, Name)                                                                        \
+#define ZKP_SCRIPT_PLACE(Type, Name)                                                                         \
     Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
-    Type Name() const { return surface().place().Name; }                                                     \
+    Type Name() const {                                                                                      \
+        return surface().place().Name;                                                                       \
+    }                                                                                                        \
     void set##Name(const Type& value) {                                                                      \
         GridSurface::Place place = surface().place();                                                        \
         place.Name = value;                                                                                  \
@@ -38,9 +52,12 @@ class SurfaceObject : public ScriptObject {
 
 public:
     SurfaceObject(ScriptControlPtr control, GridSurface& (ZkpGrid::*which)())
-        : control_(std::move(control)), which_(which) {}
+        : control_(std::move(control))
+        , which_(which) {}
 
-    QString className() const override { return QStringLiteral("GridSurface"); }
+    QString className() const override {
+        return QStringLiteral("GridSurface");
+    }
 
     ZKP_SCRIPT_VALUE(int, Rows)
     ZKP_SCRIPT_VALUE(int, Cols)
@@ -61,8 +78,12 @@ public:
     ZKP_SCRIPT_READ(int, MouseCol)
     /// How many body rows a view would show; 0 counts all of them as visible.
     Q_PROPERTY(int VisibleRows READ VisibleRows WRITE setVisibleRows)
-    int VisibleRows() const { return surface().VisibleRows(); }
-    void setVisibleRows(int rows) { surface().setVisibleRows(rows); }
+    int VisibleRows() const {
+        return surface().VisibleRows();
+    }
+    void setVisibleRows(int rows) {
+        surface().setVisibleRows(rows);
+    }
 
     ZKP_SCRIPT_VALUE(uint, BackColor)
     ZKP_SCRIPT_VALUE(uint, ForeColor)
@@ -124,26 +145,50 @@ public:
 #undef ZKP_SCRIPT_LOOK
 #undef ZKP_SCRIPT_PLACE
 
-    Q_INVOKABLE QString TextMatrix(int row, int col) const { return surface().TextMatrix(row, col); }
+    Q_INVOKABLE QString TextMatrix(int row, int col) const {
+        return surface().TextMatrix(row, col);
+    }
     Q_INVOKABLE void setTextMatrix(int row, int col, const QString& text) {
         surface().setTextMatrix(row, col, text);
     }
-    Q_INVOKABLE void setColPosition(int col, int newPosition) { surface().setColPosition(col, newPosition); }
-    Q_INVOKABLE bool RowHidden(int row) const { return surface().RowHidden(row); }
-    Q_INVOKABLE bool RowIsVisible(int row) const { return surface().RowIsVisible(row); }
+    Q_INVOKABLE void setColPosition(int col, int newPosition) {
+        surface().setColPosition(col, newPosition);
+    }
+    Q_INVOKABLE bool RowHidden(int row) const {
+        return surface().RowHidden(row);
+    }
+    Q_INVOKABLE bool RowIsVisible(int row) const {
+        return surface().RowIsVisible(row);
+    }
     /// Sorts at once; there is nothing to read.
-    Q_INVOKABLE void setSort(int code) { surface().setSort(code); }
+    Q_INVOKABLE void setSort(int code) {
+        surface().setSort(code);
+    }
 
-    Q_INVOKABLE void Clear() { surface().Clear(); }
-    Q_INVOKABLE void AddItem(const QString& text, int index) { surface().AddItem(text, index); }
-    Q_INVOKABLE void AddItem(const QString& text) { surface().AddItem(text); }
-    Q_INVOKABLE void RemoveItem(int index) { surface().RemoveItem(index); }
+    Q_INVOKABLE void Clear() {
+        surface().Clear();
+    }
+    Q_INVOKABLE void AddItem(const QString& text, int index) {
+        surface().AddItem(text, index);
+    }
+    Q_INVOKABLE void AddItem(const QString& text) {
+        surface().AddItem(text);
+    }
+    Q_INVOKABLE void RemoveItem(int index) {
+        surface().RemoveItem(index);
+    }
     Q_INVOKABLE void Select(int row, int col, int rowSel, int colSel) {
         surface().Select(row, col, rowSel, colSel);
     }
-    Q_INVOKABLE void Select(int row, int col) { surface().Select(row, col); }
-    Q_INVOKABLE void Refresh() { surface().Refresh(); }
-    Q_INVOKABLE void SetFocus() { surface().SetFocus(); }
+    Q_INVOKABLE void Select(int row, int col) {
+        surface().Select(row, col);
+    }
+    Q_INVOKABLE void Refresh() {
+        surface().Refresh();
+    }
+    Q_INVOKABLE void SetFocus() {
+        surface().SetFocus();
+    }
 
     // What a user does; coordinates in twips, row and column those under the pointer.
     Q_INVOKABLE void userPress(int button, int shift, double x, double y, int row, int col) {
@@ -155,18 +200,38 @@ public:
     Q_INVOKABLE void userRelease(int button, int shift, double x, double y, int row, int col) {
         surface().userRelease({button, shift, x, y, row, col});
     }
-    Q_INVOKABLE void userClick(int row, int col) { surface().userClick(row, col); }
-    Q_INVOKABLE void userDblClick(int row, int col) { surface().userDblClick(row, col); }
-    Q_INVOKABLE void userKey(int code, int shift) { surface().userKey(code, shift); }
-    Q_INVOKABLE void userKeyUp(int code, int shift) { surface().userKeyUp(code, shift); }
-    Q_INVOKABLE void userChar(int ascii) { surface().userChar(ascii); }
-    Q_INVOKABLE void userSelect(int row, int col) { surface().userSelect(row, col); }
-    Q_INVOKABLE void userScroll(int topRow, int leftCol) { surface().userScroll(topRow, leftCol); }
-    Q_INVOKABLE void userResizeColumn(int col, int twips) { surface().userResizeColumn(col, twips); }
-    Q_INVOKABLE void userDrop(int from, int to) { surface().userDrop(from, to); }
+    Q_INVOKABLE void userClick(int row, int col) {
+        surface().userClick(row, col);
+    }
+    Q_INVOKABLE void userDblClick(int row, int col) {
+        surface().userDblClick(row, col);
+    }
+    Q_INVOKABLE void userKey(int code, int shift) {
+        surface().userKey(code, shift);
+    }
+    Q_INVOKABLE void userKeyUp(int code, int shift) {
+        surface().userKeyUp(code, shift);
+    }
+    Q_INVOKABLE void userChar(int ascii) {
+        surface().userChar(ascii);
+    }
+    Q_INVOKABLE void userSelect(int row, int col) {
+        surface().userSelect(row, col);
+    }
+    Q_INVOKABLE void userScroll(int topRow, int leftCol) {
+        surface().userScroll(topRow, leftCol);
+    }
+    Q_INVOKABLE void userResizeColumn(int col, int twips) {
+        surface().userResizeColumn(col, twips);
+    }
+    Q_INVOKABLE void userDrop(int from, int to) {
+        surface().userDrop(from, to);
+    }
 
 private:
-    GridSurface& surface() const { return (control_->grid().*which_)(); }
+    GridSurface& surface() const {
+        return (control_->grid().*which_)();
+    }
 
     ScriptControlPtr control_;
     GridSurface& (ZkpGrid::*which_)();

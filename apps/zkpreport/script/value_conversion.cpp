@@ -37,7 +37,8 @@ Integer integerOf(const QJSValue& value, const QString& what, double lowest, dou
     return static_cast<Integer>(rounded);
 }
 
-template <class Integer> Integer integerOf(const QJSValue& value, const QString& what) {
+template <class Integer>
+Integer integerOf(const QJSValue& value, const QString& what) {
     return integerOf<Integer>(value, what, std::numeric_limits<Integer>::min(),
                               std::numeric_limits<Integer>::max());
 }
@@ -82,7 +83,10 @@ QString momentText(const QDateTime& moment) {
     return moment.toString(isMidnight ? QStringLiteral("yyyy-MM-dd") : QStringLiteral("yyyy-MM-dd HH:mm:ss"));
 }
 
-template <class T> bool holds(const QVariant& value) { return value.metaType() == QMetaType::fromType<T>(); }
+template <class T>
+bool holds(const QVariant& value) {
+    return value.metaType() == QMetaType::fromType<T>();
+}
 
 } // namespace
 
@@ -147,7 +151,8 @@ QVariant ValueConversion::fromScript(const QJSValue& value, QMetaType wanted, co
     case QMetaType::LongLong: {
         // Beyond 2^53 a script's number no longer names one integer.
         const auto whole = integerOf<qint64>(value, what, -9007199254740992.0, 9007199254740992.0);
-        return wanted.id() == QMetaType::Long ? QVariant::fromValue(static_cast<long>(whole)) : QVariant(whole);
+        return wanted.id() == QMetaType::Long ? QVariant::fromValue(static_cast<long>(whole))
+                                              : QVariant(whole);
     }
     case QMetaType::Double:
         return numberOf(value, what);
@@ -196,7 +201,8 @@ QVariant ValueConversion::anyFromScript(const QJSValue& value, const QString& wh
     mismatch(what, "a plain value");
 }
 
-QVariant ValueConversion::sharedFromScript(const QJSValue& value, QMetaType wanted, const QString& what) const {
+QVariant ValueConversion::sharedFromScript(const QJSValue& value, QMetaType wanted,
+                                           const QString& what) const {
     if (value.isNull() || value.isUndefined())
         return QVariant(wanted);
     const ScriptObjectPtr object = objectOf(value);

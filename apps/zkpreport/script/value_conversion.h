@@ -21,7 +21,8 @@ enum ScriptErrorNumber : std::uint32_t {
 /// ("2026-11-20", "2026-11-20 14:05:00"), bytes are an ArrayBuffer, the engine's objects are façades.
 class ValueConversion {
 public:
-    explicit ValueConversion(Bridge& bridge) : bridge_(bridge) {}
+    explicit ValueConversion(Bridge& bridge)
+        : bridge_(bridge) {}
 
     QJSValue toScript(const QVariant& value) const;
 

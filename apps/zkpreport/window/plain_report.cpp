@@ -7,14 +7,18 @@ namespace zkp::app {
 
 namespace {
 
-QString source() { return QStringLiteral("POLICIESDATA"); }
-QString dictionary() { return QStringLiteral("POLICIESCLMNS"); }
+QString source() {
+    return QStringLiteral("POLICIESDATA");
+}
+QString dictionary() {
+    return QStringLiteral("POLICIESCLMNS");
+}
 
 /// The fields that the list shows, of the many that the source has.
 QStringList fields() {
-    return {QStringLiteral("POLICYNO"),     QStringLiteral("STARTDATE"), QStringLiteral("CUSTOMER"),
-            QStringLiteral("PRODUCTNAME"),  QStringLiteral("AGENTNAME"), QStringLiteral("BRANCH"),
-            QStringLiteral("INSTALMENTS"),  QStringLiteral("PREMIUM"),   QStringLiteral("NET"),
+    return {QStringLiteral("POLICYNO"),    QStringLiteral("STARTDATE"), QStringLiteral("CUSTOMER"),
+            QStringLiteral("PRODUCTNAME"), QStringLiteral("AGENTNAME"), QStringLiteral("BRANCH"),
+            QStringLiteral("INSTALMENTS"), QStringLiteral("PREMIUM"),   QStringLiteral("NET"),
             QStringLiteral("COMMISSION")};
 }
 

@@ -1,0 +1,153 @@
+#include "print_qt.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+// The program as a process, as people start it.
+
+namespace {
+
+class CommandLine : public testing::Test {
+protected:
+    /// The exit code; what the program writes is in `output` and `errors`.
+    int start(const QStringList& arguments) {
+        QProcess process;
+        process.setWorkingDirectory(folder.path());
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"})
+            environment.remove(QLatin1String(name));
+        process.setProcessEnvironment(environment);
+        process.start(QStringLiteral(ZKPREPORT_PROGRAM), arguments);
+        EXPECT_TRUE(process.waitForFinished(120'000));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        output = QString::fromUtf8(process.readAllStandardOutput());
+        errors = QString::fromUtf8(process.readAllStandardError());
+        return process.exitCode();
+    }
+
+    QString write(const QString& name, const QByteArray& text) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        return name;
+    }
+
+    QTemporaryDir folder;
+    QString output;
+    QString errors;
+};
+
+TEST_F(CommandLine, HelpTellsEveryCommandWithALineOfItsOwn) {
+    EXPECT_EQ(start({QStringLiteral("--help")}), 0);
+    for (const char* name : {"\n  show ", "\n  run ", "\n  demo-db ", "--help", "--version"})
+        EXPECT_TRUE(output.contains(QLatin1String(name))) << name << qPrintable(output);
+    EXPECT_EQ(errors, QString());
+}
+
+TEST_F(CommandLine, VersionTellsTheProgramAndItsVersion) {
+    EXPECT_EQ(start({QStringLiteral("--version")}), 0);
+    EXPECT_TRUE(output.startsWith(QStringLiteral("zkpreport ")));
+}
+
+TEST_F(CommandLine, EachCommandHasAHelpOfItsOwn) {
+    for (const char* name : {"show", "run", "demo-db"}) {
+        EXPECT_EQ(start({QLatin1String(name), QStringLiteral("--help")}), 0) << name;
+        EXPECT_TRUE(output.contains(QLatin1String(name))) << qPrintable(output);
+    }
+}
+
+TEST_F(CommandLine, AnUnknownCommandOrOptionIsToldWithExitCode2) {
+    EXPECT_EQ(start({QStringLiteral("shwo")}), 2);
+    EXPECT_TRUE(errors.contains(QStringLiteral("shwo"))) << qPrintable(errors);
+    EXPECT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("--rowz"), QStringLiteral("5"),
+                     QStringLiteral("x")}),
+              2);
+    EXPECT_TRUE(errors.contains(QStringLiteral("rowz"))) << qPrintable(errors);
+    EXPECT_EQ(start({QStringLiteral("demo-db")}), 2);
+    EXPECT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("x"), QStringLiteral("--rows"),
+                     QStringLiteral("many")}),
+              2);
+    EXPECT_EQ(start({QStringLiteral("run")}), 2);
+    EXPECT_EQ(start({QStringLiteral("run"), QStringLiteral("nonesuch.js")}), 2);
+    EXPECT_TRUE(errors.contains(QStringLiteral("nonesuch.js"))) << qPrintable(errors);
+    EXPECT_EQ(start({QStringLiteral("show"), QStringLiteral("nonesuch.db")}), 2);
+    EXPECT_TRUE(errors.contains(QStringLiteral("nonesuch.db"))) << qPrintable(errors);
+}
+
+TEST_F(CommandLine, RunGivesTheScriptItsArgumentsAndPrintsItsLines) {
+    write(QStringLiteral("a.js"), "print('Καλημέρα', args.join('+'), args.length);");
+    EXPECT_EQ(
+        start({QStringLiteral("run"), QStringLiteral("a.js"), QStringLiteral("α"), QStringLiteral("--help")}),
+        0);
+    EXPECT_EQ(output, QStringLiteral("Καλημέρα α+--help 2\n"));
+    EXPECT_EQ(errors, QString());
+}
+
+TEST_F(CommandLine, RunEndsWithExitCode1AndTheFailuresPlace) {
+    write(QStringLiteral("a.js"), "print('before');\nnew ZkpGrid().refresh();\nprint('after');");
+    EXPECT_EQ(start({QStringLiteral("run"), QStringLiteral("a.js")}), 1);
+    EXPECT_EQ(output, QStringLiteral("before\n"));
+    EXPECT_EQ(errors, QStringLiteral("a.js:2: The Property Cn Hasn't Been set!\n"));
+    write(QStringLiteral("b.js"), "\n(");
+    EXPECT_EQ(start({QStringLiteral("run"), QStringLiteral("b.js")}), 1);
+    EXPECT_TRUE(errors.startsWith(QStringLiteral("b.js:2: "))) << qPrintable(errors);
+}
+
+TEST_F(CommandLine, DemoDbMakesADatabaseOnceWithSoManyPolicies) {
+    const QStringList make{QStringLiteral("demo-db"), QStringLiteral("demo.db"), QStringLiteral("--rows"),
+                           QStringLiteral("30"),      QStringLiteral("--seed"),  QStringLiteral("7")};
+    ASSERT_EQ(start(make), 0) << qPrintable(errors);
+    write(QStringLiteral("count.js"), "var cn = new Connection(); cn.Open('sqlite:demo.db');"
+                                      "print(cn.Execute('SELECT COUNT(*) FROM POLICIES').Fields(0).Value);");
+    EXPECT_EQ(start({QStringLiteral("run"), QStringLiteral("count.js")}), 0) << qPrintable(errors);
+    EXPECT_EQ(output, QStringLiteral("30\n"));
+    EXPECT_EQ(start(make), 1);
+    EXPECT_TRUE(errors.contains(QStringLiteral("demo.db"))) << qPrintable(errors);
+}
+
+TEST_F(CommandLine, ShowWithoutADisplayDrawsTheWindowAndPrintsTheFirstRows) {
+    ASSERT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("demo.db"), QStringLiteral("--rows"),
+                     QStringLiteral("40")}),
+              0);
+    EXPECT_EQ(start({QStringLiteral("show"), QStringLiteral("--database"), QStringLiteral("demo.db"),
+                     QStringLiteral("--picture"), QStringLiteral("window.png")}),
+              0)
+        << qPrintable(errors);
+    const QStringList lines = output.split(QLatin1Char('\n'));
+    // A heading, 20 rows, a blank line, where the picture is, and the end of the last line.
+    ASSERT_EQ(lines.size(), 24) << qPrintable(output);
+    EXPECT_TRUE(lines.at(0).contains(QStringLiteral("Αρ. Συμβολαίου")));
+    EXPECT_TRUE(lines.at(22).contains(QDir(folder.path()).absoluteFilePath(QStringLiteral("window.png"))));
+    const QImage picture(folder.filePath(QStringLiteral("window.png")));
+    EXPECT_EQ(picture.size(), QSize(1280, 800));
+}
+
+TEST_F(CommandLine, WithoutACommandTheWindowIsShown) {
+    ASSERT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("demo.db"), QStringLiteral("--rows"),
+                     QStringLiteral("5")}),
+              0);
+    EXPECT_EQ(start({}), 0) << qPrintable(errors);
+    EXPECT_TRUE(QFile::exists(folder.filePath(QStringLiteral("plain_report.png"))));
+    EXPECT_TRUE(output.contains(QStringLiteral("plain_report.png")));
+}
+
+TEST_F(CommandLine, ShowTellsADamagedDatabaseAndOneWithoutTheReport) {
+    write(QStringLiteral("bad.db"), "this is no database, and long enough not to be taken for an empty one");
+    EXPECT_EQ(start({QStringLiteral("show"), QStringLiteral("bad.db")}), 1);
+    EXPECT_NE(errors.trimmed(), QString());
+    write(QStringLiteral("make.js"),
+          "var cn = new Connection(); cn.Open('sqlite:empty.db'); cn.Execute('CREATE TABLE A (B)');");
+    write(QStringLiteral("empty.db"), "");
+    ASSERT_EQ(start({QStringLiteral("run"), QStringLiteral("make.js")}), 0) << qPrintable(errors);
+    EXPECT_EQ(start({QStringLiteral("show"), QStringLiteral("empty.db")}), 1);
+    EXPECT_NE(errors.trimmed(), QString());
+    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("plain_report.png"))));
+}
+
+} // namespace
