@@ -53,10 +53,7 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
 /// What a load asks of the other parts.
 void ZkpGrid::Parts::connectHooks() {
     hooks.LoadIerarxia = [this] { hierarchy.LoadIerarxia(); };
-    hooks.DictionaryLoaded = [this] {
-        if (state.SqlOnRunTime)
-            masterTable.FindMaster();
-    };
+    hooks.FindMaster = [this] { masterTable.FindMaster(); };
     hooks.DetailStatement = [this] { return dispatch.DetailStatement(); };
     hooks.OpenTotalRecordset = [this] { dispatch.OpenTotalRecordset(); };
     hooks.RunTimeSQLCounter = [this] { runTime.RunTimeSQLCounter(); };

@@ -2,6 +2,7 @@
 
 #include "base/number.h"
 #include "base/text.h"
+#include "load/field_list.h"
 
 namespace zkp {
 
@@ -15,7 +16,12 @@ void EmptyReport::prepare() {
     takeSpecialSource();
     LoadHooks::run(hooks_.MakeFixedForGroup);
     dictionary_.loadForEmptyReport();
-    LoadHooks::run(hooks_.DictionaryLoaded);
+    if (state_.SqlOnRunTime)
+        LoadHooks::run(hooks_.FindMaster);
+    buildFieldList(*dictionary_.recordset(), state_.TotalForm, statFields());
+    if (state_.TotalForm)
+        appendLossRatioFields(statFields());
+    LoadHooks::run(hooks_.FieldListChanged);
     surface_.setCol(0);
     menu_.Refresh();
     if (!state_.TotalForm)

@@ -3,6 +3,7 @@
 #include "base/number.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
+#include "load/field_list.h"
 #include "load/source_check.h"
 #include "support/utility.h"
 
@@ -85,7 +86,10 @@ void LoadDriver::LoadDictionary() {
     if (!dictionary_.isNamed())
         return;
     dictionary_.load();
-    LoadHooks::run(hooks_.DictionaryLoaded);
+    if (state_.SqlOnRunTime)
+        LoadHooks::run(hooks_.FindMaster);
+    buildFieldList(*dictionary_.recordset(), state_.TotalForm, statFields());
+    LoadHooks::run(hooks_.FieldListChanged);
 }
 
 bool LoadDriver::makeRecordset() {

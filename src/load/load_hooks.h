@@ -11,7 +11,8 @@ namespace zkp {
 struct LoadHooks {
     // Statements.
     std::function<void()> LoadIerarxia;             ///< the user's level, when an identity was given
-    std::function<void()> DictionaryLoaded;         ///< builds the field list and the field menus
+    std::function<void()> FindMaster;               ///< the report's master table
+    std::function<void()> FieldListChanged;         ///< rebuilds the field menus
     std::function<QString()> DetailStatement;       ///< empty: a source without text of its own is an error
     std::function<void()> OpenTotalRecordset;       ///< empty: a totals report is an error
     std::function<void()> RunTimeSQLCounter;        ///< its text is not run

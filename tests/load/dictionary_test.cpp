@@ -111,7 +111,7 @@ TEST_F(DictionaryLoadTest, AMissingDictionaryShowsTheErrorBox) {
 }
 
 TEST_F(DictionaryLoadTest, AnEmptyReportShowsHeadingsAndMinRows) {
-    connection->Execute(u"create table CLMNS (dtfld text, cptn text, visbl integer)"_s);
+    connection->Execute(u"create table CLMNS (dtfld text, cptn text, wdth money, isgroup bit, isTot bit, Algn integer, visbl integer)"_s);
     columns({u"POLICYID"_s, u"AGENTNAME"_s});
     fill();
     grid->refresh();
@@ -134,7 +134,7 @@ TEST_F(DictionaryLoadTest, AnEmptyReportNeedsADictionaryAndAConnection) {
 }
 
 TEST_F(DictionaryLoadTest, TheSpecialSourceReplacesTheRecordSourceWhereItExists) {
-    connection->Execute(u"create table CLMNS (dtfld text, cptn text, visbl integer)"_s);
+    connection->Execute(u"create table CLMNS (dtfld text, cptn text, wdth money, isgroup bit, isTot bit, Algn integer, visbl integer)"_s);
     connection->Execute(u"create view SpecialPolicies as select * from POLICIES"_s);
     grid->setclmns(u"CLMNS"_s);
     fill();
