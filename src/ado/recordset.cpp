@@ -21,7 +21,8 @@ Error noCurrentRecord() {
 /// The statement of a source that is given as a table or a procedure.
 QString statementOf(const QString& source, int options) {
     if (options == adCmdTable)
-        return QStringLiteral("SELECT * FROM [%1]").arg(trimmed(source));
+        return QStringLiteral("SELECT * FROM ") +
+               (trimmed(source).startsWith(u'[') ? source : u'[' + source + u']');
     if (options == adCmdStoredProc)
         return QStringLiteral("exec ") + source;
     return source;
@@ -123,7 +124,7 @@ int Recordset::State() const {
 }
 
 bool Recordset::Bof() const {
-    return d->position < 0 || d->count() == 0;
+    return d->count() == 0 || d->position < 0;
 }
 bool Recordset::Eof() const {
     return d->position >= d->count();
@@ -165,9 +166,9 @@ std::int64_t Recordset::RecordCount() const {
 }
 
 std::int64_t Recordset::AbsolutePosition() const {
-    if (Eof())
-        return Bof() && d->position < 0 ? -2 : -3;
-    return d->position < 0 ? -2 : d->position + 1;
+    if (d->position < 0)
+        return -2;
+    return Eof() ? -3 : d->position + 1;
 }
 
 void Recordset::setAbsolutePosition(std::int64_t position) {
@@ -244,6 +245,9 @@ RecordsetPtr Recordset::Clone() {
 
 void Recordset::Requery() {
     d->open();
+    if (d->opening)
+        throw Error(kErrObjectOpen,
+                    QStringLiteral("Operation is not allowed while the object is executing."));
     if (d->text.isEmpty())
         throw Error(kErrNotSupported, QStringLiteral("The recordset cannot be run again."));
     const QString filter = d->filter;
@@ -258,6 +262,7 @@ void Recordset::Requery() {
 RecordsetPtr Recordset::NextRecordset() {
     if (!d->further)
         return nullptr;
+    const auto self = weak_from_this().lock();
     auto stream = std::move(d->further);
     const ConnectionPtr connection = d->connection;
     auto result = stream->next();

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <thread>
 
 namespace zkp::ado::test {
@@ -115,7 +116,7 @@ protected:
         timer.start();
         EXPECT_EQ(errorNumber([&] { open(sql); }), kErrTimeout) << sql;
         EXPECT_GE(timer.elapsed(), 900) << sql;
-        EXPECT_LT(timer.elapsed(), 2500) << sql;
+        EXPECT_LT(timer.elapsed(), 10'000) << sql;
         EXPECT_EQ(open("SELECT count(*) FROM B")->Fields().Item(0).Value().toInt(), 200'000)
             << "usable afterwards";
     }
@@ -144,9 +145,10 @@ TEST_F(TimeoutTest, EndsAStatementThatWrites) {
 }
 
 TEST_F(TimeoutTest, AnotherStatementHasItsOwnTime) {
-    for (int i = 0; i < 3; ++i)
-        open("WITH RECURSIVE i(n) AS (SELECT 0 UNION ALL SELECT n+1 FROM i WHERE n<600000) SELECT count(*) "
-             "FROM i");
+    open("SELECT 1");
+    std::this_thread::sleep_for(std::chrono::milliseconds(1100));
+    EXPECT_EQ(open("SELECT * FROM B")->RecordCount(), 200'000)
+        << "the former statement's time is over, not its own";
 }
 
 TEST_F(TimeoutTest, ZeroIsNoBoundAndNegativeIsRefused) {
@@ -197,7 +199,7 @@ TEST_F(ProgressTest, AnExceptionEndsAJoinThatWouldGoOnForLong) {
     QElapsedTimer timer;
     timer.start();
     EXPECT_THROW(open("SELECT a.n FROM B a, B b WHERE a.n < 1 OR b.n < 0 OR a.X || b.X = 'none'"), int);
-    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_LT(timer.elapsed(), 10'000);
     cn->setFetchProgress({});
     EXPECT_EQ(one("SELECT count(*) FROM B").toInt(), 100'000);
 }
@@ -217,6 +219,7 @@ TEST_F(ProgressTest, TheHostMayCloseTheConnectionOrOpenTheSameRecordset) {
     std::uint32_t again = 0;
     cn->setFetchProgress([&](std::int64_t) {
         again = errorNumber([&] { rs->Open(u("SELECT 1"), cn); });
+        EXPECT_EQ(rs->State(), adStateClosed);
         if (cn->State() == adStateOpen)
             cn->Close();
     });
