@@ -73,7 +73,17 @@ public:
             visitColumn(column, [&f](const T& value) { f(value); });
     }
 
-    /// Rows that have a value, as ids below `limit`.
+    /// Calls `f(value)` for every value of a row.
+    template <class F>
+    void forEachInRow(RowId row, F f) const {
+        if (!rowHasAny(row))
+            return;
+        for (ColumnId column = 0; column < columns_.size(); ++column)
+            if (const T value = get(row, column); !(value == T{}))
+                f(value);
+    }
+
+    /// True when a row from that id on has a value.
     bool anyRowFrom(RowId limit) const {
         for (std::size_t page = 0; page < marks_.size(); ++page)
             for (RowId bit = 0; bit < kPageRows; ++bit)

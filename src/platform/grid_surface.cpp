@@ -1,6 +1,6 @@
 #include "platform/grid_surface.h"
 
-#include "base/error.h"
+#include "base/text.h"
 #include "platform/grid_surface_data.h"
 
 #include <algorithm>
@@ -70,7 +70,7 @@ CellRange GridSurface::mergedRange(int row, int col, int fromRow, int toRow) con
     if (d->mergeCells == 0 || (!down && !MergeRow(row)))
         return block;
     const QString text = d->cellText(row, col);
-    if (text.trimmed().isEmpty())
+    if (isBlank(text))
         return block;
     const auto equal = [&](int otherRow, int otherCol) { return d->cellText(otherRow, otherCol) == text; };
     const bool fixed = row < d->fixedRows;

@@ -153,7 +153,7 @@ public:
     /// Moves a column with its cells, width, styles and tags to another place.
     void setColPosition(int col, int newPosition);
     int RowHeight(int row) const;
-    /// -1 as the row sets all rows.
+    /// -1 as the row sets all rows, present and to come; a negative height is the default.
     void setRowHeight(int row, int twips);
     bool RowHidden(int row) const;
 
@@ -258,7 +258,9 @@ public:
     /// Tells the view once, when anything differs.
     void setLook(const Look& look);
 
-    // --- Sorting: the body rows from Row to RowSel, by the columns Col to ColSel. Stable.
+    // --- Sorting: the body rows from Row to RowSel (all of them when both are one row), by the columns
+    // Col to ColSel, the left one weighing most. Stable. While a custom comparison runs, rows stand where
+    // they stood; when it adds or removes rows, or throws, they stay there.
     void setSort(int code);
 
     // --- Drawing.

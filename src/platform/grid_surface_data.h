@@ -32,7 +32,8 @@ struct GridSurface::Data {
     SurfaceCursor cursor;
     int fixedRows = 1;
     int fixedCols = 0;
-    int rowHeight = 255; // twips, of rows without a height of their own
+    static constexpr int kRowHeight = 255; // twips
+    int rowHeight = kRowHeight;            // of rows without a height of their own
     int visibleRows = 0;
     int mergeCells = 0;
     int fillStyle = 0;

@@ -163,12 +163,14 @@ int GridSurface::RowHeight(int row) const {
 }
 
 void GridSurface::setRowHeight(int row, int twips) {
-    const int height = std::clamp(twips, 0, RowRecord::kDefaultHeight - 1);
+    const int height = std::min(twips, RowRecord::kDefaultHeight - 1);
     if (row == -1) {
-        d->rowHeight = height;
+        d->rowHeight = height < 0 ? Data::kRowHeight : height;
         d->rows.resetHeights();
     } else {
-        d->rows.write(d->touch(row)).height = static_cast<std::uint16_t>(height);
+        const std::uint16_t stored =
+            height < 0 ? RowRecord::kDefaultHeight : static_cast<std::uint16_t>(height);
+        d->rows.write(d->touch(row)).height = stored;
     }
     d->changed();
 }
@@ -234,8 +236,9 @@ void GridSurface::bindRows(int firstRow, int count, LayoutId layout,
     d->order.forEachRun(firstRow, count, [&](const RowRun& run) {
         d->texts.clearRows(run);
         for (int i = 0; i < run.count; ++i, ++next) {
+            const std::uint32_t source = tableRow ? tableRow(static_cast<int>(next)) : next;
             RowRecord& record = d->rows.write(run.first + static_cast<RowId>(i));
-            record = {tableRow ? tableRow(static_cast<int>(next)) : next, rowData, layout, record.height};
+            record = {source, rowData, layout, record.height};
         }
     });
     d->costs.rowsTouched += count;

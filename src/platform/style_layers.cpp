@@ -25,40 +25,53 @@ std::size_t slotOf(const std::array<StyleSetId, 5>& places, bool fixedPart) {
 
 } // namespace
 
-StyleSetId StyleLayers::patched(Layer layer, StyleSetId id, const StylePatch& patch) {
-    if (layer != lastLayer_) {
+/// Rows and cells mostly take turns without meeting: their writes share a number until they do.
+void StyleLayers::stampFor(Layer layer, bool meetsOtherLayer) {
+    const auto isOfRows = [](Layer l) { return l == Layer::Row || l == Layer::Cell; };
+    const bool shares = layer == lastLayer_ || (isOfRows(layer) && isOfRows(lastLayer_));
+    if (!shares || meetsOtherLayer)
         ++stamp_;
-        lastLayer_ = layer;
-    }
+    lastLayer_ = layer;
+}
+
+StyleSetId StyleLayers::patched(StyleSetId id, const StylePatch& patch) {
     ++writes_;
     collectWhenWasteful();
     return pool_.patched(id, patch, stamp_);
 }
 
 void StyleLayers::writeSurface(const StylePatch& patch) {
-    surface_ = patched(Layer::Surface, surface_, patch);
+    stampFor(Layer::Surface);
+    surface_ = patched(surface_, patch);
 }
 
 void StyleLayers::writeFixed(const StylePatch& patch) {
-    fixed_ = patched(Layer::Fixed, fixed_, patch);
+    stampFor(Layer::Fixed);
+    fixed_ = patched(fixed_, patch);
 }
 
 void StyleLayers::writeBody(const StylePatch& patch) {
-    body_ = patched(Layer::Body, body_, patch);
+    stampFor(Layer::Body);
+    body_ = patched(body_, patch);
 }
 
 void StyleLayers::writeColumn(ColumnId column, const StylePatch& patch) {
     if (column >= columns_.size())
         columns_.resize(column + 1, 0);
-    columns_[column] = patched(Layer::Column, columns_[column], patch);
+    stampFor(Layer::Column);
+    columns_[column] = patched(columns_[column], patch);
 }
 
 void StyleLayers::writeRow(RowId row, const StylePatch& patch) {
-    rows_.set(row, 0, patched(Layer::Row, rows_.get(row, 0), patch));
+    bool meets = false;
+    cells_.forEachInRow(row, [&](StyleSetId cell) { meets = meets || pool_.hasStamp(cell, stamp_); });
+    stampFor(Layer::Row, meets);
+    rows_.set(row, 0, patched(rows_.get(row, 0), patch));
 }
 
 void StyleLayers::writeCell(RowId row, ColumnId column, const StylePatch& patch) {
-    cells_.set(row, column, patched(Layer::Cell, cells_.get(row, column), patch));
+    stampFor(Layer::Cell, pool_.hasStamp(rows_.get(row, 0), stamp_));
+    cells_.set(row, column, patched(cells_.get(row, column), patch));
 }
 
 CellStyle StyleLayers::resolve(RowId row, ColumnId column, bool fixedRow, bool fixedColumn) const {

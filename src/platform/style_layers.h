@@ -13,8 +13,8 @@ namespace zkp {
 /// cell. Each attribute of a cell comes from the layer that was written last. A write costs the one
 /// place it goes to, whatever lies beneath.
 ///
-/// Writes that follow one another on the same layer share a number, since they never cover the same
-/// cell: thousands of rows that get the same look one by one share one set of attributes.
+/// Writes that follow one another and cannot cover each other's cells share a number: thousands of
+/// rows that get the same look one by one share one set of attributes.
 class StyleLayers {
 public:
     void writeSurface(const StylePatch& patch);
@@ -48,8 +48,9 @@ private:
         CellStyle style;
     };
 
-    /// One write over another: what a set became is remembered while the same patch goes on.
-    StyleSetId patched(Layer layer, StyleSetId id, const StylePatch& patch);
+    /// Numbers the next write: a new number when it could cover what was written under this one.
+    void stampFor(Layer layer, bool meetsOtherLayer = false);
+    StyleSetId patched(StyleSetId id, const StylePatch& patch);
     CellStyle compose(const Places& places, bool fixedPart) const;
     void collectWhenWasteful();
 

@@ -1,5 +1,6 @@
 #include "platform/style_pool.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace zkp {
@@ -43,6 +44,11 @@ StyleSetId StylePool::patched(StyleSetId id, const StylePatch& patch, std::uint6
         set.stamps[kStyleFontName] = stamp;
     }
     return intern(set);
+}
+
+bool StylePool::hasStamp(StyleSetId id, std::uint64_t stamp) const {
+    const auto& stamps = sets_[id].stamps;
+    return id != 0 && std::find(stamps.begin(), stamps.end(), stamp) != stamps.end();
 }
 
 StyleSetId StylePool::intern(const StyleSet& set) {

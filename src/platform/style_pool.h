@@ -42,6 +42,8 @@ struct StyleSet {
 class StylePool {
 public:
     const StyleSet& at(StyleSetId id) const { return sets_[id]; }
+    /// True when a write of that number gave the set one of its attributes.
+    bool hasStamp(StyleSetId id, std::uint64_t stamp) const;
     const QString& fontName(std::uint32_t number) const { return names_[static_cast<qsizetype>(number)]; }
     /// The set that `id` becomes when the patch is written over it under that number.
     StyleSetId patched(StyleSetId id, const StylePatch& patch, std::uint64_t stamp);

@@ -170,6 +170,10 @@ TEST(SurfaceRows, HeightsStandByRowAndMoveWithIt) {
     surface.setRowHeight(-1, 255);
     EXPECT_FALSE(surface.RowHidden(3));
     EXPECT_EQ(surface.RowHeight(3), 255);
+    surface.setRowHeight(3, 100'000);
+    EXPECT_EQ(surface.RowHeight(3), 65'534) << "the highest there is";
+    surface.setRowHeight(3, -1);
+    EXPECT_EQ(surface.RowHeight(3), 255);
 }
 
 TEST(SurfaceRows, RemovingRowsMovesCursorAndScrollPositionToTheLastRowLeft) {

@@ -115,6 +115,23 @@ TEST(StyleLayers, RowsThatLookTheSameShareOneSet) {
     EXPECT_EQ(backOf(layers, 199'999, 0), 7u);
 }
 
+TEST(StyleLayers, RowsAndCellsThatTakeTurnsShareSetsUntilTheyMeet) {
+    StyleLayers layers;
+    for (RowId row = 0; row < 100'000; ++row) {
+        if (row % 3 == 0)
+            layers.writeRow(row, back(7));
+        else
+            layers.writeCell(row, 1, back(8));
+    }
+    EXPECT_LE(layers.setCount(), 3u);
+    layers.writeRow(3, back(1));
+    layers.writeRow(4, back(2));
+    EXPECT_EQ(backOf(layers, 4, 1), 2u) << "the row was written after its cell";
+    layers.writeCell(3, 1, back(3));
+    EXPECT_EQ(backOf(layers, 3, 1), 3u) << "the cell was written after its row";
+    EXPECT_EQ(backOf(layers, 3, 0), 1u);
+}
+
 TEST(StyleLayers, SetsThatNothingNamesAreFreed) {
     StyleLayers layers;
     for (Color color = 0; color < 100'000; ++color) { // a band that moves, and a repaint below it each time
