@@ -31,8 +31,9 @@ ShownSelection::ShownSelection(const GridSurface& surface, bool focused)
 }
 
 bool ShownSelection::covers(int firstRow, int lastRow, int col) const {
-    if (!highlights_ || lastRow < block_.top || firstRow > block_.bottom || col < block_.left ||
-        col > block_.right)
+    const bool inside =
+        firstRow >= block_.top && lastRow <= block_.bottom && col >= block_.left && col <= block_.right;
+    if (!highlights_ || !inside)
         return false;
     const bool isCurrent = col == col_ && firstRow <= row_ && row_ <= lastRow;
     return !(sparesCurrent_ && isCurrent);

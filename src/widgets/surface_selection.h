@@ -11,7 +11,7 @@ class ShownSelection {
 public:
     ShownSelection(const GridSurface& surface, bool focused);
 
-    /// The cells of a column from `firstRow` to `lastRow`, which show as one.
+    /// The cells of a column from `firstRow` to `lastRow`, which show as one: all of them or none.
     bool covers(int firstRow, int lastRow, int col) const;
     bool hasFocusRect() const { return focusRect_; }
 

@@ -115,6 +115,22 @@ TEST_F(GridViewPaint, TheSelectionIsHighlightedButForTheCurrentCell) {
     EXPECT_EQ(image.pixelColor(corner(0, 0)), view->palette().color(QPalette::Button)) << "never the heading";
 }
 
+TEST_F(GridViewPaint, AMergedBlockIsHighlightedOnlyWhole) {
+    GridSurface::Look look = surface->look();
+    look.BackColorSel = kRed;
+    look.SelectionMode = 1;
+    surface->setLook(look);
+    surface->setMergeCells(1);
+    surface->setMergeCol(0, true);
+    for (int row = 1; row <= 3; ++row)
+        surface->setTextMatrix(row, 0, QStringLiteral("Αθήνα"));
+    surface->Select(2, 1, 3, 1);
+    EXPECT_EQ(picture().pixelColor(corner(2, 0)), view->palette().color(QPalette::Base));
+    EXPECT_EQ(picture().pixelColor(corner(2, 2)), QColor(255, 0, 0));
+    surface->Select(1, 1, 3, 1);
+    EXPECT_EQ(picture().pixelColor(corner(2, 0)), QColor(255, 0, 0));
+}
+
 TEST_F(GridViewPaint, SystemColoursFollowThePalette) {
     QPalette dark;
     dark.setColor(QPalette::Base, QColor(20, 20, 20));
