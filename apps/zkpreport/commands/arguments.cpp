@@ -2,11 +2,15 @@
 
 #include "commands/command.h"
 
+#include <QCoreApplication>
+
 namespace zkp::app {
 
 std::optional<int> parseArguments(QCommandLineParser& parser, const QString& command,
                                   const QStringList& arguments) {
-    const QCommandLineOption help = parser.addHelpOption();
+    const QCommandLineOption help({QStringLiteral("h"), QStringLiteral("help")},
+                                  QStringLiteral("Tells this."));
+    parser.addOption(help);
     // The parser takes the first entry for the program.
     const QString program = QStringLiteral("zkpreport %1").arg(command);
     if (!parser.parse(QStringList{program} + arguments)) {
@@ -14,7 +18,8 @@ std::optional<int> parseArguments(QCommandLineParser& parser, const QString& com
         return kExitUsage;
     }
     if (parser.isSet(help)) {
-        printLine(parser.helpText().trimmed());
+        // The parser names the program by the path that it was started with.
+        printLine(parser.helpText().replace(QCoreApplication::arguments().front(), program).trimmed());
         return kExitDone;
     }
     return std::nullopt;

@@ -90,11 +90,12 @@ QJSValue Bridge::facade(const ScriptObjectPtr& object) {
         std::erase_if(handles_,
                       [&](const auto& entry) { return !entry.second && entry.first != object.get(); });
     }
-    auto* handle = new ScriptHandle(object);
+    const ScriptClass& scriptClass = classOf(*object);
+    auto* handle = new ScriptHandle(object, scriptClass);
     handles_[object.get()] = handle;
     QJSValue wrapper = engine_.newQObject(handle);
     const char* maker = object->isCallable() ? "makeCallableFacade" : "makeFacade";
-    const QJSValue facade = helper(maker).call({classOf(*object).prototype, wrapper});
+    const QJSValue facade = helper(maker).call({scriptClass.prototype, wrapper});
     wrapper.setProperty(QStringLiteral("facade"), facade);
     return facade;
 }
@@ -173,7 +174,7 @@ QJSValue Bridge::guarded(const std::function<QJSValue()>& work) {
 const ScriptMember& Bridge::memberOf(const ScriptHandle* handle, int id) const {
     const MemberPlace& place = members_.at(static_cast<std::size_t>(id));
     const ScriptMember& member = place.owner->members()[static_cast<std::size_t>(place.index)];
-    if (!handle) {
+    if (!handle || &handle->scriptClass() != place.owner) {
         throw Error(kErrObjectNotSet,
                     QStringLiteral("%1 is asked of no %2").arg(member.name, place.owner->name()));
     }

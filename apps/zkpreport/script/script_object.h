@@ -29,17 +29,22 @@ public:
 
 using ScriptObjectPtr = std::shared_ptr<ScriptObject>;
 
+class ScriptClass;
+
 /// What the script engine owns: a share in an object. Dies when the script can't reach it any more.
 class ScriptHandle : public QObject {
     Q_OBJECT
 
 public:
-    explicit ScriptHandle(ScriptObjectPtr object)
-        : object_(std::move(object)) {}
+    ScriptHandle(ScriptObjectPtr object, const ScriptClass& scriptClass)
+        : object_(std::move(object))
+        , class_(scriptClass) {}
     const ScriptObjectPtr& object() const { return object_; }
+    const ScriptClass& scriptClass() const { return class_; }
 
 private:
     ScriptObjectPtr object_;
+    const ScriptClass& class_;
 };
 
 } // namespace zkp::script

@@ -16,27 +16,15 @@ constexpr int kEnded = 0;
 constexpr int kFailed = 1;
 constexpr int kNotReadable = 2;
 
-/// The engine puts "file:" before names that are no addresses.
-QString plainFile(QString file) {
-    if (file.startsWith(QLatin1String("file:")))
-        file.remove(0, 5);
-    return file;
-}
-
-/// The place of the first entry of a trace ("function:line:column:file") that is the script's own.
-QString placeInTrace(const QStringList& trace) {
+/// The line of the first entry of a trace ("function:line:column:file") that is not the bridge's.
+int lineInTrace(const QStringList& trace) {
     static const QRegularExpression entry(QStringLiteral("^[^:]*:(-?\\d+):-?\\d+:(.*)$"));
     for (const QString& line : trace) {
         const QRegularExpressionMatch match = entry.match(line);
         if (match.hasMatch() && match.captured(2) != Bridge::bridgeFile())
-            return plainFile(match.captured(2)) + QLatin1Char(':') + match.captured(1);
+            return match.captured(1).toInt();
     }
-    return {};
-}
-
-QString placeOf(const QJSValue& error) {
-    return plainFile(error.property(QStringLiteral("fileName")).toString()) + QLatin1Char(':') +
-           QString::number(error.property(QStringLiteral("lineNumber")).toInt());
+    return 0;
 }
 
 } // namespace
@@ -116,19 +104,19 @@ int ScriptRunner::runText(const QString& text, const QString& file, const QStrin
     QStringList trace;
     const QJSValue result = engine_.evaluate(text, file, 1, &trace);
     if (!trace.isEmpty())
-        return fail(result, trace);
+        return fail(file, result, trace);
     if (const auto& stray = bridge_->strayFailure())
-        return fail(*stray, {});
+        return fail(file, *stray, {});
     return kEnded;
 }
 
-int ScriptRunner::fail(const QJSValue& thrown, const QStringList& trace) {
+int ScriptRunner::fail(const QString& file, const QJSValue& thrown, const QStringList& trace) {
     bridge_->locate(thrown);
     const bool isError = thrown.isError();
-    const QString place = isError ? placeOf(thrown) : placeInTrace(trace);
+    const int line = isError ? thrown.property(QStringLiteral("lineNumber")).toInt() : lineInTrace(trace);
     const QString message =
         isError ? thrown.property(QStringLiteral("message")).toString() : thrown.toString();
-    errors_(QStringLiteral("%1: %2").arg(place, message));
+    errors_(QStringLiteral("%1:%2: %3").arg(file, QString::number(line), message));
     return kFailed;
 }
 

@@ -31,7 +31,7 @@ private:
     void addGlobals();
     ScriptObjectPtr makeGrid();
     void setLocale(const QLocale& locale);
-    int fail(const QJSValue& thrown, const QStringList& trace);
+    int fail(const QString& file, const QJSValue& thrown, const QStringList& trace);
 
     Writer output_;
     Writer errors_;
