@@ -34,6 +34,8 @@ Bridge::Bridge(QJSEngine& engine)
     helpers_ = maker.call({engine_.newQObject(&gate_), QJSValue(bridgeFile())});
     if (helpers_.isError())
         throw Error(kErrInvalidCall, helpers_.toString());
+    invoker_ = helper("invoke");
+    facadeMaker_ = helper("makeFacade");
     addGlobal(QStringLiteral("print"), helper("print"));
 }
 
@@ -94,28 +96,26 @@ QJSValue Bridge::facade(const ScriptObjectPtr& object) {
     auto* handle = new ScriptHandle(object, scriptClass);
     handles_[object.get()] = handle;
     QJSValue wrapper = engine_.newQObject(handle);
-    const char* maker = object->isCallable() ? "makeCallableFacade" : "makeFacade";
-    const QJSValue facade = helper(maker).call({scriptClass.prototype, wrapper});
+    const QJSValue maker = object->isCallable() ? helper("makeCallableFacade") : facadeMaker_;
+    const QJSValue facade = maker.call({scriptClass.prototype, wrapper});
     wrapper.setProperty(QStringLiteral("facade"), facade);
     return facade;
 }
 
 QJSValue Bridge::makeArguments(const QString& className, const QStringList& names,
                                const QList<QJSValue>& values) {
-    QJSValue& guard = argumentGuards_[className];
-    if (guard.isUndefined())
-        guard = helper("makeGuard").call({QJSValue(className)});
-    QJSValue nameList = engine_.newArray(static_cast<uint>(names.size()));
-    QJSValue valueList = engine_.newArray(static_cast<uint>(values.size()));
-    for (int i = 0; i < names.size(); ++i) {
-        nameList.setProperty(static_cast<quint32>(i), names.at(i));
-        valueList.setProperty(static_cast<quint32>(i), values.at(i));
+    QJSValue& maker = argumentMakers_[className];
+    if (!maker.isCallable()) {
+        QJSValue list = engine_.newArray(static_cast<uint>(names.size()));
+        for (int i = 0; i < names.size(); ++i)
+            list.setProperty(static_cast<quint32>(i), names.at(i));
+        maker = helper("makeArgumentMaker").call({QJSValue(className), list});
     }
-    return helper("makeArguments").call({guard, nameList, valueList});
+    return maker.call(values);
 }
 
 QJSValue Bridge::invoke(const QJSValue& function, const QJSValue& argument) {
-    const QJSValue outcome = helper("invoke").call({function, argument});
+    const QJSValue outcome = invoker_.call({function, argument});
     const bool ended = !outcome.isError() && !outcome.hasOwnProperty(QStringLiteral("thrown"));
     if (ended)
         return outcome.property(QStringLiteral("value"));
@@ -211,13 +211,13 @@ void Bridge::set(ScriptHandle* handle, int id, const QJSValue& value) {
     });
 }
 
-QJSValue Bridge::call(ScriptHandle* handle, int id, const QJSValue& arguments) {
+QJSValue Bridge::call(ScriptHandle* handle, int id, int count, const QJSValue& arguments) {
     return guarded([&] {
         const ScriptMember& member = memberOf(handle, id);
         const ScriptObjectPtr object = handle->object();
         QObject& target = targetOf(*object, member);
         const bool givesNothing = member.overloads.front().returnMetaType() == QMetaType::fromType<void>();
-        const QVariant result = callMethod(target, member, arguments, values_);
+        const QVariant result = callMethod(target, member, count, arguments, values_);
         return givesNothing ? QJSValue() : values_.toScript(result);
     });
 }

@@ -72,7 +72,7 @@ public:
     // The gate's side: what a script does with an object.
     QJSValue get(ScriptHandle* handle, int member);
     void set(ScriptHandle* handle, int member, const QJSValue& value);
-    QJSValue call(ScriptHandle* handle, int member, const QJSValue& arguments);
+    QJSValue call(ScriptHandle* handle, int member, int count, const QJSValue& arguments);
     QJSValue create(const QString& className, int argumentCount);
     void print(const QString& line);
 
@@ -93,10 +93,12 @@ private:
     ValueConversion values_;
     Gate gate_;
     QJSValue helpers_;
+    QJSValue invoker_; ///< of the helpers, those that every event and object asks for
+    QJSValue facadeMaker_;
     std::map<std::pair<const QMetaObject*, const QMetaObject*>, std::unique_ptr<ScriptClass>> classes_;
     std::vector<MemberPlace> members_;
     QHash<QString, std::function<ScriptObjectPtr()>> constructors_;
-    QHash<QString, QJSValue> argumentGuards_;
+    QHash<QString, QJSValue> argumentMakers_;
     std::map<std::tuple<const void*, const void*, const QMetaObject*>, std::weak_ptr<ScriptObject>> shared_;
     std::map<const ScriptObject*, QPointer<ScriptHandle>> handles_;
     std::function<void(const QString&)> printer_;

@@ -49,7 +49,7 @@
 
     function methodAccessor(className, id, name) {
         const method = function () {
-            return gate.call(this.__zkp, id, Array.prototype.slice.call(arguments));
+            return gate.call(this.__zkp, id, arguments.length, arguments);
         };
         return {
             get: function () { return method; },
@@ -71,7 +71,6 @@
     return {
         makeError: makeError,
         locate: locate,
-        makeGuard: makeGuard,
 
         /// `members` are triples of id, name and whether it is a method.
         makeClass: function (className, members) {
@@ -107,12 +106,15 @@
             return facade;
         },
 
-        /// The argument object of one event: these names and no others.
-        makeArguments: function (guard, names, values) {
-            const argument = {};
-            for (let i = 0; i < names.length; ++i)
-                argument[names[i]] = values[i];
-            return Object.setPrototypeOf(argument, guard);
+        /// A function that makes the argument objects of one event: these names and no others.
+        makeArgumentMaker: function (className, names) {
+            const guard = makeGuard(className);
+            return function (...values) {
+                const argument = {};
+                for (let i = 0; i < names.length; ++i)
+                    argument[names[i]] = values[i];
+                return Object.setPrototypeOf(argument, guard);
+            };
         },
 
         /// Whatever a handler throws is caught here, since the engine tells C++ only about Error objects.

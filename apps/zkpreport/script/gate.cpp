@@ -12,8 +12,8 @@ void Gate::set(QObject* handle, int member, const QJSValue& value) {
     bridge_.set(qobject_cast<ScriptHandle*>(handle), member, value);
 }
 
-QJSValue Gate::call(QObject* handle, int member, const QJSValue& arguments) {
-    return bridge_.call(qobject_cast<ScriptHandle*>(handle), member, arguments);
+QJSValue Gate::call(QObject* handle, int member, int count, const QJSValue& arguments) {
+    return bridge_.call(qobject_cast<ScriptHandle*>(handle), member, count, arguments);
 }
 
 QJSValue Gate::create(const QString& className, int argumentCount) {

@@ -17,7 +17,7 @@ public:
 
     Q_INVOKABLE QJSValue get(QObject* handle, int member);
     Q_INVOKABLE void set(QObject* handle, int member, const QJSValue& value);
-    Q_INVOKABLE QJSValue call(QObject* handle, int member, const QJSValue& arguments);
+    Q_INVOKABLE QJSValue call(QObject* handle, int member, int count, const QJSValue& arguments);
     Q_INVOKABLE QJSValue create(const QString& className, int argumentCount);
     Q_INVOKABLE void print(const QString& line);
 

@@ -40,8 +40,7 @@ struct Argument {
     }
 };
 
-int argumentCount(const QJSValue& arguments) {
-    int count = arguments.property(QStringLiteral("length")).toInt();
+int withoutLeftOut(int count, const QJSValue& arguments) {
     while (count > 0 && arguments.property(static_cast<quint32>(count - 1)).isUndefined())
         --count;
     return count;
@@ -106,11 +105,10 @@ QVariant invoke(QObject& target, const QMetaMethod& method, std::vector<Argument
 
 } // namespace
 
-QVariant callMethod(QObject& target, const ScriptMember& member, const QJSValue& arguments,
+QVariant callMethod(QObject& target, const ScriptMember& member, int given, const QJSValue& arguments,
                     const ValueConversion& values) {
-    const int given = arguments.property(QStringLiteral("length")).toInt();
     const int most = member.overloads.back().parameterCount();
-    const int count = given > most ? given : argumentCount(arguments);
+    const int count = given > most ? given : withoutLeftOut(given, arguments);
     const QMetaMethod& method = overloadFor(member, count);
     const int required = member.overloads.front().parameterCount();
 

@@ -7,10 +7,10 @@
 
 namespace zkp::script {
 
-/// Calls a method of `target` with a script's arguments and gives its result. A reference parameter
+/// Calls a method of `target` with a script's `given` arguments and gives its result. A reference parameter
 /// takes an object with a `value` member and writes back there, or a plain value. Left-out arguments
 /// take the declared default at the end of the list and the type's empty value before it.
-QVariant callMethod(QObject& target, const ScriptMember& member, const QJSValue& arguments,
+QVariant callMethod(QObject& target, const ScriptMember& member, int given, const QJSValue& arguments,
                     const ValueConversion& values);
 
 /// Writes a write-only property.
