@@ -5,6 +5,8 @@
 #include "script/grid_object.h"
 #include "script/host_object.h"
 
+#include <QCoreApplication>
+#include <QEvent>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -32,7 +34,8 @@ int lineInTrace(const QStringList& trace) {
 ScriptRunner::ScriptRunner(Writer output, Writer errors)
     : output_(std::move(output))
     , errors_(std::move(errors))
-    , bridge_(std::make_unique<Bridge>(engine_))
+    , engine_(std::make_unique<QJSEngine>())
+    , bridge_(std::make_unique<Bridge>(*engine_))
     , host_(std::make_shared<ScriptsHost>(*bridge_)) {
     bridge_->setPrinter(output_);
     addGlobals();
@@ -45,7 +48,10 @@ ScriptRunner::~ScriptRunner() {
             alive->handlers().clear();
     }
     host_->release();
-    bridge_->setPrinter({});
+    bridge_.reset();
+    engine_.reset();
+    // What the script engine gave up earlier waits for an event loop that may never run.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     QLocale::setDefault(formerLocale_);
 }
 
@@ -96,13 +102,13 @@ int ScriptRunner::runFile(const QString& file, const QStringList& arguments) {
 }
 
 int ScriptRunner::runText(const QString& text, const QString& file, const QStringList& arguments) {
-    QJSValue list = engine_.newArray(static_cast<uint>(arguments.size()));
+    QJSValue list = engine_->newArray(static_cast<uint>(arguments.size()));
     for (int i = 0; i < arguments.size(); ++i)
         list.setProperty(static_cast<quint32>(i), arguments.at(i));
     bridge_->addGlobal(QStringLiteral("args"), list);
 
     QStringList trace;
-    const QJSValue result = engine_.evaluate(text, file, 1, &trace);
+    const QJSValue result = engine_->evaluate(text, file, 1, &trace);
     if (!trace.isEmpty())
         return fail(file, result, trace);
     if (const auto& stray = bridge_->strayFailure())

@@ -36,7 +36,7 @@ private:
     Writer output_;
     Writer errors_;
     QLocale formerLocale_;
-    QJSEngine engine_;
+    std::unique_ptr<QJSEngine> engine_;
     std::unique_ptr<Bridge> bridge_;
     std::shared_ptr<ScriptsHost> host_;
     std::vector<std::weak_ptr<ScriptControl>> controls_;
