@@ -100,6 +100,8 @@ QStringList CaseRunner::rowsOf(const QString& statement) {
 }
 
 QStringList CaseRunner::rowsOf(const ado::RecordsetPtr& recordset) {
+    if (recordset->RecordCount() > 0)
+        recordset->MoveFirst();
     const ReportLocale locale(grid_.Locale());
     QStringList rows;
     for (; !recordset->Eof(); recordset->MoveNext()) {

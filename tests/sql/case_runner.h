@@ -18,9 +18,9 @@ namespace zkp::sqlcases {
 /// Expected of the last call: `result`; `error: NUMBER` or `error: any`; `asks: nothing` (no statement
 /// reached the database); `rows` (what the result gives; cells joined by "; ", rows by " / "),
 /// `sortedrows` (the same where the statement leaves the order open), `refused` (the database does not
-/// take the result); `box: text` (critical, no title; in order), `box: any`. Of the control: `expect NAME:
-/// value`. Of the database: `count TABLE: n`. A case whose calls show other boxes, or fail without saying so,
-/// fails.
+/// take the result); `box: text` (critical, no title; in order), `box: any`. Of the control:
+/// `expect NAME: value`. Of the database: `count TABLE: n`. A case whose calls show other boxes, or fail
+/// without saying so, fails.
 class CaseRunner {
 public:
     CaseRunner();
