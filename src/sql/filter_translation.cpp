@@ -15,8 +15,8 @@ struct Surroundings {
     const char* after;
 };
 constexpr Surroundings kPatterns[] = {
-    {" ", " "}, {"(", ")"}, {"(", " "}, {"(", "="}, {"(", ">"}, {"(", "<"},  {"(", ">="},
-    {"(", "<="}, {"", "="}, {"", ">"},  {"", ">="}, {"", "<="}, {"", "<>"}, {"", "<"},
+    {" ", " "},  {"(", ")"}, {"(", " "}, {"(", "="}, {"(", ">"}, {"(", "<"}, {"(", ">="},
+    {"(", "<="}, {"", "="},  {"", ">"},  {"", ">="}, {"", "<="}, {"", "<>"}, {"", "<"},
 };
 
 } // namespace
@@ -50,11 +50,11 @@ void FilterTranslation::TranslateFilter(QString& Tables) {
             const QString field = nameKey(textOrEmpty(row.Fields().Item(u"SOURCEFIELDNAME").Value()));
             const QVariant table = row.Fields().Item(u"SourceTableName").Value();
             const QString tableName = nameKey(textOrEmpty(table));
-            const QString expression = textOrEmpty(row.Fields().Item(u"Expr").Value());
             if (!field.isEmpty()) {
                 physical = u'[' + tableName + QStringLiteral("].[") + field + u']';
                 replaceKey(filter, key, physical);
-            } else if (!isBlank(expression)) {
+            } else if (const QString expression = textOrEmpty(row.Fields().Item(u"Expr").Value());
+                       !isBlank(expression)) {
                 physical = u' ' + expression;
                 replaceKey(filter, key, physical);
             } // else the physical text of the row before stands, as wanted

@@ -43,7 +43,11 @@ bool isWanted(const QString& wanted, const Aggregate& aggregate, const QString& 
 QString StatisticsStatement::RunTimeStatsSQL() {
     QString statement;
     try {
-        statement = build();
+        QString tables = QStringLiteral(" , ") + inputs_.state.MasterTable + u' ';
+        translation_.TranslateFilter(tables);
+        if (isBlank(inputs_.state.Groupby))
+            return {}; // `SQLRun` keeps the statement before
+        statement = build(tables);
     } catch (const std::exception&) {
         host_.msgBox(texts::statisticsFailed(), kMsgBoxCritical);
     }
@@ -51,12 +55,8 @@ QString StatisticsStatement::RunTimeStatsSQL() {
     return statement;
 }
 
-QString StatisticsStatement::build() {
+QString StatisticsStatement::build(QString& tables) {
     ReportState& state = inputs_.state;
-    QString tables = QStringLiteral(" , ") + state.MasterTable + u' ';
-    translation_.TranslateFilter(tables);
-    if (isBlank(state.Groupby))
-        return {};
     QString select = groupItems(tables) + QStringLiteral(", Count(*) as cnt ");
     const QString wanted = wantedColumns();
     select += aggregates(wanted, tables);
@@ -69,7 +69,8 @@ QString StatisticsStatement::build() {
     const QString from = joins_.MakeFromAndJoins(tables);
     hierarchy_.restrictFilter();
     QString statement = QStringLiteral("SELECT DISTINCT ") + select + QStringLiteral(" FROM ") + from +
-                        QStringLiteral(" Where ") + state.Filter + QStringLiteral(" Group By ") + state.Groupby;
+                        QStringLiteral(" Where ") + state.Filter + QStringLiteral(" Group By ") +
+                        state.Groupby;
     if (!isBlank(state.OrderBy))
         statement += QStringLiteral(" Order by ") + state.OrderBy;
     return statement;
@@ -117,8 +118,8 @@ QString StatisticsStatement::aggregates(const QString& wanted, QString& tables) 
         const QString physical = fields_.makefldSql(key, tables, false);
         for (const Aggregate& aggregate : kAggregates)
             if (flag(row, aggregate) && isWanted(wanted, aggregate, key))
-                items += QStringLiteral(", ") + aggregate.function + u'(' + physical + QStringLiteral(") As ") +
-                         aggregate.prefix + key;
+                items += QStringLiteral(", ") + aggregate.function + u'(' + physical +
+                         QStringLiteral(") As ") + aggregate.prefix + key;
     }
     return items;
 }

@@ -22,12 +22,13 @@ public:
         , hierarchy_(hierarchy)
         , host_(host) {}
 
-    /// Overwrites `Filter`, `Groupby` (physical from here on), `OrderBy` and `SQLRun`. A failure shows
-    /// a box and gives what was built, usually nothing.
+    /// Overwrites `Filter`, `Groupby` (physical from here on), `OrderBy` and `SQLRun`. Without group
+    /// factors only `Filter`, and there is no statement. A failure shows a box and gives what was
+    /// built, usually nothing.
     QString RunTimeStatsSQL();
 
 private:
-    QString build();
+    QString build(QString& tables);
     QString groupItems(QString& tables);
     QString wantedColumns();
     QString aggregates(const QString& wanted, QString& tables);
