@@ -6,14 +6,14 @@
 #include "ui/menu_bands.h"
 #include "zkp_grid_parts.h"
 
-#include <algorithm>
-
 namespace zkp {
 
 namespace {
 
 /// Twips that a text takes in the report's usual font, for parts that must work without a screen.
-double roughTextWidth(const QString& text) { return 90.0 * static_cast<double>(text.size()); }
+double roughTextWidth(const QString& text) {
+    return 90.0 * static_cast<double>(text.size());
+}
 
 } // namespace
 
@@ -23,7 +23,8 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , columnProperties(columns, surface, events)
     , groupFactors(state, columns, events)
     , accountColumns(state, columns, surface, roughTextWidth)
-    , groupColumns(state, columns, columnProperties, groupFactors, surface, *host, [this](int count) { setCols(count); })
+    , groupColumns(state, columns, columnProperties, groupFactors, surface, *host,
+                   [this](int count) { setCols(count); })
     , source(state)
     , dictionary(state)
     , settings(state.Cn)
@@ -52,7 +53,6 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
 
 /// What a load asks of the other parts.
 void ZkpGrid::Parts::connectHooks() {
-    hooks.LoadIerarxia = [this] { hierarchy.LoadIerarxia(); };
     hooks.FindMaster = [this] { masterTable.FindMaster(); };
     hooks.DetailStatement = [this] { return dispatch.DetailStatement(); };
     hooks.OpenTotalRecordset = [this] { dispatch.OpenTotalRecordset(); };
@@ -71,7 +71,8 @@ void ZkpGrid::Parts::setCols(int count) {
 }
 
 ZkpGrid::ZkpGrid(std::shared_ptr<Host> host, QObject* parent)
-    : QObject(parent), parts_(std::make_shared<Parts>(std::move(host))) {
+    : QObject(parent)
+    , parts_(std::make_shared<Parts>(std::move(host))) {
     parts_->surfaceEvents.connect(parts_);
 }
 
@@ -81,18 +82,40 @@ ZkpGrid::~ZkpGrid() {
     parts_->events.blockSignals(true);
 }
 
-ColumnList& ZkpGrid::Columns() { return parts_->columns; }
-Events& ZkpGrid::events() { return parts_->events; }
-Host& ZkpGrid::host() { return *parts_->host; }
-GridSurface& ZkpGrid::MSFlexGrid1() { return parts_->children.MSFlexGrid1; }
-GridSurface& ZkpGrid::MSFlexGrid2() { return parts_->children.MSFlexGrid2; }
-GridSurface& ZkpGrid::MSFlexGrid3() { return parts_->children.MSFlexGrid3; }
-MenuBar& ZkpGrid::Picture1() { return parts_->children.Picture1; }
-Button& ZkpGrid::cmdHide() { return parts_->children.cmdHide; }
-Label& ZkpGrid::lbltemplate() { return parts_->children.lbltemplate; }
-Label& ZkpGrid::lblfilter() { return parts_->children.lblfilter; }
+ColumnList& ZkpGrid::Columns() {
+    return parts_->columns;
+}
+Events& ZkpGrid::events() {
+    return parts_->events;
+}
+Host& ZkpGrid::host() {
+    return *parts_->host;
+}
+GridSurface& ZkpGrid::MSFlexGrid1() {
+    return parts_->children.MSFlexGrid1;
+}
+GridSurface& ZkpGrid::MSFlexGrid2() {
+    return parts_->children.MSFlexGrid2;
+}
+GridSurface& ZkpGrid::MSFlexGrid3() {
+    return parts_->children.MSFlexGrid3;
+}
+MenuBar& ZkpGrid::Picture1() {
+    return parts_->children.Picture1;
+}
+Button& ZkpGrid::cmdHide() {
+    return parts_->children.cmdHide;
+}
+Label& ZkpGrid::lbltemplate() {
+    return parts_->children.lbltemplate;
+}
+Label& ZkpGrid::lblfilter() {
+    return parts_->children.lblfilter;
+}
 
-void ZkpGrid::setErrorSink(std::function<void(const Error&)> sink) { parts_->errorSink = std::move(sink); }
+void ZkpGrid::setErrorSink(std::function<void(const Error&)> sink) {
+    parts_->errorSink = std::move(sink);
+}
 
 void ZkpGrid::Fill(const ado::ConnectionPtr& P_CN, const QVariant& P_RecordSource, int P_SourceType,
                    const QString& P_ProductID, int P_Remote) {
@@ -102,37 +125,24 @@ void ZkpGrid::Fill(const ado::ConnectionPtr& P_CN, const QVariant& P_RecordSourc
     setProductID(P_ProductID);
     setRemote(toInt16(P_Remote));
     if (P_ProductID != QStringLiteral("-1") && !P_ProductID.isEmpty())
-        LoadHooks::run(parts_->hooks.LoadIerarxia);
+        LoadIerarxia();
 }
 
-// A handler may have destroyed the control when one of these comes back; nothing of `this` is used
-// behind the call.
-
 void ZkpGrid::refresh() {
-    const auto parts = parts_;
-    try {
-        parts->driver.refresh(parts->errorSink);
-    } catch (const ControlDestroyed&) {
-    }
+    run([](Parts& p) { p.driver.refresh(p.errorSink); });
 }
 
 void ZkpGrid::FillGrid() {
-    const auto parts = parts_;
-    try {
-        parts->driver.FillGrid();
-    } catch (const ControlDestroyed&) {
-    }
+    run([](Parts& p) { p.driver.FillGrid(); });
 }
 
 void ZkpGrid::PrepareEmptyGrid() {
-    const auto parts = parts_;
-    try {
-        parts->emptyReport.prepare();
-    } catch (const ControlDestroyed&) {
-    }
+    run([](Parts& p) { p.emptyReport.prepare(); });
 }
 
-void ZkpGrid::Clear() { parts_->surface.Clear(); }
+void ZkpGrid::Clear() {
+    run([](Parts& p) { p.surface.Clear(); });
+}
 
 QVariant ZkpGrid::ClearGrid() {
     const auto parts = parts_;
@@ -141,7 +151,7 @@ QVariant ZkpGrid::ClearGrid() {
     const auto pass = [](auto step) {
         try {
             step();
-        } catch (const Error&) {
+        } catch (...) {
         }
     };
     pass([&] { surface.setRows(surface.FixedRows()); });
@@ -154,37 +164,75 @@ QVariant ZkpGrid::ClearGrid() {
 
 /// The mark comes off first, so that it does not travel with the insertion.
 void ZkpGrid::AddItem(const QString& mitem, const QVariant& mindex) {
-    const auto parts = parts_;
-    LoadHooks::run(parts->hooks.RedrawRow, parts->state.PreRow);
-    parts->surface.AddItem(mitem, mindex.isValid() ? toInt32(mindex) : -1);
+    const int place = mindex.isValid() ? toInt32(mindex) : -1;
+    if (mindex.isValid() && place < 0)
+        throw Error(kErrInvalidRow, QStringLiteral("Invalid Row value"), QStringLiteral("AddItem"));
+    run([&](Parts& p) {
+        LoadHooks::run(p.hooks.RedrawRow, p.state.PreRow);
+        p.surface.AddItem(mitem, place);
+    });
 }
 
 /// The mark is left as it is, unlike in AddItem; wanted.
-void ZkpGrid::RemoveItem(int mindex) { parts_->surface.RemoveItem(mindex); }
-void ZkpGrid::CancelLoad() { parts_->state.CancelRequested = true; }
-void ZkpGrid::StopSearch() { parts_->state.SearchStopRequested = true; }
+void ZkpGrid::RemoveItem(int mindex) {
+    run([&](Parts& p) { p.surface.RemoveItem(mindex); });
+}
 
-QString ZkpGrid::RecordsourceSTR() const { return parts_->source.text(); }
-bool ZkpGrid::HasTotals() const { return parts_->groupFactors.HasTotals(); }
-short ZkpGrid::FindGroupNum() const { return parts_->groupFactors.FindGroupNum(); }
-void ZkpGrid::CheckGroupBy() { parts_->groupFactors.CheckGroupBy(parts_->surface.Cols()); }
-void ZkpGrid::InsertColumn(int whereisit) { parts_->groupColumns.InsertColumn(whereisit); }
-void ZkpGrid::MakeFixedForGroup() { parts_->groupColumns.MakeFixedForGroup(); }
-bool ZkpGrid::FindAccountColumns() { return parts_->accountColumns.FindAccountColumns(); }
-void ZkpGrid::RecalcBalanceColumn() { parts_->accountColumns.RecalcBalanceColumn(); }
+void ZkpGrid::CancelLoad() {
+    parts_->state.CancelRequested = true;
+}
+void ZkpGrid::StopSearch() {
+    parts_->state.SearchStopRequested = true;
+}
 
-void ZkpGrid::UserControl_Resize() { parts_->lifecycle.resize(); }
-void ZkpGrid::UserControl_EnterFocus() { parts_->lifecycle.enterFocus(); }
-void ZkpGrid::UserControl_ExitFocus() { parts_->lifecycle.exitFocus(); }
+QString ZkpGrid::RecordsourceSTR() const {
+    return parts_->source.text();
+}
+bool ZkpGrid::HasTotals() const {
+    return parts_->groupFactors.HasTotals();
+}
+short ZkpGrid::FindGroupNum() const {
+    return parts_->groupFactors.FindGroupNum();
+}
+
+void ZkpGrid::CheckGroupBy() {
+    run([](Parts& p) { p.groupFactors.CheckGroupBy(p.surface.Cols()); });
+}
+
+void ZkpGrid::InsertColumn(int whereisit) {
+    run([&](Parts& p) { p.groupColumns.InsertColumn(whereisit); });
+}
+
+void ZkpGrid::MakeFixedForGroup() {
+    run([](Parts& p) { p.groupColumns.MakeFixedForGroup(); });
+}
+
+bool ZkpGrid::FindAccountColumns() {
+    return parts_->accountColumns.FindAccountColumns();
+}
+
+void ZkpGrid::RecalcBalanceColumn() {
+    run([](Parts& p) { p.accountColumns.RecalcBalanceColumn(); });
+}
+
+void ZkpGrid::UserControl_Resize() {
+    run([](Parts& p) { p.lifecycle.resize(); });
+}
+
+void ZkpGrid::UserControl_EnterFocus() {
+    run([](Parts& p) { p.lifecycle.enterFocus(); });
+}
+
+void ZkpGrid::UserControl_ExitFocus() {
+    run([](Parts& p) { p.lifecycle.exitFocus(); });
+}
 
 int ZkpGrid::UserControl_KeyDown(int KeyCode, int Shift) {
-    const auto parts = parts_;
-    return parts->lifecycle.keyDown(KeyCode, Shift);
+    return run([&](Parts& p) { return p.lifecycle.keyDown(KeyCode, Shift); });
 }
 
 int ZkpGrid::UserControl_KeyPress(int KeyAscii) {
-    const auto parts = parts_;
-    return parts->lifecycle.keyPress(KeyAscii);
+    return run([&](Parts& p) { return p.lifecycle.keyPress(KeyAscii); });
 }
 
 void ZkpGrid::UserControl_Terminate() {

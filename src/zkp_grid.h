@@ -170,6 +170,12 @@ private:
     Q_INVOKABLE void RecalcBalanceColumn();
 
     struct Parts;
+
+    /// Runs an operation of the parts, which stay alive meanwhile: one of its handlers may destroy the
+    /// control, and then it ends quietly.
+    template <class Operation>
+    auto run(Operation operation) const;
+
     std::shared_ptr<Parts> parts_;
 };
 

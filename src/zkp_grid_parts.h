@@ -10,8 +10,8 @@
 #include "load/load_driver.h"
 #include "load/row_reader.h"
 #include "sql/dictionary.h"
-#include "sql/statement_dispatch.h"
 #include "sql/percentage_statement.h"
+#include "sql/statement_dispatch.h"
 #include "support/settings_store.h"
 #include "ui/lifecycle.h"
 #include "ui/surface_events.h"
@@ -65,5 +65,15 @@ struct ZkpGrid::Parts {
 private:
     void connectHooks();
 };
+
+template <class Operation>
+auto ZkpGrid::run(Operation operation) const {
+    const std::shared_ptr<Parts> parts = parts_;
+    try {
+        return operation(*parts);
+    } catch (const ControlDestroyed&) {
+        return decltype(operation(*parts))();
+    }
+}
 
 } // namespace zkp

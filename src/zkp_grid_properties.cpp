@@ -4,14 +4,14 @@
 #include "base/report_locale.h"
 #include "zkp_grid_parts.h"
 
-#include <algorithm>
-
 // The accessors that come from the property list, family by family, and the few that do more.
 
 namespace zkp {
 
 #define ZKP_SURFACE(Type, Name)                                                                              \
-    Type ZkpGrid::Name() const { return parts_->surface.Name(); }                                            \
+    Type ZkpGrid::Name() const {                                                                             \
+        return parts_->surface.Name();                                                                       \
+    }                                                                                                        \
     void ZkpGrid::set##Name(const Type& value) {                                                             \
         const auto parts = parts_;                                                                           \
         parts->surface.set##Name(value);                                                                     \
@@ -20,7 +20,9 @@ namespace zkp {
 ZKP_SURFACE_PROPERTIES(ZKP_SURFACE)
 
 #define ZKP_LOOK(Type, Name)                                                                                 \
-    Type ZkpGrid::Name() const { return parts_->surface.look().Name; }                                       \
+    Type ZkpGrid::Name() const {                                                                             \
+        return parts_->surface.look().Name;                                                                  \
+    }                                                                                                        \
     void ZkpGrid::set##Name(const Type& value) {                                                             \
         const auto parts = parts_;                                                                           \
         GridSurface::Look look = parts->surface.look();                                                      \
@@ -31,7 +33,9 @@ ZKP_SURFACE_PROPERTIES(ZKP_SURFACE)
 ZKP_LOOK_PROPERTIES(ZKP_LOOK)
 
 #define ZKP_SURFACE_BY_INDEX(Type, Name)                                                                     \
-    Type ZkpGrid::Name(int index) const { return parts_->surface.Name(index); }                              \
+    Type ZkpGrid::Name(int index) const {                                                                    \
+        return parts_->surface.Name(index);                                                                  \
+    }                                                                                                        \
     void ZkpGrid::set##Name(int index, const Type& value) {                                                  \
         const auto parts = parts_;                                                                           \
         parts->surface.set##Name(index, value);                                                              \
@@ -40,7 +44,9 @@ ZKP_LOOK_PROPERTIES(ZKP_LOOK)
 ZKP_SURFACE_INDEXED(ZKP_SURFACE_BY_INDEX)
 
 #define ZKP_MEMBER(Type, Name, Key, ...)                                                                     \
-    Type ZkpGrid::Name() const { return parts_->state.Name; }                                                \
+    Type ZkpGrid::Name() const {                                                                             \
+        return parts_->state.Name;                                                                           \
+    }                                                                                                        \
     void ZkpGrid::set##Name(const Type& value) {                                                             \
         const auto parts = parts_;                                                                           \
         parts->state.Name = value;                                                                           \
@@ -49,17 +55,25 @@ ZKP_SURFACE_INDEXED(ZKP_SURFACE_BY_INDEX)
 ZKP_MEMBER_PROPERTIES(ZKP_MEMBER)
 
 #define ZKP_SILENT(Type, Name, ...)                                                                          \
-    Type ZkpGrid::Name() const { return parts_->state.Name; }                                                \
-    void ZkpGrid::set##Name(const Type& value) { parts_->state.Name = value; }
+    Type ZkpGrid::Name() const {                                                                             \
+        return parts_->state.Name;                                                                           \
+    }                                                                                                        \
+    void ZkpGrid::set##Name(const Type& value) {                                                             \
+        parts_->state.Name = value;                                                                          \
+    }
 ZKP_SILENT_PROPERTIES(ZKP_SILENT)
 ZKP_PLAIN_MEMBERS(ZKP_SILENT)
 
 #define ZKP_WRITE_ONLY(Type, Name, ...)                                                                      \
-    void ZkpGrid::set##Name(const Type& value) { parts_->state.Name = value; }
+    void ZkpGrid::set##Name(const Type& value) {                                                             \
+        parts_->state.Name = value;                                                                          \
+    }
 ZKP_IDENTITY_PROPERTIES(ZKP_WRITE_ONLY)
 
 #define ZKP_COLUMN(Type, Name, ...)                                                                          \
-    Type ZkpGrid::Name(int index) const { return parts_->columnProperties.Name(index); }                     \
+    Type ZkpGrid::Name(int index) const {                                                                    \
+        return parts_->columnProperties.Name(index);                                                         \
+    }                                                                                                        \
     void ZkpGrid::set##Name(int index, const Type& value) {                                                  \
         const auto parts = parts_;                                                                           \
         parts->columnProperties.set##Name(index, value);                                                     \
@@ -71,7 +85,9 @@ ZKP_COLUMN(bool, ColCredit)
 ZKP_COLUMN(double, ColWidth)
 
 #define ZKP_READ_KEPT(Type, Name, ...)                                                                       \
-    Type ZkpGrid::Name() const { return parts_->state.Name; }
+    Type ZkpGrid::Name() const {                                                                             \
+        return parts_->state.Name;                                                                           \
+    }
 ZKP_KEPT_MEMBERS(ZKP_READ_KEPT)
 
 // The heading row takes its font at once.
@@ -119,8 +135,9 @@ void ZkpGrid::setFreezeBackColor(const Color& value) {
 /// Also the floor of the surface's rows.
 void ZkpGrid::setMinRows(const double& value) {
     const auto parts = parts_;
+    const int floor = toInt32(value);
     parts->state.MinRows = value;
-    if (const int floor = toInt32(value); parts->surface.Rows() < floor)
+    if (parts->surface.Rows() < floor)
         parts->surface.setRows(floor);
     parts->events.notify(QStringLiteral("MinRows"));
 }
@@ -131,7 +148,9 @@ void ZkpGrid::setRefreshOnChange(const bool& value) {
     parts->events.notify(QStringLiteral("Refreshonchange"));
 }
 
-int ZkpGrid::Rows() const { return parts_->surface.Rows(); }
+int ZkpGrid::Rows() const {
+    return parts_->surface.Rows();
+}
 
 void ZkpGrid::setRows(const int& value) {
     const auto parts = parts_;
@@ -141,14 +160,18 @@ void ZkpGrid::setRows(const int& value) {
     parts->events.notify(QStringLiteral("Rows"));
 }
 
-int ZkpGrid::Cols() const { return parts_->surface.Cols(); }
+int ZkpGrid::Cols() const {
+    return parts_->surface.Cols();
+}
 
 void ZkpGrid::setCols(const int& value) {
     const auto parts = parts_;
     parts->setCols(value);
 }
 
-int ZkpGrid::Row() const { return parts_->surface.Row(); }
+int ZkpGrid::Row() const {
+    return parts_->surface.Row();
+}
 
 /// A row beyond the last first makes that many rows; the row one past them is then dropped without a
 /// word, and the row count has still grown, as wanted.
@@ -166,19 +189,41 @@ void ZkpGrid::setRow(const int& value) {
     parts->events.notify(QStringLiteral("Row"));
 }
 
-QVariant ZkpGrid::RecordSource() const { return QVariant::fromValue(parts_->source.get()); }
-void ZkpGrid::setRecordSource(const QVariant& value) { parts_->source.set(value); }
+QVariant ZkpGrid::RecordSource() const {
+    return QVariant::fromValue(parts_->source.get());
+}
+void ZkpGrid::setRecordSource(const QVariant& value) {
+    parts_->source.set(value);
+}
 
-double ZkpGrid::Width() const { return parts_->state.Width; }
-void ZkpGrid::setWidth(const double& value) { parts_->state.Width = value; }
-double ZkpGrid::Height() const { return parts_->state.Height; }
-void ZkpGrid::setHeight(const double& value) { parts_->state.Height = value; }
-int ZkpGrid::MousePointer() const { return parts_->state.MousePointer; }
-void ZkpGrid::setMousePointer(const int& value) { parts_->state.MousePointer = value; }
-QLocale ZkpGrid::Locale() const { return parts_->surface.locale().locale(); }
-void ZkpGrid::setLocale(const QLocale& value) { parts_->surface.setLocale(ReportLocale(value)); }
+double ZkpGrid::Width() const {
+    return parts_->state.Width;
+}
+void ZkpGrid::setWidth(const double& value) {
+    parts_->state.Width = value;
+}
+double ZkpGrid::Height() const {
+    return parts_->state.Height;
+}
+void ZkpGrid::setHeight(const double& value) {
+    parts_->state.Height = value;
+}
+int ZkpGrid::MousePointer() const {
+    return parts_->state.MousePointer;
+}
+void ZkpGrid::setMousePointer(const int& value) {
+    parts_->state.MousePointer = value;
+}
+QLocale ZkpGrid::Locale() const {
+    return parts_->surface.locale().locale();
+}
+void ZkpGrid::setLocale(const QLocale& value) {
+    parts_->surface.setLocale(ReportLocale(value));
+}
 
-QString ZkpGrid::TextMatrix(int row, int col) const { return parts_->surface.TextMatrix(row, col); }
+QString ZkpGrid::TextMatrix(int row, int col) const {
+    return parts_->surface.TextMatrix(row, col);
+}
 
 void ZkpGrid::setTextMatrix(int row, int col, const QString& text) {
     const auto parts = parts_;

@@ -7,25 +7,53 @@
 
 namespace zkp {
 
-QString ZkpGrid::RunTimeSQL() { return parts_->runTime.RunTimeSQL(); }
-QString ZkpGrid::RunTimeSQLCounter() { return parts_->runTime.RunTimeSQLCounter(); }
-QString ZkpGrid::NormalSQL() { return parts_->normal.NormalSQL(); }
-QString ZkpGrid::GroupedSQL() { return parts_->grouped.GroupedSQL(); }
-QString ZkpGrid::RunTimeStatsSQL() { return parts_->statistics.RunTimeStatsSQL(); }
-QString ZkpGrid::RunTimePosSql() { return parts_->percentages.RunTimePosSql(); }
-QString ZkpGrid::DetailStatement() { return parts_->dispatch.DetailStatement(); }
-void ZkpGrid::OpenTotalRecordset() { parts_->dispatch.OpenTotalRecordset(); }
-
-QString ZkpGrid::makefldSql(const QString& FieldName, QString& Tables, bool WithAlias) {
-    return parts_->fields.makefldSql(FieldName, Tables, WithAlias);
+QString ZkpGrid::RunTimeSQL() {
+    return run([&](Parts& p) { return p.runTime.RunTimeSQL(); });
+}
+QString ZkpGrid::RunTimeSQLCounter() {
+    return run([&](Parts& p) { return p.runTime.RunTimeSQLCounter(); });
+}
+QString ZkpGrid::NormalSQL() {
+    return run([&](Parts& p) { return p.normal.NormalSQL(); });
+}
+QString ZkpGrid::GroupedSQL() {
+    return run([&](Parts& p) { return p.grouped.GroupedSQL(); });
+}
+QString ZkpGrid::RunTimeStatsSQL() {
+    return run([&](Parts& p) { return p.statistics.RunTimeStatsSQL(); });
+}
+QString ZkpGrid::RunTimePosSql() {
+    return run([&](Parts& p) { return p.percentages.RunTimePosSql(); });
+}
+QString ZkpGrid::DetailStatement() {
+    return run([&](Parts& p) { return p.dispatch.DetailStatement(); });
+}
+void ZkpGrid::OpenTotalRecordset() {
+    run([&](Parts& p) { p.dispatch.OpenTotalRecordset(); });
 }
 
-void ZkpGrid::FindMaster() { parts_->masterTable.FindMaster(); }
-QString ZkpGrid::MakeFromAndJoins(QString& Tables) { return parts_->joins.MakeFromAndJoins(Tables); }
-QString ZkpGrid::FindJoinON(const QString& Table) { return parts_->joins.FindJoinON(Table); }
-void ZkpGrid::TranslateFilter(QString& Tables) { parts_->translation.TranslateFilter(Tables); }
-void ZkpGrid::LoadIerarxia() { parts_->hierarchy.LoadIerarxia(); }
-void ZkpGrid::LoadDictionary() { parts_->driver.LoadDictionary(); }
+QString ZkpGrid::makefldSql(const QString& FieldName, QString& Tables, bool WithAlias) {
+    return run([&](Parts& p) { return p.fields.makefldSql(FieldName, Tables, WithAlias); });
+}
+
+void ZkpGrid::FindMaster() {
+    run([&](Parts& p) { p.masterTable.FindMaster(); });
+}
+QString ZkpGrid::MakeFromAndJoins(QString& Tables) {
+    return run([&](Parts& p) { return p.joins.MakeFromAndJoins(Tables); });
+}
+QString ZkpGrid::FindJoinON(const QString& Table) {
+    return run([&](Parts& p) { return p.joins.FindJoinON(Table); });
+}
+void ZkpGrid::TranslateFilter(QString& Tables) {
+    run([&](Parts& p) { p.translation.TranslateFilter(Tables); });
+}
+void ZkpGrid::LoadIerarxia() {
+    run([&](Parts& p) { p.hierarchy.LoadIerarxia(); });
+}
+void ZkpGrid::LoadDictionary() {
+    run([&](Parts& p) { p.driver.LoadDictionary(); });
+}
 
 QString ZkpGrid::ReplaceStringIntoAString(const QString& StrForReplace, const QString& StrSource,
                                           const QString& StrDest) {
@@ -33,11 +61,11 @@ QString ZkpGrid::ReplaceStringIntoAString(const QString& StrForReplace, const QS
 }
 
 QString ZkpGrid::GETGeneral(int IntGenKey, int IntGenSubKey, QString& StrGenDescription) {
-    return parts_->settings.GETGeneral(IntGenKey, IntGenSubKey, StrGenDescription);
+    return run([&](Parts& p) { return p.settings.GETGeneral(IntGenKey, IntGenSubKey, StrGenDescription); });
 }
 
 bool ZkpGrid::SETGeneral(int IntGenKey, int IntGenSubKey, const QString& StrGenDescription) {
-    return parts_->settings.SETGeneral(IntGenKey, IntGenSubKey, StrGenDescription);
+    return run([&](Parts& p) { return p.settings.SETGeneral(IntGenKey, IntGenSubKey, StrGenDescription); });
 }
 
 } // namespace zkp

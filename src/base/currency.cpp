@@ -14,7 +14,8 @@ std::optional<Currency> Currency::fromDouble(double value) {
 
 QString Currency::toPlainText() const {
     const bool negative = scaled < 0;
-    const auto magnitude = negative ? 0 - static_cast<std::uint64_t>(scaled) : static_cast<std::uint64_t>(scaled);
+    const auto magnitude =
+        negative ? 0 - static_cast<std::uint64_t>(scaled) : static_cast<std::uint64_t>(scaled);
     QString text = QString::number(magnitude / kScale);
     if (const auto fraction = magnitude % kScale; fraction != 0) {
         QString decimals = QString::number(fraction).rightJustified(4, u'0');

@@ -10,7 +10,9 @@ namespace zkp {
 
 namespace {
 
-int decimalsOf(NumberFormat format) { return format == NumberFormat::Grouped0 ? 0 : 2; }
+int decimalsOf(NumberFormat format) {
+    return format == NumberFormat::Grouped0 ? 0 : 2;
+}
 
 bool isGrouped(NumberFormat format) {
     return format == NumberFormat::Grouped0 || format == NumberFormat::Grouped2;
@@ -39,7 +41,8 @@ QString assemble(bool negative, std::string_view digits, NumberFormat format, co
     return text;
 }
 
-QString formatScaled(std::uint64_t magnitude, bool negative, NumberFormat format, const ReportLocale& locale) {
+QString formatScaled(std::uint64_t magnitude, bool negative, NumberFormat format,
+                     const ReportLocale& locale) {
     std::array<char, 24> buffer;
     const auto decimals = static_cast<std::size_t>(decimalsOf(format));
     auto [end, ec] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude);
@@ -85,12 +88,15 @@ QString formatNumber(std::int64_t value, NumberFormat format, const ReportLocale
 
 QString formatNumber(double value, NumberFormat format, const ReportLocale& locale) {
     if (!std::isfinite(value))
-        return std::isnan(value) ? QStringLiteral("NaN") : value < 0 ? QStringLiteral("-∞") : QStringLiteral("∞");
+        return std::isnan(value) ? QStringLiteral("NaN")
+               : value < 0       ? QStringLiteral("-∞")
+                                 : QStringLiteral("∞");
 
     // d.dddddddddddddde±xxx: the 15 significant digits and the place of the point.
     std::array<char, 32> buffer;
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::abs(value),
-                                   std::chars_format::scientific, 14).ptr;
+                                   std::chars_format::scientific, 14)
+                         .ptr;
     const std::string_view text(buffer.data(), static_cast<std::size_t>(end - buffer.data()));
     const std::size_t e = text.find('e');
     const int exponent = std::atoi(std::string(text.substr(e + 1)).c_str());

@@ -12,9 +12,13 @@ namespace zkp {
 
 namespace {
 
-bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
+bool isDigit(QChar c) {
+    return c >= u'0' && c <= u'9';
+}
 
-double parse(const std::string& plain) { return plain.empty() ? 0.0 : std::strtod(plain.c_str(), nullptr); }
+double parse(const std::string& plain) {
+    return plain.empty() ? 0.0 : std::strtod(plain.c_str(), nullptr);
+}
 
 /// Takes "e" or "E" with a sign and at least one digit, and moves `at` behind it.
 void takeExponent(QStringView text, qsizetype& at, std::string& plain) {
@@ -38,7 +42,8 @@ double asDouble(const QVariant& value) {
     if (value.metaType() == QMetaType::fromType<Currency>())
         return value.value<Currency>().toDouble();
     bool ok = false;
-    const double number = value.typeId() == QMetaType::Bool ? (value.toBool() ? -1.0 : 0.0) : value.toDouble(&ok);
+    const double number =
+        value.typeId() == QMetaType::Bool ? (value.toBool() ? -1.0 : 0.0) : value.toDouble(&ok);
     if (!ok && value.typeId() != QMetaType::Bool)
         throw Error(kErrTypeMismatch, QStringLiteral("Type mismatch"));
     return number;
@@ -119,8 +124,14 @@ double roundHalfEven(double value, int decimals) {
     return std::nearbyint(value * scale) / scale;
 }
 
-std::int16_t toInt16(const QVariant& value) { return toWhole<std::int16_t>(asDouble(value)); }
-std::int32_t toInt32(const QVariant& value) { return toWhole<std::int32_t>(asDouble(value)); }
-std::int32_t toInt32(double value) { return toWhole<std::int32_t>(value); }
+std::int16_t toInt16(const QVariant& value) {
+    return toWhole<std::int16_t>(asDouble(value));
+}
+std::int32_t toInt32(const QVariant& value) {
+    return toWhole<std::int32_t>(asDouble(value));
+}
+std::int32_t toInt32(double value) {
+    return toWhole<std::int32_t>(value);
+}
 
 } // namespace zkp

@@ -8,7 +8,8 @@ namespace zkp {
 template <class F>
 class ScopeGuard {
 public:
-    explicit ScopeGuard(F f) : f_(std::move(f)) {}
+    explicit ScopeGuard(F f)
+        : f_(std::move(f)) {}
     ~ScopeGuard() { f_(); }
     ScopeGuard(const ScopeGuard&) = delete;
     ScopeGuard& operator=(const ScopeGuard&) = delete;

@@ -28,9 +28,13 @@ QString upper(QStringView text) {
     return result;
 }
 
-QString nameKey(QStringView name) { return upper(trimmed(name)); }
+QString nameKey(QStringView name) {
+    return upper(trimmed(name));
+}
 
-bool sameName(QStringView a, QStringView b) { return nameKey(a) == nameKey(b); }
+bool sameName(QStringView a, QStringView b) {
+    return nameKey(a) == nameKey(b);
+}
 
 QString mid(QStringView text, qsizetype start) {
     return start > text.size() ? QString() : text.sliced(start - 1).toString();

@@ -16,7 +16,9 @@ QString nameKey(QStringView name);
 bool sameName(QStringView a, QStringView b);
 
 /// True when nothing but blanks stands in the text.
-inline bool isBlank(QStringView text) { return trimmed(text).isEmpty(); }
+inline bool isBlank(QStringView text) {
+    return trimmed(text).isEmpty();
+}
 
 /// The text from its `start`-th UTF-16 unit on, counted from 1; empty when it is shorter.
 QString mid(QStringView text, qsizetype start);

@@ -5,42 +5,68 @@
 /// Every text that a user can see, once, exactly as the office knows it.
 namespace zkp::texts {
 
-inline QString errorTitle() { return QStringLiteral("QRN Insurance"); }
-inline QString errorPrefix() { return QStringLiteral("Παρουσιάστικε Εξαίρεση : "); }
+inline QString errorTitle() {
+    return QStringLiteral("QRN Insurance");
+}
+inline QString errorPrefix() {
+    return QStringLiteral("Παρουσιάστικε Εξαίρεση : ");
+}
 /// The first letter is a Latin H, as wanted.
 inline QString columnExists() {
     return QStringLiteral("H στήλη που επιλέξατε υπάρχει ήδη στη λίστα ή δεν είναι εγκυρη.");
 }
-inline QString readFailed() { return QStringLiteral("Σφάλμα κατά την ανάγνωση Data στο ZKP_GRID"); }
+inline QString readFailed() {
+    return QStringLiteral("Σφάλμα κατά την ανάγνωση Data στο ZKP_GRID");
+}
 /// What a column's heading becomes when the statement has no such field: "#" caption and this.
-inline QString missingFieldSuffix() { return QStringLiteral("# (Λάθος)"); }
+inline QString missingFieldSuffix() {
+    return QStringLiteral("# (Λάθος)");
+}
 
-inline QString connectionNotSet() { return QStringLiteral("The Property Cn Hasn't Been set!"); }
-inline QString recordSourceNotSet() { return QStringLiteral("The Property RecordSource Hasn't Been set!"); }
+inline QString connectionNotSet() {
+    return QStringLiteral("The Property Cn Hasn't Been set!");
+}
+inline QString recordSourceNotSet() {
+    return QStringLiteral("The Property RecordSource Hasn't Been set!");
+}
 inline QString commandNotSet() {
     return QStringLiteral("The Property RecordSource As ADODB.Command Hasn't Been set!");
 }
-inline QString hitBottom() { return QStringLiteral("HitBottom"); }
+inline QString hitBottom() {
+    return QStringLiteral("HitBottom");
+}
 
 // Computed columns of loss-ratio reports.
-inline QString lossRatio() { return QStringLiteral("Παραγωγή/Ζημιές (Loss Ratio)"); }
-inline QString lossRatioInverse() { return QStringLiteral("Ζημιές/Παραγωγή (Loss Ratio)"); }
-inline QString lossRatioDifference() { return QStringLiteral("Παραγωγή-Ζημιές"); }
+inline QString lossRatio() {
+    return QStringLiteral("Παραγωγή/Ζημιές (Loss Ratio)");
+}
+inline QString lossRatioInverse() {
+    return QStringLiteral("Ζημιές/Παραγωγή (Loss Ratio)");
+}
+inline QString lossRatioDifference() {
+    return QStringLiteral("Παραγωγή-Ζημιές");
+}
 /// The closing bracket has no opening one, as wanted.
-inline QString lossRatioShare() { return QStringLiteral("Ζημιές%Παραγωγής)"); }
+inline QString lossRatioShare() {
+    return QStringLiteral("Ζημιές%Παραγωγής)");
+}
 
 // Statement builders.
 inline QString fieldItemFailed() {
     return QStringLiteral("Δεν μπορώ να δημιουργήσω το Field SQL Statement (makefldSql)");
 }
-inline QString masterTableFailed() { return QStringLiteral("Δεν μπορώ το βρώ το Master Table (FindMaster)"); }
+inline QString masterTableFailed() {
+    return QStringLiteral("Δεν μπορώ το βρώ το Master Table (FindMaster)");
+}
 inline QString fromFailed() {
     return QStringLiteral("Δεν μπορώ να δημιουργήσω το FROM SQL Statement (MakeFromAndJoins)");
 }
 inline QString joinFailed() {
     return QStringLiteral("Δεν μπορώ να δημιουργήσω τα JOIN του SQL Statement (FindJoinON)");
 }
-inline QString filterFailed() { return QStringLiteral("Δεν μπορώ να μεταφράσω το Φίλτρο σε SQL"); }
+inline QString filterFailed() {
+    return QStringLiteral("Δεν μπορώ να μεταφράσω το Φίλτρο σε SQL");
+}
 inline QString runTimeFailed() {
     return QStringLiteral("Δεν μπορώ να Δημιουργήσω το Run Time SQL Statement (RunTimeSQL)");
 }
@@ -58,20 +84,38 @@ inline QString percentagesFailed() {
 }
 
 // The columns that the user may pick: the count, and what follows a field's caption for each aggregate.
-inline QString countCaption() { return QStringLiteral("Αριθμός"); }
-inline QString sumSuffix() { return QStringLiteral(" (Αθροισμα)"); }
-inline QString averageSuffix() { return QStringLiteral(" (Μέσος Ορος)"); }
-inline QString minimumSuffix() { return QStringLiteral(" (Minimum)"); }
-inline QString maximumSuffix() { return QStringLiteral(" (Maximum)"); }
-inline QString shareSuffix() { return QStringLiteral(" (Ποσ %)"); }
+inline QString countCaption() {
+    return QStringLiteral("Αριθμός");
+}
+inline QString sumSuffix() {
+    return QStringLiteral(" (Αθροισμα)");
+}
+inline QString averageSuffix() {
+    return QStringLiteral(" (Μέσος Ορος)");
+}
+inline QString minimumSuffix() {
+    return QStringLiteral(" (Minimum)");
+}
+inline QString maximumSuffix() {
+    return QStringLiteral(" (Maximum)");
+}
+inline QString shareSuffix() {
+    return QStringLiteral(" (Ποσ %)");
+}
 
 // The shell's failures, spelt as the office knows them.
 inline QString shellNoMemory() {
     return QStringLiteral("Το αρχείο δεν μπορεί να φορτωθεί λόγω έλειψης μνήμης");
 }
-inline QString shellNoFile() { return QStringLiteral("Το αρχείο δεν υπάρχει"); }
-inline QString shellNoFolder() { return QStringLiteral("Ο Κατάλογος δεν βρέθηκε"); }
-inline QString shellBadProgram() { return QStringLiteral("The executable file is invalid or corrupt"); }
+inline QString shellNoFile() {
+    return QStringLiteral("Το αρχείο δεν υπάρχει");
+}
+inline QString shellNoFolder() {
+    return QStringLiteral("Ο Κατάλογος δεν βρέθηκε");
+}
+inline QString shellBadProgram() {
+    return QStringLiteral("The executable file is invalid or corrupt");
+}
 inline QString shellNoRights() {
     return QStringLiteral("Δεν έχετε δικαιώματα πρόσβασης στον κατάλογο ή στο αρχείο");
 }
@@ -92,8 +136,12 @@ inline QString shellTimeout() {
 inline QString shellNoLibrary() {
     return QStringLiteral("The specified dynamic-link library was not found.");
 }
-inline QString shellNoProgram() { return QStringLiteral("Το αρχείο δεν έχει συνδεδεμένη εφαρμογή"); }
-inline QString shellInUse() { return QStringLiteral("Το αρχείο χρησιμοποιείτε ήδη απο άλη εφαρμογή"); }
+inline QString shellNoProgram() {
+    return QStringLiteral("Το αρχείο δεν έχει συνδεδεμένη εφαρμογή");
+}
+inline QString shellInUse() {
+    return QStringLiteral("Το αρχείο χρησιμοποιείτε ήδη απο άλη εφαρμογή");
+}
 /// "occurred" stands twice, as wanted.
 inline QString shellFailed() {
     return QStringLiteral("An error occurred occurred whilst trying to open or print the selected file.");

@@ -9,7 +9,9 @@ namespace zkp {
 
 /// A database value travels as a QVariant: invalid is null, and otherwise bool, qlonglong, double,
 /// Currency, QDateTime, QString or QByteArray. Null and the empty text stay apart.
-inline bool isNull(const QVariant& value) { return !value.isValid(); }
+inline bool isNull(const QVariant& value) {
+    return !value.isValid();
+}
 
 /// A value's own text: integers plain, doubles with the locale's decimal sign, dates as its short
 /// date, Booleans "True" and "False", bytes as they read in UTF-8. A null gives the empty text.

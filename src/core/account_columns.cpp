@@ -8,9 +8,9 @@ namespace zkp {
 
 bool AccountColumns::FindAccountColumns() {
     state_.DebitColumn = state_.CreditColumn = state_.BalanceColumn = -1;
-    for (short number = 1; number <= columns_.Count(); ++number) {
+    for (int number = 1; number <= columns_.Count(); ++number) {
         const Column& column = columns_.Item(number);
-        const auto position = static_cast<short>(number - 1);
+        const auto position = toInt16(number - 1);
         if (column.Debit)
             state_.DebitColumn = position;
         if (column.Credit)

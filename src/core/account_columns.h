@@ -16,7 +16,10 @@ public:
     using MeasureText = std::function<double(const QString&)>;
 
     AccountColumns(ReportState& state, ColumnList& columns, GridSurface& surface, MeasureText measure)
-        : state_(state), columns_(columns), surface_(surface), measure_(std::move(measure)) {}
+        : state_(state)
+        , columns_(columns)
+        , surface_(surface)
+        , measure_(std::move(measure)) {}
 
     /// Sets `DebitColumn`, `CreditColumn` and `BalanceColumn` to the last column of each kind, -1 when
     /// there is none; True when any was found.

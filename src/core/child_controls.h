@@ -20,8 +20,9 @@ struct Button {
     bool Enabled = true;
     std::function<void()> pressed;
     void press() {
-        if (Enabled && pressed)
-            pressed();
+        const auto handler = pressed; // it may replace itself
+        if (Enabled && handler)
+            handler();
     }
 };
 

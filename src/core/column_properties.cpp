@@ -29,7 +29,9 @@ int surfaceAlignment(int stored) {
 ZKP_COLUMN_PROPERTIES(ZKP_DEFINE)
 #undef ZKP_DEFINE
 
-int ColumnProperties::ColAlignment(int index) const { return index == -1 ? 0 : surface_.ColAlignment(index); }
+int ColumnProperties::ColAlignment(int index) const {
+    return index == -1 ? 0 : surface_.ColAlignment(index);
+}
 
 void ColumnProperties::setColAlignment(int index, int alignment) {
     columns_.ofGridColumn(index).Alignment = toInt16(alignment);
@@ -54,7 +56,9 @@ void ColumnProperties::setColCredit(int index, bool credit) {
     events_.notify(QStringLiteral("ColCredit"));
 }
 
-double ColumnProperties::ColWidth(int index) const { return surface_.ColWidth(index); }
+double ColumnProperties::ColWidth(int index) const {
+    return surface_.ColWidth(index);
+}
 
 void ColumnProperties::setColWidth(int index, double twips) {
     Column& column = columns_.ofGridColumn(index);

@@ -15,20 +15,27 @@ namespace zkp {
 class ColumnProperties {
 public:
     ColumnProperties(ColumnList& columns, GridSurface& surface, Events& events)
-        : columns_(columns), surface_(surface), events_(events) {}
+        : columns_(columns)
+        , surface_(surface)
+        , events_(events) {}
 
 #define ZKP_DECLARE(Type, Name, Member)                                                                      \
-    Type Name(int index) const { return columns_.ofGridColumn(index).Member; }                               \
+    Type Name(int index) const {                                                                             \
+        return columns_.ofGridColumn(index).Member;                                                          \
+    }                                                                                                        \
     void set##Name(int index, Type value);
     ZKP_COLUMN_PROPERTIES(ZKP_DECLARE)
 #undef ZKP_DECLARE
 
     /// The surface's alignment, not the stored one; 0 for index -1.
     int ColAlignment(int index) const;
-    /// Stores the value as it is and passes 7 as 6, 4 as 3, 1 as 0 to the surface; -1 leaves the surface alone.
+    /// Stores the value as it is and passes 7 as 6, 4 as 3, 1 as 0 to the surface; -1 leaves the surface
+    /// alone.
     void setColAlignment(int index, int alignment);
 
-    QString ColCaption(int index) const { return columns_.ofGridColumn(index).Caption; }
+    QString ColCaption(int index) const {
+        return columns_.ofGridColumn(index).Caption;
+    }
     /// Also writes the text into row 0 of the surface.
     void setColCaption(int index, const QString& text);
 

@@ -1,5 +1,6 @@
 #include "core/group_columns.h"
 
+#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "support/utility.h"
 
@@ -9,9 +10,10 @@ void GroupColumns::InsertColumn(int whereisit) {
     host_.setPointer(kPointerHourglass);
     try {
         insertEmptyColumn(whereisit);
-    } catch (const Error& error) {
-        ShowError(host_, error);
-        return;
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
+        ShowError(host_, errorInFlight());
     }
     host_.setPointer(kPointerDefault);
 }

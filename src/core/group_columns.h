@@ -14,8 +14,8 @@ namespace zkp {
 class GroupColumns {
 public:
     /// `setCols` is the control's `Cols` setter.
-    GroupColumns(ReportState& state, ColumnList& columns, ColumnProperties& properties, GroupFactorFlags& flags,
-                 GridSurface& surface, Host& host, std::function<void(int)> setCols)
+    GroupColumns(ReportState& state, ColumnList& columns, ColumnProperties& properties,
+                 GroupFactorFlags& flags, GridSurface& surface, Host& host, std::function<void(int)> setCols)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
@@ -24,8 +24,7 @@ public:
         , host_(host)
         , setCols_(std::move(setCols)) {}
 
-    /// Makes an empty column at a position (from 0). A failure shows the error box; the pointer stays
-    /// as the failed step left it, as wanted.
+    /// Makes an empty column at a position (from 0). A failure shows the error box.
     void InsertColumn(int whereisit);
 
     /// Rebuilds `Groupby` from the flags. With no flag at all a text that the host gave since the last

@@ -10,7 +10,9 @@ namespace zkp {
 class GroupFactorFlags {
 public:
     GroupFactorFlags(ReportState& state, const ColumnList& columns, Events& events)
-        : state_(state), columns_(columns), events_(events) {}
+        : state_(state)
+        , columns_(columns)
+        , events_(events) {}
 
     /// How many columns are group factors.
     short FindGroupNum() const;

@@ -16,23 +16,24 @@ T as(const QVariant& value) {
 } // namespace
 
 void RecordSource::set(const QVariant& value) {
-    state_.ReportRecordset.reset();
-    state_.storedSourceKind = state_.SourceType;
+    ado::RecordsetPtr records;
     switch (state_.SourceType) {
     case ZKP_SQLStatement:
     case ZKP_Table_QUERY:
         state_.RecordSourceText = as<QString>(value);
         break;
     case ZKP_RecordSet:
-        state_.ReportRecordset = as<ado::RecordsetPtr>(value);
+        records = as<ado::RecordsetPtr>(value);
         break;
     case ZKP_Command:
         state_.ReportCommand = as<ado::CommandPtr>(value);
-        state_.ReportRecordset = std::make_shared<ado::Recordset>();
+        records = std::make_shared<ado::Recordset>();
         break;
     default:
         break;
     }
+    state_.ReportRecordset = records;
+    state_.storedSourceKind = state_.SourceType;
 }
 
 QString RecordSource::text() const {
@@ -42,7 +43,8 @@ QString RecordSource::text() const {
         return state_.RecordSourceText;
     case ZKP_RecordSet:
         if (!state_.ReportRecordset)
-            throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"), QStringLiteral("RecordSource"));
+            throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"),
+                        QStringLiteral("RecordSource"));
         return state_.ReportRecordset->Source();
     case ZKP_Command:
         if (state_.ReportRecordset && state_.ReportRecordset->ActiveCommand() && state_.ReportCommand)

@@ -9,7 +9,8 @@ namespace zkp {
 /// What the host gave to read from: text, recordset or command, by `SourceType`.
 class RecordSource {
 public:
-    explicit RecordSource(ReportState& state) : state_(state) {}
+    explicit RecordSource(ReportState& state)
+        : state_(state) {}
 
     /// Clears the held recordset, then holds the value by the present `SourceType`: text for 0 and 1,
     /// a recordset for 2, a command (with a new recordset) for 3. Error 13 for a value of another kind.

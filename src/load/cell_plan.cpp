@@ -21,7 +21,10 @@ void markMissingField(ColumnProperties& properties, int c) {
 
 CellPlan::CellPlan(ado::Recordset& records, ColumnProperties& properties, const ColumnList& columns,
                    GridSurface& surface, const ReportState& state, int lastField)
-    : euro_(state.EuroVer), totalForm_(state.TotalForm), lastField_(lastField) {
+    : values_(records.table().columns)
+    , euro_(state.EuroVer)
+    , totalForm_(state.TotalForm)
+    , lastField_(lastField) {
     std::vector<CellBinding> bindings;
     for (int c = 0; c < surface.Cols(); ++c) {
         const QString field = columns.ofGridColumn(c).Datafield;
@@ -55,7 +58,8 @@ CellBinding CellPlan::plan(int c, const Basis& basis, ado::Recordset& records, c
     const auto format = numberFormat(basis, records.Fields().Item(lastField_).Type());
     if (format)
         numericColumns_.push_back(c);
-    return {records.table().columns[static_cast<std::size_t>(lastField_)], format.value_or(CellFormat::OwnText)};
+    return {records.table().columns[static_cast<std::size_t>(lastField_)],
+            format.value_or(CellFormat::OwnText)};
 }
 
 std::optional<CellFormat> CellPlan::numberFormat(const Basis& basis, int fieldType) const {
@@ -66,8 +70,9 @@ std::optional<CellFormat> CellPlan::numberFormat(const Basis& basis, int fieldTy
     return std::nullopt;
 }
 
-bool CellPlan::isCurrent(const ColumnList& columns, const GridSurface& surface, const ReportState& state) const {
-    if (state.EuroVer != euro_ || state.TotalForm != totalForm_ ||
+bool CellPlan::isCurrent(const ado::Recordset& records, const ColumnList& columns, const GridSurface& surface,
+                         const ReportState& state) const {
+    if (!refersTo(records) || state.EuroVer != euro_ || state.TotalForm != totalForm_ ||
         static_cast<std::size_t>(surface.Cols()) != basis_.size())
         return false;
     for (std::size_t c = 0; c < basis_.size(); ++c) {

@@ -30,8 +30,11 @@ public:
     GridSurface::LayoutId layout() const { return layout_; }
     const std::vector<Percent>& percents() const { return percents_; }
     int lastField() const { return lastField_; }
-    /// Whether the columns and switches that the plan was made from are still the same.
-    bool isCurrent(const ColumnList& columns, const GridSurface& surface, const ReportState& state) const;
+    /// Whether the records hold the same values that the plan refers to.
+    bool refersTo(const ado::Recordset& records) const { return records.table().columns == values_; }
+    /// Whether records, columns and switches that the plan was made from are still the same.
+    bool isCurrent(const ado::Recordset& records, const ColumnList& columns, const GridSurface& surface,
+                   const ReportState& state) const;
 
 private:
     struct Basis {
@@ -44,6 +47,7 @@ private:
     CellBinding plan(int c, const Basis& basis, ado::Recordset& records, const ReportState& state);
     std::optional<CellFormat> numberFormat(const Basis& basis, int fieldType) const;
 
+    std::vector<std::shared_ptr<const store::Column>> values_;
     std::vector<Basis> basis_;
     bool euro_;
     bool totalForm_;

@@ -1,8 +1,8 @@
 #include "load/empty_report.h"
 
 #include "base/number.h"
-#include "base/text.h"
 #include "load/field_list.h"
+#include "support/query_exists.h"
 
 namespace zkp {
 
@@ -29,18 +29,13 @@ void EmptyReport::prepare() {
 }
 
 /// With `specialinfo` the record source becomes the table or view named by `specialrecordsource`, when
-/// the database has one of that name.
+/// the database has one of that name. A recordset or command that is held stays.
 void EmptyReport::takeSpecialSource() {
-    if (!state_.specialinfo)
+    if (!state_.specialinfo || !QueryExists(state_.Cn, state_.specialrecordsource))
         return;
-    const QString wanted = nameKey(state_.specialrecordsource);
-    const ado::RecordsetPtr tables = state_.Cn->OpenSchema(ado::adSchemaTables);
-    for (; !tables->Eof(); tables->MoveNext()) {
-        if (nameKey(tables->Fields().Item(u"TABLE_NAME").Value().toString()) != wanted)
-            continue;
+    state_.RecordSourceText = state_.specialrecordsource;
+    if (state_.SourceType == ZKP_SQLStatement || state_.SourceType == ZKP_Table_QUERY)
         RecordSource(state_).set(state_.specialrecordsource);
-        return;
-    }
 }
 
 } // namespace zkp

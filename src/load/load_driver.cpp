@@ -1,5 +1,6 @@
 #include "load/load_driver.h"
 
+#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
@@ -15,15 +16,9 @@ Error objectNotSet(const QString& source) {
     return Error(kErrObjectNotSet, QStringLiteral("Object variable not set"), source);
 }
 
-Error describe(const std::exception& failure) {
-    if (const auto* error = dynamic_cast<const Error*>(&failure))
-        return *error;
-    return Error(kErrInvalidCall, QString::fromUtf8(failure.what()));
-}
-
 } // namespace
 
-void LoadDriver::refresh(const ErrorSink& sink) {
+void LoadDriver::refresh(ErrorSink sink) {
     host_.setPointer(kPointerHourglass);
     const ScopeGuard restore([this] {
         host_.setPointer(kPointerDefault);
@@ -48,18 +43,17 @@ void LoadDriver::FillGrid() {
     const ScopeGuard restore([this] {
         loading_ = false;
         surface_.setRedraw(true);
+        host_.setPointer(kPointerDefault);
     });
     try {
         load();
-    } catch (const std::exception& failure) {
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
+        const Error error = errorInFlight();
         state_.throwIfDestroyed();
-        showFailure(describe(failure));
+        ShowError(host_, error);
     }
-}
-
-void LoadDriver::showFailure(const Error& error) {
-    host_.setPointer(kPointerDefault);
-    ShowError(host_, error);
 }
 
 void LoadDriver::load() {
@@ -126,10 +120,13 @@ void LoadDriver::openDetailRecordset() {
         const ScopeGuard restore([&] { connection->setCommandTimeout(timeout); });
         connection->setCommandTimeout(state_.CommandTimeout);
         openBySourceType();
-    } catch (const std::exception& failure) {
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
+        const Error error = errorInFlight();
         state_.throwIfDestroyed();
         state_.ReportRecordset.reset();
-        host_.msgBox(describe(failure).description(), kMsgBoxCritical);
+        host_.msgBox(error.description(), kMsgBoxCritical);
     }
 }
 
@@ -143,11 +140,9 @@ void LoadDriver::openBySourceType() {
         break;
     case ZKP_RecordSet: {
         const QString text = source_.text();
-        if (isBlank(text))
-            openText(detailStatement(), ado::adOpenKeyset);
-        else
-            openText(text, ado::adOpenStatic);
-        state_.ReportRecordset->Requery();
+        const auto records = isBlank(text) ? openText(detailStatement(), ado::adOpenKeyset)
+                                           : openText(text, ado::adOpenStatic);
+        records->Requery();
         break;
     }
     case ZKP_Command:
@@ -158,11 +153,15 @@ void LoadDriver::openBySourceType() {
     }
 }
 
-void LoadDriver::openText(const QString& statement, int cursorType) {
-    ado::Recordset& records = *state_.ReportRecordset;
-    if (records.State() == ado::adStateOpen)
-        records.Close();
-    records.Open(statement, state_.Cn, cursorType);
+/// A handler may have taken the recordset away while the statement was built.
+ado::RecordsetPtr LoadDriver::openText(const QString& statement, int cursorType) {
+    const ado::RecordsetPtr records = state_.ReportRecordset;
+    if (!records)
+        throw objectNotSet(QStringLiteral("RecordSource"));
+    if (records->State() == ado::adStateOpen)
+        records->Close();
+    records->Open(statement, state_.Cn, cursorType);
+    return records;
 }
 
 QString LoadDriver::detailStatement() const {
@@ -173,9 +172,12 @@ QString LoadDriver::detailStatement() const {
 
 /// The last result of the command that has records becomes the record source.
 void LoadDriver::openCommand() {
-    state_.ReportCommand->ActiveConnection = state_.Cn;
+    const ado::CommandPtr command = state_.ReportCommand;
+    if (!command)
+        throw objectNotSet(QStringLiteral("RecordSource"));
+    command->ActiveConnection = state_.Cn;
     auto result = std::make_shared<ado::Recordset>();
-    result->Open(state_.ReportCommand, ado::adOpenStatic);
+    result->Open(command, ado::adOpenStatic);
     ado::RecordsetPtr last;
     for (; result; result = result->NextRecordset())
         if (result->State() == ado::adStateOpen)

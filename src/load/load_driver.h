@@ -32,7 +32,7 @@ public:
         , hooks_(hooks) {}
 
     /// The checked entry. Every failed check goes to the sink in order; then the first is thrown.
-    void refresh(const ErrorSink& sink);
+    void refresh(ErrorSink sink);
     /// The load itself. A failure ends it with the error box. Called again while it runs (by a handler
     /// or a pending event), it shows a box and does nothing else.
     void FillGrid();
@@ -45,14 +45,13 @@ private:
     bool makeRecordset();
     void openDetailRecordset();
     void openBySourceType();
-    void openText(const QString& statement, int cursorType);
+    ado::RecordsetPtr openText(const QString& statement, int cursorType);
     void openCommand();
     QString detailStatement() const;
     std::int64_t recordCount() const;
     void sizeSurface(int records);
     void readRows();
     void selectFirstRow();
-    void showFailure(const Error& error);
 
     ReportState& state_;
     RecordSource source_;

@@ -10,13 +10,12 @@ namespace zkp {
 /// in what exists; a hook that is empty does nothing, unless it says otherwise.
 struct LoadHooks {
     // Statements.
-    std::function<void()> LoadIerarxia;             ///< the user's level, when an identity was given
-    std::function<void()> FindMaster;               ///< the report's master table
-    std::function<void()> FieldListChanged;         ///< rebuilds the field menus
-    std::function<QString()> DetailStatement;       ///< empty: a source without text of its own is an error
-    std::function<void()> OpenTotalRecordset;       ///< empty: a totals report is an error
-    std::function<void()> RunTimeSQLCounter;        ///< its text is not run
-    std::function<QString()> CommandFilter;         ///< the user's rights as a recordset filter
+    std::function<void()> FindMaster;         ///< the report's master table
+    std::function<void()> FieldListChanged;   ///< rebuilds the field menus
+    std::function<QString()> DetailStatement; ///< empty: a source without text of its own is an error
+    std::function<void()> OpenTotalRecordset; ///< empty: a totals report is an error
+    std::function<void()> RunTimeSQLCounter;  ///< its text is not run
+    std::function<QString()> CommandFilter;   ///< the user's rights as a recordset filter
 
     // Group rows and totals.
     std::function<void()> MakeFixedForGroup;

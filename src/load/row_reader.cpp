@@ -11,8 +11,7 @@
 namespace zkp {
 
 void RowReader::LoadRows() {
-    const ado::RecordsetPtr records = state_.ReportRecordset;
-    if (!records || records->State() == ado::adStateClosed)
+    if (!state_.ReportRecordset || state_.ReportRecordset->State() == ado::adStateClosed)
         return;
 
     const ScopeGuard restore([this] {
@@ -27,10 +26,13 @@ void RowReader::LoadRows() {
         state_.throwIfDestroyed();
         host_.setPointer(kPointerHourglass);
         surface_.setRedraw(false);
-        if (!(records->Bof() && records->Eof()))
+        const ado::RecordsetPtr records = state_.ReportRecordset; // a handler may just have given another
+        if (records && !(records->Bof() && records->Eof()))
             readRecords(records);
         surface_.Refresh();
-    } catch (const std::exception&) {
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
         state_.throwIfDestroyed();
         host_.msgBox(texts::readFailed(), kMsgBoxCritical);
     }
@@ -45,6 +47,8 @@ void RowReader::readRecords(const ado::RecordsetPtr& records) {
     double r = surface_.FixedRows() - 1;
     makePlan(*records);
     while (!records->Eof()) {
+        if (!plan_->isCurrent(*records, columns_, surface_, state_))
+            makePlan(*records);
         if (canBindTheRest(r)) {
             bindTheRest(*records, r);
             break;
@@ -59,13 +63,12 @@ void RowReader::readRecords(const ado::RecordsetPtr& records) {
 }
 
 void RowReader::readRecord(const ado::RecordsetPtr& records, double& r) {
-    if (!plan_->isCurrent(columns_, surface_, state_))
-        makePlan(*records);
     const int row = toInt32(r);
     surface_.bindRow(row, plan_->layout(), records->currentTableRow(), ZKPSingleRow);
     for (const CellPlan::Percent& percent : plan_->percents())
         surface_.setTextMatrix(row, percent.column,
-                               hooks_.PercentOfParent ? hooks_.PercentOfParent(percent.field, row) : QString());
+                               hooks_.PercentOfParent ? hooks_.PercentOfParent(percent.field, row)
+                                                      : QString());
 
     RetrieveRowArgs args{r, records};
     Q_EMIT events_.RetrieveRow(args);
@@ -88,7 +91,7 @@ void RowReader::sumRecord(ado::Recordset& records, double& r) {
 }
 
 void RowReader::makePlan(ado::Recordset& records) {
-    const int lastField = plan_ ? plan_->lastField() : -1;
+    const int lastField = plan_ && plan_->refersTo(records) ? plan_->lastField() : -1;
     plan_.emplace(records, properties_, columns_, surface_, state_, lastField);
 }
 

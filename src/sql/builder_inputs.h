@@ -12,7 +12,11 @@ namespace zkp {
 class BuilderInputs {
 public:
     BuilderInputs(ReportState& state, const ColumnList& columns, const GridSurface& surface, Events& events)
-        : state(state), columns(columns), surface_(surface), source_(state), events_(events) {}
+        : state(state)
+        , columns(columns)
+        , surface_(surface)
+        , source_(state)
+        , events_(events) {}
 
     ReportState& state;
     const ColumnList& columns;

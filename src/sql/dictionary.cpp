@@ -4,7 +4,9 @@
 
 namespace zkp {
 
-bool Dictionary::isNamed() const { return !isBlank(state_.clmns); }
+bool Dictionary::isNamed() const {
+    return !isBlank(state_.clmns);
+}
 
 ado::RecordsetPtr Dictionary::recordset() {
     if (!recordset_)
@@ -26,9 +28,10 @@ void Dictionary::loadForEmptyReport() {
     const ado::RecordsetPtr rows = recordset();
     if (rows->State() == ado::adStateOpen)
         rows->Close();
-    open(state_.TotalForm
-             ? QStringLiteral(" where visbl=1 and (isGroup or [Sum] or [Avg] or [Min] or [Max]) order by cptn")
-             : QStringLiteral(" where visbl = 1  order by cptn"));
+    open(
+        state_.TotalForm
+            ? QStringLiteral(" where visbl=1 and (isGroup or [Sum] or [Avg] or [Min] or [Max]) order by cptn")
+            : QStringLiteral(" where visbl = 1  order by cptn"));
 }
 
 /// The blanks are as the statements have always had them.
@@ -39,7 +42,8 @@ QString Dictionary::whereClause() const {
                           : QStringLiteral(" where visbl = 1  order by cptn");
     const QString aggregates = QStringLiteral(
         " and (isGroup = 1 or [Sum] = 1 or [Avg] = 1 or [Min] =1  or [Max] = 1) order by cptn");
-    return (restricted ? QStringLiteral(" where visbl = 1 and IsPublic <> 0") : QStringLiteral(" where visbl = 1")) +
+    return (restricted ? QStringLiteral(" where visbl = 1 and IsPublic <> 0")
+                       : QStringLiteral(" where visbl = 1")) +
            aggregates;
 }
 

@@ -8,7 +8,8 @@ namespace zkp {
 /// them in `DictionaryRS`.
 class Dictionary {
 public:
-    explicit Dictionary(ReportState& state) : state_(state) {}
+    explicit Dictionary(ReportState& state)
+        : state_(state) {}
 
     /// Whether the report has a dictionary at all.
     bool isNamed() const;

@@ -8,7 +8,9 @@ namespace zkp {
 
 namespace {
 
-QVariant read(ado::Recordset& row, const char16_t* field) { return row.Fields().Item(QStringView(field)).Value(); }
+QVariant read(ado::Recordset& row, const char16_t* field) {
+    return row.Fields().Item(QStringView(field)).Value();
+}
 
 } // namespace
 
@@ -46,7 +48,8 @@ QString FieldExpressions::itemOf(ado::Recordset& row) const {
     const QString kind = upper(inputs_.sourceText().left(3));
     if (kind == QStringLiteral("QRY") || kind == QStringLiteral("VI_"))
         return u'[' + trimmed(field).toString() + u']';
-    return u'[' + textOrEmpty(read(row, u"SourceTableName")) + QStringLiteral("].[") + trimmed(field).toString() + u']';
+    return u'[' + textOrEmpty(read(row, u"SourceTableName")) + QStringLiteral("].[") +
+           trimmed(field).toString() + u']';
 }
 
 /// Looks the field up among the source's columns. Whether it is there changes nothing, as wanted; only

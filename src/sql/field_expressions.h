@@ -8,7 +8,9 @@ namespace zkp {
 /// Turns one dictionary key into a select item.
 class FieldExpressions {
 public:
-    FieldExpressions(BuilderInputs& inputs, Host& host) : inputs_(inputs), host_(host) {}
+    FieldExpressions(BuilderInputs& inputs, Host& host)
+        : inputs_(inputs)
+        , host_(host) {}
 
     /// The item of a key, with " AS [KEY]" when an alias is wanted; `Tables` gains the field's table.
     /// Empty for an unknown key (or with no dictionary); one blank when the source's columns can't be

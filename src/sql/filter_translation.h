@@ -9,7 +9,9 @@ namespace zkp {
 /// each dictionary row; what they don't match passes unchanged.
 class FilterTranslation {
 public:
-    FilterTranslation(BuilderInputs& inputs, Host& host) : inputs_(inputs), host_(host) {}
+    FilterTranslation(BuilderInputs& inputs, Host& host)
+        : inputs_(inputs)
+        , host_(host) {}
 
     /// Overwrites `Filter`; `Tables` gains the tables that the filter needs. On a failure a box shows
     /// and `Filter` stays.

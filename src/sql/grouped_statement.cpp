@@ -46,9 +46,10 @@ QString GroupedStatement::GroupedSQL() {
 
     hierarchy_.restrictFilter();
     const QString source = inputs_.sourceText();
-    const QString from = state.SourceType == ZKP_Table_QUERY ? source : u'(' + source + QStringLiteral(") AA");
-    return QStringLiteral("SELECT DISTINCT ") + select + QStringLiteral(" FROM ") + from + QStringLiteral(" Where ") +
-           state.Filter + QStringLiteral(" Group By ") + state.Groupby + order;
+    const QString from =
+        state.SourceType == ZKP_Table_QUERY ? source : u'(' + source + QStringLiteral(") AA");
+    return QStringLiteral("SELECT DISTINCT ") + select + QStringLiteral(" FROM ") + from +
+           QStringLiteral(" Where ") + state.Filter + QStringLiteral(" Group By ") + state.Groupby + order;
 }
 
 /// The last of several factors isn't sorted on, as wanted.
@@ -81,7 +82,8 @@ QString GroupedStatement::correlation(const QString& alias) const {
     QString conditions;
     for (int j = 0; j <= inputs_.state.GroupFactorCount - 2; ++j) {
         if (j >= inputs_.state.GroupFactors.size())
-            throw Error(kErrSubscript, QStringLiteral("Subscript out of range"), QStringLiteral("GroupedSQL"));
+            throw Error(kErrSubscript, QStringLiteral("Subscript out of range"),
+                        QStringLiteral("GroupedSQL"));
         const QString& factor = inputs_.factor(j);
         appendItem(conditions,
                    inputs_.sourceText() + QStringLiteral(".[") + factor + QStringLiteral("] = Rs__") + alias +
@@ -93,7 +95,8 @@ QString GroupedStatement::correlation(const QString& alias) const {
 
 QString GroupedStatement::parentFilter(const QString& alias) const {
     const QString conditions = correlation(alias);
-    return isBlank(conditions) ? inputs_.state.Filter : inputs_.state.Filter + QStringLiteral(" and ") + conditions;
+    return isBlank(conditions) ? inputs_.state.Filter
+                               : inputs_.state.Filter + QStringLiteral(" and ") + conditions;
 }
 
 QString GroupedStatement::countPercentage() const {
@@ -113,7 +116,8 @@ void GroupedStatement::addAggregates(QString& select, const QString& wanted, ado
          wants(wanted, "[MAX_", key) || wants(wanted, "[MIN_", key))) {
         select += QStringLiteral(", Sum([") + stored + QStringLiteral("]) As [SUM_") + key + u']';
         if (percentage)
-            select += QStringLiteral(", (Sum([") + key + QStringLiteral("]) * 100) / (SELECT case when Sum([") + key +
+            select += QStringLiteral(", (Sum([") + key +
+                      QStringLiteral("]) * 100) / (SELECT case when Sum([") + key +
                       QStringLiteral("])>0 then Sum([") + key + QStringLiteral("]) ELSE 1 END  FROM ") +
                       inputs_.sourceText() + QStringLiteral(" As Rs__") + key + QStringLiteral(" Where ") +
                       parentFilter(key) + QStringLiteral(") AS POS_") + key;

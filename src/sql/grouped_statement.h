@@ -10,7 +10,9 @@ namespace zkp {
 class GroupedStatement {
 public:
     GroupedStatement(BuilderInputs& inputs, Dictionary& dictionary, Hierarchy& hierarchy)
-        : inputs_(inputs), dictionary_(dictionary), hierarchy_(hierarchy) {}
+        : inputs_(inputs)
+        , dictionary_(dictionary)
+        , hierarchy_(hierarchy) {}
 
     /// Empty when `Groupby` is blank. Raises `HasPercentColumns`, never lowers it. The subqueries carry
     /// no rights: a percentage's denominator covers all rows of the parent group. Failures reach the caller.

@@ -19,7 +19,9 @@ constexpr Level kLevels[] = {
     {u"4", u"ManagerIdentity"},
 };
 
-bool isOwnRowsOnly(const QString& level) { return level == QStringLiteral("0") || level == QStringLiteral("5"); }
+bool isOwnRowsOnly(const QString& level) {
+    return level == QStringLiteral("0") || level == QStringLiteral("5");
+}
 
 /// Empty for any other level: such a user sees all rows.
 QString secondColumn(const QString& level) {
@@ -29,7 +31,9 @@ QString secondColumn(const QString& level) {
     return {};
 }
 
-QString quoted(const QString& text) { return u'\'' + text + u'\''; }
+QString quoted(const QString& text) {
+    return u'\'' + text + u'\'';
+}
 
 QString fieldText(ado::Recordset& row, int index) {
     return valueText(row.Fields().Item(index).Value(), ReportLocale(QLocale::c()));
@@ -60,9 +64,10 @@ void Hierarchy::restrictFilter() {
             filter += QStringLiteral(" and ProductIdentity = ") + quoted(trimmed(state.ProductID).toString());
         } else if (!column.isEmpty()) {
             // Two blanks at the front for level 1 alone, as wanted.
-            filter += (state.Ierarxia == QStringLiteral("1") ? QStringLiteral("  and (") : QStringLiteral(" and (")) +
-                      QStringLiteral("ProductIdentity = ") + quoted(state.ProductID) + QStringLiteral(" or ") +
-                      column + QStringLiteral(" = ") + quoted(state.IerID) + u')';
+            filter += (state.Ierarxia == QStringLiteral("1") ? QStringLiteral("  and (")
+                                                             : QStringLiteral(" and (")) +
+                      QStringLiteral("ProductIdentity = ") + quoted(state.ProductID) +
+                      QStringLiteral(" or ") + column + QStringLiteral(" = ") + quoted(state.IerID) + u')';
         }
     }
     if (filter != state.Filter)
@@ -91,8 +96,8 @@ QString Hierarchy::recordsetFilter() const {
     const QString column = secondColumn(state.Ierarxia);
     if (column.isEmpty())
         return {};
-    return QStringLiteral(" (ProductIdentity = ") + quoted(state.ProductID) + QStringLiteral(" or ") + column +
-           QStringLiteral(" = ") + quoted(state.IerID) + u')';
+    return QStringLiteral(" (ProductIdentity = ") + quoted(state.ProductID) + QStringLiteral(" or ") +
+           column + QStringLiteral(" = ") + quoted(state.IerID) + u')';
 }
 
 } // namespace zkp

@@ -8,7 +8,8 @@ namespace zkp {
 /// The three forms differ in blanks and brackets, and the differences are wanted.
 class Hierarchy {
 public:
-    explicit Hierarchy(BuilderInputs& inputs) : inputs_(inputs) {}
+    explicit Hierarchy(BuilderInputs& inputs)
+        : inputs_(inputs) {}
 
     /// Asks the database for the level (`Ierarxia`) and the identity at that level (`IerID`) of
     /// `ProductID`. Failures reach the caller.

@@ -36,14 +36,14 @@ QString Joins::FindJoinON(const QString& Table) {
         return {};
     try {
         ado::Recordset row;
-        row.Open(QStringLiteral("Select TOP 1 * From ") + state.clmns + QStringLiteral(" Where SourceTableName = '") +
-                     upper(Table) + u'\'',
+        row.Open(QStringLiteral("Select TOP 1 * From ") + state.clmns +
+                     QStringLiteral(" Where SourceTableName = '") + upper(Table) + u'\'',
                  state.Cn, ado::adOpenStatic);
         const QString masterKey = nameKey(textOrEmpty(row.Fields().Item(u"KeyMaster").Value()));
         // The foreign key alone keeps its case, as wanted.
         const QString foreignKey = trimmed(textOrEmpty(row.Fields().Item(u"foreignkey").Value())).toString();
-        return u'[' + nameKey(state.MasterTable) + QStringLiteral("].[") + masterKey + QStringLiteral("] = [") +
-               nameKey(Table) + QStringLiteral("].[") + foreignKey + u']';
+        return u'[' + nameKey(state.MasterTable) + QStringLiteral("].[") + masterKey +
+               QStringLiteral("] = [") + nameKey(Table) + QStringLiteral("].[") + foreignKey + u']';
     } catch (const std::exception&) {
         host_.msgBox(texts::joinFailed(), kMsgBoxCritical);
         return {};

@@ -8,7 +8,9 @@ namespace zkp {
 /// The FROM clause: left joins from the master table to every table that fields and filter touch.
 class Joins {
 public:
-    Joins(BuilderInputs& inputs, Host& host) : inputs_(inputs), host_(host) {}
+    Joins(BuilderInputs& inputs, Host& host)
+        : inputs_(inputs)
+        , host_(host) {}
 
     /// The text behind " FROM " for a list of tables (", NAME , NAME "); `Tables` gains `FilterTables`.
     /// Each table but the master is joined, one that is listed twice twice. A failure shows a box.

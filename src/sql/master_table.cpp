@@ -13,7 +13,8 @@ void MasterTableLookup::FindMaster() {
         if (state.SourceType != ZKP_Table_QUERY || isBlank(inputs_.sourceText()))
             return;
         ado::Recordset row;
-        row.Open(QStringLiteral("Select * From Reports Where RecSource = '") + upper(inputs_.sourceText()) + u'\'',
+        row.Open(QStringLiteral("Select * From Reports Where RecSource = '") + upper(inputs_.sourceText()) +
+                     u'\'',
                  state.Cn, ado::adOpenStatic);
         if (row.Eof()) {
             state.RKeyname.clear();

@@ -8,7 +8,9 @@ namespace zkp {
 /// The report's master table, its key and its standing condition, as table `Reports` has them.
 class MasterTableLookup {
 public:
-    MasterTableLookup(BuilderInputs& inputs, Host& host) : inputs_(inputs), host_(host) {}
+    MasterTableLookup(BuilderInputs& inputs, Host& host)
+        : inputs_(inputs)
+        , host_(host) {}
 
     /// Sets `MasterTable`, `RKeyname` and `MasterFilter`. A source without a row there has no master
     /// table and no key; `MasterFilter` then stays as it was, as wanted. A failure shows a box.

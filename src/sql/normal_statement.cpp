@@ -9,7 +9,9 @@ namespace zkp {
 
 namespace {
 
-QString bracketed(const QString& name) { return u'[' + name + u']'; }
+QString bracketed(const QString& name) {
+    return u'[' + name + u']';
+}
 
 } // namespace
 
@@ -27,7 +29,8 @@ QString NormalStatement::NormalSQL() {
             select = QStringLiteral("SELECT DISTINCT ");
         }
         const QString filter = hierarchy_.restricted(Hierarchy::normalized(inputs_.state.Filter));
-        statement = select + fields + QStringLiteral(" From ") + bracketed(source) + QStringLiteral(" Where ") + filter;
+        statement = select + fields + QStringLiteral(" From ") + bracketed(source) +
+                    QStringLiteral(" Where ") + filter;
         if (!isBlank(order))
             statement += QStringLiteral(" order by ") + order;
     } catch (const std::exception&) {
@@ -66,8 +69,8 @@ QString NormalStatement::orderList() const {
 
 bool NormalStatement::isProductOfCode151() const {
     ado::Recordset setting;
-    setting.Open(QStringLiteral("SELECT GenValue from QRN_MAIN where GenKEY = 2 and GenSubKey=18"), inputs_.state.Cn,
-                 ado::adOpenStatic);
+    setting.Open(QStringLiteral("SELECT GenValue from QRN_MAIN where GenKEY = 2 and GenSubKey=18"),
+                 inputs_.state.Cn, ado::adOpenStatic);
     return !(setting.Bof() && setting.Eof()) && toInt16(setting.Fields().Item(0).Value()) == 151;
 }
 

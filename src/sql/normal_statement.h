@@ -9,7 +9,9 @@ namespace zkp {
 class NormalStatement {
 public:
     NormalStatement(BuilderInputs& inputs, Hierarchy& hierarchy, Host& host)
-        : inputs_(inputs), hierarchy_(hierarchy), host_(host) {}
+        : inputs_(inputs)
+        , hierarchy_(hierarchy)
+        , host_(host) {}
 
     /// A blank `Filter` becomes " true ". A failure shows a box and gives what was built.
     QString NormalSQL();

@@ -11,9 +11,14 @@ namespace zkp {
 /// runs it. It does not translate `Filter`.
 class PercentageStatement {
 public:
-    PercentageStatement(BuilderInputs& inputs, MasterTableLookup& master, FieldExpressions& fields, Joins& joins,
-                        Hierarchy& hierarchy, Host& host)
-        : inputs_(inputs), master_(master), fields_(fields), joins_(joins), hierarchy_(hierarchy), host_(host) {}
+    PercentageStatement(BuilderInputs& inputs, MasterTableLookup& master, FieldExpressions& fields,
+                        Joins& joins, Hierarchy& hierarchy, Host& host)
+        : inputs_(inputs)
+        , master_(master)
+        , fields_(fields)
+        , joins_(joins)
+        , hierarchy_(hierarchy)
+        , host_(host) {}
 
     /// Empty when `Groupby` is blank. A failure shows a box and gives what was built.
     QString RunTimePosSql();

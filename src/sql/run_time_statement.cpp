@@ -6,7 +6,9 @@
 
 namespace zkp {
 
-QString RunTimeStatement::tablesAtStart() const { return QStringLiteral(" , ") + inputs_.state.MasterTable + u' '; }
+QString RunTimeStatement::tablesAtStart() const {
+    return QStringLiteral(" , ") + inputs_.state.MasterTable + u' ';
+}
 
 QString RunTimeStatement::RunTimeSQL() {
     QString statement;
@@ -17,8 +19,8 @@ QString RunTimeStatement::RunTimeSQL() {
         const QString order = orderList(tables);
         const QString from = joins_.MakeFromAndJoins(tables);
         hierarchy_.restrictFilter(); // behind the joins, so that it adds none
-        statement = QStringLiteral("SELECT ") + fields + QStringLiteral(" FROM ") + from + QStringLiteral(" Where ") +
-                    inputs_.state.Filter;
+        statement = QStringLiteral("SELECT ") + fields + QStringLiteral(" FROM ") + from +
+                    QStringLiteral(" Where ") + inputs_.state.Filter;
         if (!isBlank(order))
             statement += QStringLiteral(" Order By ") + order;
     } catch (const std::exception&) {
@@ -34,7 +36,8 @@ QString RunTimeStatement::RunTimeSQLCounter() {
         translation_.TranslateFilter(tables);
         const QString from = joins_.MakeFromAndJoins(tables);
         hierarchy_.restrictFilter();
-        return QStringLiteral("SELECT Count(*) As Cnt FROM ") + from + QStringLiteral(" Where ") + inputs_.state.Filter;
+        return QStringLiteral("SELECT Count(*) As Cnt FROM ") + from + QStringLiteral(" Where ") +
+               inputs_.state.Filter;
     } catch (const std::exception&) {
         host_.msgBox(texts::counterFailed(), kMsgBoxCritical);
         return {};

@@ -11,9 +11,14 @@ namespace zkp {
 /// statement that counts its rows. Both overwrite `Filter`.
 class RunTimeStatement {
 public:
-    RunTimeStatement(BuilderInputs& inputs, FieldExpressions& fields, Joins& joins, FilterTranslation& translation,
-                     Hierarchy& hierarchy, Host& host)
-        : inputs_(inputs), fields_(fields), joins_(joins), translation_(translation), hierarchy_(hierarchy), host_(host) {}
+    RunTimeStatement(BuilderInputs& inputs, FieldExpressions& fields, Joins& joins,
+                     FilterTranslation& translation, Hierarchy& hierarchy, Host& host)
+        : inputs_(inputs)
+        , fields_(fields)
+        , joins_(joins)
+        , translation_(translation)
+        , hierarchy_(hierarchy)
+        , host_(host) {}
 
     /// Also kept in `SQLRun`. A failure shows a box and gives what was built, usually nothing.
     QString RunTimeSQL();

@@ -32,14 +32,15 @@ void StatementDispatch::OpenTotalRecordset() {
 
     if (!state.ReportRecordset)
         state.ReportRecordset = std::make_shared<ado::Recordset>();
-    if (state.ReportRecordset->State() == ado::adStateOpen)
-        state.ReportRecordset->Close();
+    const ado::RecordsetPtr records = state.ReportRecordset;
+    if (records->State() == ado::adStateOpen)
+        records->Close();
     if (!state.Cn)
         throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"), QStringLiteral("Cn"));
     state.Cn->setCommandTimeout(seconds(kTotalsTime));
-    state.ReportRecordset->Open(statement, state.Cn, ado::adOpenStatic);
+    records->Open(statement, state.Cn, ado::adOpenStatic);
     if (state.HasPercentColumns)
-        state.TotalsRecordset = state.ReportRecordset->Clone();
+        state.TotalsRecordset = records->Clone();
     state.Cn->setCommandTimeout(seconds(kNormalTime));
 }
 

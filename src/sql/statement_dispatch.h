@@ -1,19 +1,20 @@
 #pragma once
 
 #include "core/group_columns.h"
-#include "support/settings_store.h"
 #include "sql/grouped_statement.h"
 #include "sql/normal_statement.h"
 #include "sql/run_time_statement.h"
 #include "sql/statistics_statement.h"
+#include "support/settings_store.h"
 
 namespace zkp {
 
 /// Which statement a load runs, and the opening of a totals report.
 class StatementDispatch {
 public:
-    StatementDispatch(BuilderInputs& inputs, GroupColumns& groups, SettingsStore& settings, NormalStatement& normal,
-                      RunTimeStatement& runTime, GroupedStatement& grouped, StatisticsStatement& statistics)
+    StatementDispatch(BuilderInputs& inputs, GroupColumns& groups, SettingsStore& settings,
+                      NormalStatement& normal, RunTimeStatement& runTime, GroupedStatement& grouped,
+                      StatisticsStatement& statistics)
         : inputs_(inputs)
         , groups_(groups)
         , settings_(settings)

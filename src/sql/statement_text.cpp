@@ -12,7 +12,9 @@ void appendItem(QString& list, const QString& item, const QString& separator) {
         list = item;
 }
 
-QString textOrEmpty(const QVariant& value) { return value.isValid() ? value.toString() : QString(); }
+QString textOrEmpty(const QVariant& value) {
+    return value.isValid() ? value.toString() : QString();
+}
 
 QString textOf(const QVariant& value) {
     if (!value.isValid())
@@ -26,7 +28,8 @@ bool isSet(const QVariant& value) {
     return value.isValid() && (value.toDouble() != 0 || value.toString() == QStringLiteral("true"));
 }
 
-QString ReplaceStringIntoAString(const QString& StrForReplace, const QString& StrSource, const QString& StrDest) {
+QString ReplaceStringIntoAString(const QString& StrForReplace, const QString& StrSource,
+                                 const QString& StrDest) {
     if (StrForReplace.isEmpty())
         return StrForReplace;
     const qsizetype found = upper(StrForReplace).indexOf(upper(StrSource));

@@ -19,6 +19,7 @@ bool isSet(const QVariant& value);
 
 /// Puts `StrDest` for the first occurrence of `StrSource` in `StrForReplace`, compared in capitals. An
 /// empty `StrSource` is found at the front of a text that is not empty.
-QString ReplaceStringIntoAString(const QString& StrForReplace, const QString& StrSource, const QString& StrDest);
+QString ReplaceStringIntoAString(const QString& StrForReplace, const QString& StrSource,
+                                 const QString& StrDest);
 
 } // namespace zkp

@@ -1,6 +1,7 @@
 #include "support/utility.h"
 
 #include "base/currency.h"
+#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "base/texts.h"
@@ -44,8 +45,8 @@ bool RecordsetIsEmpty(const ado::RecordsetPtr& recordset, Host& host) {
         if (!recordset)
             throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"));
         return recordset->Bof() && recordset->Eof();
-    } catch (const Error& error) {
-        ShowError(host, error);
+    } catch (...) {
+        ShowError(host, errorInFlight());
         return false;
     }
 }

@@ -1,5 +1,7 @@
 #include "ui/lifecycle.h"
 
+#include "base/number.h"
+
 #include <algorithm>
 
 namespace zkp {
@@ -18,6 +20,8 @@ void hide(GridSurface& surface) {
 } // namespace
 
 void Lifecycle::initProperties() {
+    hide(children_.MSFlexGrid2);
+    hide(children_.MSFlexGrid3);
     GridSurface& surface = children_.MSFlexGrid1;
     surface.setFontName(QStringLiteral("Arial"));
     surface.setFontSize(8);
@@ -55,20 +59,20 @@ void Lifecycle::exitFocus() {
     try {
         if (drawInterface_)
             drawInterface_();
-    } catch (const std::exception&) {
+    } catch (...) {
     }
 }
 
 int Lifecycle::keyDown(int code, int shift) {
     if (code == kEscape && state_.GraphVisible)
         children_.cmdHide.press();
-    KeyArgs args{static_cast<short>(code), static_cast<short>(shift)};
+    KeyArgs args{toInt16(code), toInt16(shift)};
     Q_EMIT events_.KeyDown(args);
     return args.KeyCode;
 }
 
 int Lifecycle::keyPress(int ascii) {
-    KeyPressArgs args{static_cast<short>(ascii)};
+    KeyPressArgs args{toInt16(ascii)};
     Q_EMIT events_.KeyPress(args);
     return args.KeyAscii;
 }

@@ -12,8 +12,12 @@ namespace zkp {
 class Lifecycle {
 public:
     /// `drawInterface` repaints the sections; it may be empty.
-    Lifecycle(ReportState& state, ChildControls& children, Events& events, std::function<void()> drawInterface)
-        : state_(state), children_(children), events_(events), drawInterface_(std::move(drawInterface)) {}
+    Lifecycle(ReportState& state, ChildControls& children, Events& events,
+              std::function<void()> drawInterface)
+        : state_(state)
+        , children_(children)
+        , events_(events)
+        , drawInterface_(std::move(drawInterface)) {}
 
     /// A control that is placed new, with nothing stored.
     void initProperties();

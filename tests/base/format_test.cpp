@@ -63,8 +63,9 @@ TEST(FormatNumber, AmountsAreExact) {
     EXPECT_EQ(formatNumber(Currency{500}, NumberFormat::Grouped2, kGreek), u"0,05"_s);
     EXPECT_EQ(formatNumber(Currency{12'345'678'900}, NumberFormat::Grouped2, kGreek), u"1.234.567,89"_s);
     EXPECT_EQ(formatNumber(Currency{-12'345'678'900}, NumberFormat::Grouped0, kGreek), u"-1.234.568"_s);
-    EXPECT_EQ(formatNumber(Currency{std::numeric_limits<std::int64_t>::min()}, NumberFormat::Grouped2, kGreek),
-              u"-922.337.203.685.477,58"_s);
+    EXPECT_EQ(
+        formatNumber(Currency{std::numeric_limits<std::int64_t>::min()}, NumberFormat::Grouped2, kGreek),
+        u"-922.337.203.685.477,58"_s);
 }
 
 TEST(FormatNumber, IntegersBeyondDoublePrecisionStayWhole) {

@@ -12,7 +12,9 @@ namespace {
 
 const ReportLocale kGreek{QLocale(u"el_GR"_s)};
 
-QDateTime moment(int y, int m, int d, QTime time = QTime(0, 0)) { return {QDate(y, m, d), time}; }
+QDateTime moment(int y, int m, int d, QTime time = QTime(0, 0)) {
+    return {QDate(y, m, d), time};
+}
 
 } // namespace
 

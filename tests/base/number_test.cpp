@@ -51,7 +51,8 @@ TEST(ToNumber, ReadsTheLocalesSigns) {
 }
 
 TEST(ToNumber, RefusesWhatIsNotWhollyANumber) {
-    for (const QStringView text : std::initializer_list<QStringView>{u"", u" ", u"-", u"12x", u"x12", u"1,2,3", u"1 2", u".", u"12-"})
+    for (const QStringView text :
+         std::initializer_list<QStringView>{u"", u" ", u"-", u"12x", u"x12", u"1,2,3", u"1 2", u".", u"12-"})
         EXPECT_FALSE(toNumber(text, kGreek).has_value()) << text.toString().toStdString();
 }
 

@@ -62,7 +62,9 @@ TEST_F(AccountColumnsTest, RunsTheBalanceAndSumsIntoTheLastRow) {
     columns.Item(4).Balance = true;
     state.TotalsBackcolor = 0x00112233;
     state.TotalsForeColor = 0x00445566;
-    fill({{u"α"_s, u"100"_s, u"30"_s, u""_s}, {u"β"_s, u""_s, u"20"_s, u""_s}, {u"γ"_s, u"10"_s, u""_s, u""_s}});
+    fill({{u"α"_s, u"100"_s, u"30"_s, u""_s},
+          {u"β"_s, u""_s, u"20"_s, u""_s},
+          {u"γ"_s, u"10"_s, u""_s, u""_s}});
     account.RecalcBalanceColumn();
     EXPECT_EQ(row(1), (QStringList{u"α"_s, u"100"_s, u"30"_s, u"70"_s}));
     EXPECT_EQ(row(2), (QStringList{u"β"_s, u""_s, u"20"_s, u"50"_s}));

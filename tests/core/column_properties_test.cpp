@@ -30,14 +30,20 @@ TEST_F(ColumnPropertiesTest, EachOfTheFamilyStoresAndReportsItsOwnKey) {
     };
     const Column& column = grid->Columns().Item(2);
 #define FLAG(Name, Member)                                                                                   \
-    Case{QStringLiteral(#Name), [&] { grid->set##Name(1, true); },                                           \
-         [&] { return grid->Name(1) && column.Member && !grid->Name(0); }}
+    Case {                                                                                                   \
+        QStringLiteral(#Name), [&] { grid->set##Name(1, true); },                                            \
+            [&] { return grid->Name(1) && column.Member && !grid->Name(0); }                                 \
+    }
 #define TEXT(Name, Member)                                                                                   \
-    Case{QStringLiteral(#Name), [&] { grid->set##Name(1, u"x"_s); },                                         \
-         [&] { return grid->Name(1) == u"x"_s && column.Member == u"x"_s && grid->Name(0) == u" "_s; }}
+    Case {                                                                                                   \
+        QStringLiteral(#Name), [&] { grid->set##Name(1, u"x"_s); },                                          \
+            [&] { return grid->Name(1) == u"x"_s && column.Member == u"x"_s && grid->Name(0) == u" "_s; }    \
+    }
 #define NUMBER(Name, Member)                                                                                 \
-    Case{QStringLiteral(#Name), [&] { grid->set##Name(1, 3); },                                              \
-         [&] { return grid->Name(1) == 3 && column.Member == 3 && grid->Name(0) == 0; }}
+    Case {                                                                                                   \
+        QStringLiteral(#Name), [&] { grid->set##Name(1, 3); },                                               \
+            [&] { return grid->Name(1) == 3 && column.Member == 3 && grid->Name(0) == 0; }                   \
+    }
     const Case cases[] = {
         FLAG(ColAvrg, Avrg),
         FLAG(ColBalance, Balance),
@@ -81,9 +87,7 @@ TEST_F(ColumnPropertiesTest, ColCaptionAlsoStandsInTheHeadingRow) {
 }
 
 TEST_F(ColumnPropertiesTest, ColAlignmentKeepsTheStoredValueAndTranslatesForTheSurface) {
-    const struct {
-        int given, surface;
-    } cases[] = {{7, 6}, {4, 3}, {1, 0}, {0, 0}, {3, 3}, {6, 6}, {8, 8}};
+    const struct { int given, surface; } cases[] = {{7, 6}, {4, 3}, {1, 0}, {0, 0}, {3, 3}, {6, 6}, {8, 8}};
     for (const auto& c : cases) {
         grid->setColAlignment(0, c.given);
         EXPECT_EQ(grid->Columns().Item(1).Alignment, c.given);

@@ -8,14 +8,40 @@ using namespace Qt::StringLiterals;
 using namespace zkp;
 
 TEST(Events, AllThirtyThreeAndThePropertyChangeCanBeBound) {
-    const std::set<QString> expected = {
-        u"Compare"_s,       u"Click"_s,            u"DblClick"_s,        u"KeyDown"_s,          u"KeyPress"_s,
-        u"KeyUp"_s,         u"MouseDown"_s,        u"MouseUp"_s,         u"Selecting"_s,        u"MenuExportTable"_s,
-        u"PrintCommand"_s,  u"StartSorting"_s,     u"StopSorting"_s,     u"StartFilling"_s,     u"StopFillIng"_s,
-        u"StartInterface"_s, u"StopInterface"_s,   u"MenuSaveTemplate"_s, u"MenuSaveTemplateAs"_s, u"MenuLoadTemplate"_s,
-        u"MenuTitle"_s,     u"addcolumn"_s,        u"FirstRetrieved"_s,  u"DelColumn"_s,        u"InsertColumn"_s,
-        u"LeaveEdit"_s,     u"StartEdit"_s,        u"Groupby"_s,         u"GroupBy1"_s,         u"GroupBy2"_s,
-        u"GroupBy3"_s,      u"GroupBy4"_s,         u"RetrieveRow"_s,     u"PropertyChanged"_s};
+    const std::set<QString> expected = {u"Compare"_s,
+                                        u"Click"_s,
+                                        u"DblClick"_s,
+                                        u"KeyDown"_s,
+                                        u"KeyPress"_s,
+                                        u"KeyUp"_s,
+                                        u"MouseDown"_s,
+                                        u"MouseUp"_s,
+                                        u"Selecting"_s,
+                                        u"MenuExportTable"_s,
+                                        u"PrintCommand"_s,
+                                        u"StartSorting"_s,
+                                        u"StopSorting"_s,
+                                        u"StartFilling"_s,
+                                        u"StopFillIng"_s,
+                                        u"StartInterface"_s,
+                                        u"StopInterface"_s,
+                                        u"MenuSaveTemplate"_s,
+                                        u"MenuSaveTemplateAs"_s,
+                                        u"MenuLoadTemplate"_s,
+                                        u"MenuTitle"_s,
+                                        u"addcolumn"_s,
+                                        u"FirstRetrieved"_s,
+                                        u"DelColumn"_s,
+                                        u"InsertColumn"_s,
+                                        u"LeaveEdit"_s,
+                                        u"StartEdit"_s,
+                                        u"Groupby"_s,
+                                        u"GroupBy1"_s,
+                                        u"GroupBy2"_s,
+                                        u"GroupBy3"_s,
+                                        u"GroupBy4"_s,
+                                        u"RetrieveRow"_s,
+                                        u"PropertyChanged"_s};
     std::set<QString> found;
     const QMetaObject& meta = Events::staticMetaObject;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)

@@ -105,6 +105,7 @@ TEST_F(FrontDoorTest, AddItemAndRemoveItem) {
     EXPECT_EQ(grid->TextMatrix(1, 0), u"α"_s);
     EXPECT_EQ(grid->TextMatrix(1, 1), u"β"_s);
     EXPECT_EQ(grid->TextMatrix(3, 0), u"τέλος"_s);
+    EXPECT_EQ(errorNumberOf([&] { grid->AddItem(u"x"_s, -1); }), kErrInvalidRow);
     grid->RemoveItem(1);
     EXPECT_EQ(grid->TextMatrix(2, 0), u"τέλος"_s);
     EXPECT_EQ(errorNumberOf([&] { grid->RemoveItem(50); }), kErrInvalidRow);

@@ -97,6 +97,46 @@ TEST_F(LifecycleTest, ClicksOnTheSurfaceAreRaised) {
     EXPECT_EQ(doubles, 1);
 }
 
+TEST_F(LifecycleTest, ALeftPressIsToldForHeadingsBehindTheGroupFactorsOnly) {
+    QList<int> told;
+    QObject::connect(&grid->events(), &Events::MouseDown, [&](MouseArgs& e) { told << e.Button; });
+    grid->setRows(3);
+    GridSurface& surface = grid->MSFlexGrid1();
+    surface.userPress({1, 0, 0, 0, 1, 1}); // a data row
+    surface.userPress({1, 0, 0, 0, 0, 0}); // the heading of the first column
+    EXPECT_EQ(told, QList<int>{});
+    surface.userPress({1, 0, 0, 0, 0, 1});
+    surface.userPress({2, 0, 0, 0, 1, 0}); // the right button anywhere
+    EXPECT_EQ(told, (QList<int>{1, 2}));
+    EXPECT_EQ(grid->Col(), 0);
+}
+
+TEST_F(LifecycleTest, EventsThatAreNeverRaisedStaySilent) {
+    int raised = 0;
+    Events& events = grid->events();
+    QObject::connect(&events, &Events::MouseUp, [&](MouseArgs&) { ++raised; });
+    QObject::connect(&events, &Events::KeyUp, [&](KeyArgs&) { ++raised; });
+    QObject::connect(&events, &Events::StartEdit, [&](CellArgs&) { ++raised; });
+    QObject::connect(&events, &Events::LeaveEdit, [&](CellArgs&) { ++raised; });
+    QObject::connect(&events, &Events::FirstRetrieved, [&] { ++raised; });
+    QObject::connect(&events, &Events::Groupby, [&](FieldArgs&) { ++raised; });
+    QObject::connect(&events, &Events::GroupBy1, [&](FieldArgs&) { ++raised; });
+    grid->setRows(3);
+    GridSurface& surface = grid->MSFlexGrid1();
+    surface.userPress({1, 0, 0, 0, 1, 1});
+    surface.userRelease({1, 0, 0, 0, 1, 1});
+    surface.userKey(65, 0);
+    surface.userKeyUp(65, 0);
+    grid->setGroupby(u"A"_s);
+    grid->setGroupBy1(u"A"_s);
+    EXPECT_EQ(raised, 0);
+}
+
+TEST_F(LifecycleTest, TheAccumulatorGridsAreNeverVisible) {
+    EXPECT_FALSE(grid->MSFlexGrid2().place().Visible);
+    EXPECT_FALSE(grid->MSFlexGrid3().place().Visible);
+}
+
 TEST_F(LifecycleTest, AColumnThatTheUserResizesIsStored) {
     grid->MSFlexGrid1().userResizeColumn(1, 2345);
     EXPECT_EQ(grid->Columns().Item(2).Width, 2345);

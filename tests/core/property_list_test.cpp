@@ -8,9 +8,11 @@ using namespace zkp;
 namespace {
 
 #define COUNT(...) +1
-constexpr int kListed = 0 ZKP_SURFACE_PROPERTIES(COUNT) ZKP_LOOK_PROPERTIES(COUNT) ZKP_MEMBER_PROPERTIES(COUNT)
-    ZKP_KEPT_MEMBERS(COUNT) ZKP_SILENT_PROPERTIES(COUNT) ZKP_PLAIN_MEMBERS(COUNT);
-constexpr int kByHand = 10; // Rows, Cols, Row, RecordSource, Width, Height, MousePointer, Locale, RecordsourceSTR, HasTotals
+constexpr int kListed =
+    0 ZKP_SURFACE_PROPERTIES(COUNT) ZKP_LOOK_PROPERTIES(COUNT) ZKP_MEMBER_PROPERTIES(COUNT)
+        ZKP_KEPT_MEMBERS(COUNT) ZKP_SILENT_PROPERTIES(COUNT) ZKP_PLAIN_MEMBERS(COUNT);
+constexpr int kByHand =
+    10; // Rows, Cols, Row, RecordSource, Width, Height, MousePointer, Locale, RecordsourceSTR, HasTotals
 constexpr int kIndexed = 0 ZKP_SURFACE_INDEXED(COUNT) ZKP_COLUMN_PROPERTIES(COUNT);
 #undef COUNT
 

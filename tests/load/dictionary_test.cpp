@@ -14,8 +14,9 @@ protected:
         state.Cn->Open(u"sqlite:"_s);
         state.Cn->Execute(u"create table CLMNS (dtfld text, Cptn text, visbl integer, IsPublic integer, "
                           "isGroup integer, [Sum] integer, [Avg] integer, [Min] integer, [Max] integer)"_s);
-        state.Cn->Execute(u"insert into CLMNS values ('PLAIN','β',1,1,0,0,0,0,0), ('SECRET','α',1,0,0,0,0,0,0),"
-                          "('HIDDEN','γ',0,1,1,1,0,0,0), ('GROUP','ε',1,1,1,0,0,0,0), ('SUMS','δ',1,0,0,1,0,0,0)"_s);
+        state.Cn->Execute(
+            u"insert into CLMNS values ('PLAIN','β',1,1,0,0,0,0,0), ('SECRET','α',1,0,0,0,0,0,0),"
+            "('HIDDEN','γ',0,1,1,1,0,0,0), ('GROUP','ε',1,1,1,0,0,0,0), ('SUMS','δ',1,0,0,1,0,0,0)"_s);
         state.clmns = u"CLMNS"_s;
     }
 
@@ -41,14 +42,20 @@ TEST_F(DictionaryTest, TheStatementGoesByModeAndUser) {
         QString statement;
         QStringList keys;
     } cases[] = {
-        {false, u""_s, u"Select * from CLMNS where visbl = 1  order by cptn"_s,
+        {false,
+         u""_s,
+         u"Select * from CLMNS where visbl = 1  order by cptn"_s,
          {u"SECRET"_s, u"PLAIN"_s, u"SUMS"_s, u"GROUP"_s}},
-        {false, u"7"_s, u"Select * from CLMNS where visbl = 1 and IsPublic <> 0 order by cptn"_s,
+        {false,
+         u"7"_s,
+         u"Select * from CLMNS where visbl = 1 and IsPublic <> 0 order by cptn"_s,
          {u"PLAIN"_s, u"GROUP"_s}},
-        {true, u""_s,
+        {true,
+         u""_s,
          u"Select * from CLMNS where visbl = 1 and (isGroup = 1 or [Sum] = 1 or [Avg] = 1 or [Min] =1  or [Max] = 1) order by cptn"_s,
          {u"SUMS"_s, u"GROUP"_s}},
-        {true, u"7"_s,
+        {true,
+         u"7"_s,
          u"Select * from CLMNS where visbl = 1 and IsPublic <> 0 and (isGroup = 1 or [Sum] = 1 or [Avg] = 1 or [Min] =1  or [Max] = 1) order by cptn"_s,
          {u"GROUP"_s}},
     };
@@ -83,8 +90,9 @@ TEST_F(DictionaryTest, ABlankNameMeansNoDictionary) {
 TEST_F(DictionaryTest, TheEmptyReportAsksInTheBooleanDialect) {
     state.TotalForm = true;
     dictionary.loadForEmptyReport();
-    EXPECT_EQ(dictionary.recordset()->Source(),
-              u"Select * from CLMNS where visbl=1 and (isGroup or [Sum] or [Avg] or [Min] or [Max]) order by cptn"_s);
+    EXPECT_EQ(
+        dictionary.recordset()->Source(),
+        u"Select * from CLMNS where visbl=1 and (isGroup or [Sum] or [Avg] or [Min] or [Max]) order by cptn"_s);
     EXPECT_EQ(keys(), (QStringList{u"SUMS"_s, u"GROUP"_s}));
     state.TotalForm = false;
     dictionary.loadForEmptyReport();
@@ -111,7 +119,8 @@ TEST_F(DictionaryLoadTest, AMissingDictionaryShowsTheErrorBox) {
 }
 
 TEST_F(DictionaryLoadTest, AnEmptyReportShowsHeadingsAndMinRows) {
-    connection->Execute(u"create table CLMNS (dtfld text, cptn text, wdth money, isgroup bit, isTot bit, Algn integer, visbl integer)"_s);
+    connection->Execute(
+        u"create table CLMNS (dtfld text, cptn text, wdth money, isgroup bit, isTot bit, Algn integer, visbl integer)"_s);
     columns({u"POLICYID"_s, u"AGENTNAME"_s});
     fill();
     grid->refresh();
@@ -134,7 +143,8 @@ TEST_F(DictionaryLoadTest, AnEmptyReportNeedsADictionaryAndAConnection) {
 }
 
 TEST_F(DictionaryLoadTest, TheSpecialSourceReplacesTheRecordSourceWhereItExists) {
-    connection->Execute(u"create table CLMNS (dtfld text, cptn text, wdth money, isgroup bit, isTot bit, Algn integer, visbl integer)"_s);
+    connection->Execute(
+        u"create table CLMNS (dtfld text, cptn text, wdth money, isgroup bit, isTot bit, Algn integer, visbl integer)"_s);
     connection->Execute(u"create view SpecialPolicies as select * from POLICIES"_s);
     grid->setclmns(u"CLMNS"_s);
     fill();

@@ -127,7 +127,8 @@ TEST_F(HandlersTest, AConnectionClosedHalfWayDoesNotMatter) {
 TEST_F(HandlersTest, AHandlerThatLoadsAgainIsToldOnceAndEndsTheLoad) {
     onRow([&](RetrieveRowArgs&) { grid->refresh(); });
     grid->refresh();
-    EXPECT_EQ(boxes(), (QStringList{u"Παρουσιάστικε Εξαίρεση : \r\rA LOAD IS RUNNING ALREADY.\r\r"_s, kReadFailed}));
+    EXPECT_EQ(boxes(),
+              (QStringList{u"Παρουσιάστικε Εξαίρεση : \r\rA LOAD IS RUNNING ALREADY.\r\r"_s, kReadFailed}));
     expectUsable();
 }
 
@@ -214,4 +215,83 @@ TEST_F(HandlersTest, StartAndStopHandlersAndPendingEventsMayDestroyTheControl) {
     grid->refresh();
     EXPECT_EQ(grid, nullptr);
     EXPECT_TRUE(host->messages.empty());
+}
+
+TEST_F(HandlersTest, AHandlerThatOpensOtherRecordsIsFollowed) {
+    onRow([&](RetrieveRowArgs& e) {
+        if (e.rw != 1)
+            return;
+        e.rsrc->Close();
+        e.rsrc->Open(u"select 'p' as POLICYID union all select 'q' union all select 'r'"_s, connection);
+    });
+    grid->refresh();
+    EXPECT_EQ(report(), (QStringList{u"1: 1"_s, u"1: q"_s, u"1: r"_s}));
+    expectUsable();
+}
+
+TEST_F(HandlersTest, AHandlerThatOpensMoreRecordsReadsNoneBeyondTheRows) {
+    onRow([&](RetrieveRowArgs& e) {
+        if (e.rw != 1)
+            return;
+        e.rsrc->Close();
+        e.rsrc->Open(u"with recursive n(i) as (select 1 union all select i+1 from n where i < 5000) "
+                     "select i as POLICYID from n"_s,
+                     connection);
+        e.rsrc->setAbsolutePosition(4000);
+    });
+    grid->refresh();
+    EXPECT_EQ(grid->TextMatrix(2, 0), u"4001"_s);
+    EXPECT_EQ(boxes(), QStringList{kReadFailed});
+    expectUsable();
+}
+
+TEST_F(HandlersTest, AHandlerThatChangesAColumnAndLeavesIsFollowed) {
+    columns({u"POLICYID"_s, u"PREMIUM"_s});
+    QMetaObject::Connection once;
+    once = QObject::connect(&grid->events(), &Events::RetrieveRow, [&](RetrieveRowArgs&) {
+        grid->setColDataField(1, u"POLICYID"_s);
+        QObject::disconnect(once);
+    });
+    grid->refresh();
+    EXPECT_EQ(report(), (QStringList{u"1: 1 | 1.234,50"_s, u"1: 2 | 2"_s, u"1: 3 | 3"_s}));
+}
+
+TEST_F(HandlersTest, StartFillingMayGiveOtherRecords) {
+    auto other = std::make_shared<ado::Recordset>();
+    other->Open(u"select 8 as POLICYID union all select 9"_s, connection);
+    QObject::connect(&grid->events(), &Events::StartFilling, [&] {
+        grid->setSourceType(ZKP_RecordSet);
+        grid->setRecordSource(QVariant::fromValue(other));
+    });
+    grid->refresh();
+    EXPECT_EQ(report().mid(0, 2), (QStringList{u"1: 8"_s, u"1: 9"_s}));
+}
+
+TEST_F(HandlersTest, AFilterHandlerThatTakesTheSourceAwayGetsABox) {
+    QObject::connect(&grid->events(), &Events::PropertyChanged, [&](PropertyArgs& e) {
+        if (e.name == u"Filter"_s)
+            grid->setRecordSource(u"POLICIES"_s);
+    });
+    grid->setFilter(u""_s);
+    grid->Fill(connection, u"POLICIES"_s, ZKP_Table_QUERY);
+    grid->refresh();
+    EXPECT_EQ(boxes().size(), 1);
+}
+
+TEST_F(HandlersTest, APropertyHandlerMayDestroyTheControlInTheMiddleOfAnOperation) {
+    QObject::connect(&grid->events(), &Events::PropertyChanged, [&](PropertyArgs&) { grid.reset(); });
+    ZkpGrid* control = grid.get();
+    control->InsertColumn(0);
+    EXPECT_EQ(grid, nullptr);
+}
+
+TEST_F(HandlersTest, AnErrorSinkMayReplaceItself) {
+    int calls = 0;
+    grid->setCn(nullptr);
+    grid->setErrorSink([&](const Error&) {
+        ++calls;
+        grid->setErrorSink({});
+    });
+    EXPECT_EQ(errorNumberOf([&] { grid->refresh(); }), kErrPropertyNotSet);
+    EXPECT_EQ(calls, 1);
 }

@@ -117,7 +117,8 @@ TEST_F(LoadDriverTest, RefreshOfAMissingRecordsetThrows) {
 
 TEST_F(LoadDriverTest, AMissingCommandAndConnectionFailTwiceAndThrowTheFirst) {
     std::vector<std::pair<std::uint32_t, QString>> failures;
-    grid->setErrorSink([&](const Error& error) { failures.emplace_back(error.number(), error.description()); });
+    grid->setErrorSink(
+        [&](const Error& error) { failures.emplace_back(error.number(), error.description()); });
     grid->setCn(nullptr);
     grid->setSourceType(ZKP_Command);
     EXPECT_EQ(errorNumberOf([&] { grid->refresh(); }), 0x80040014u);
@@ -168,7 +169,8 @@ TEST_F(LoadDriverTest, TheConnectionsTimeOutComesBack) {
 
 TEST_F(LoadDriverTest, TheStatementRunsUnderTheControlsTimeOut) {
     grid->setCommandTimeout(1);
-    fill(u"with recursive n(i) as (select 1 union all select i+1 from n where i < 500000000) select count(*) from n"_s);
+    fill(
+        u"with recursive n(i) as (select 1 union all select i+1 from n where i < 500000000) select count(*) from n"_s);
     grid->refresh();
     ASSERT_EQ(host->messages.size(), 1u);
     EXPECT_EQ(connection->CommandTimeout(), 30);
@@ -219,10 +221,13 @@ TEST_F(LoadDriverTest, CancelLoadAndStopSearchStopNothing) {
     EXPECT_EQ(report(), (QStringList{u"1: 1"_s, u"1: 2"_s, u"1: 3"_s}));
 }
 
-TEST_F(LoadDriverTest, ATotalsReportHasNoStatementYetAndSaysSo) {
+TEST_F(LoadDriverTest, ATotalsReportWithoutFactorsHasNoStatementAndShowsTheErrorBox) {
+    connection->Execute(u"create table QRN_Main (GenKey integer, GenSubKey integer, GenValue text)"_s);
+    connection->Execute(u"insert into QRN_Main values (2,6,'30'),(2,7,'300')"_s);
     grid->setTotalForm(true);
     fill();
     grid->refresh();
-    EXPECT_EQ(host->messages.size(), 1u);
+    ASSERT_EQ(host->messages.size(), 1u);
+    EXPECT_EQ(host->messages[0].title, u"QRN Insurance"_s);
     EXPECT_TRUE(grid->Redraw());
 }

@@ -34,7 +34,7 @@ TEST_F(SourceKindsTest, AFailedRecordsetLoadMakesTheNextRefreshFailItsCheck) {
     EXPECT_EQ(errorNumberOf([&] { grid->refresh(); }), kErrPropertyNotSet);
 }
 
-TEST_F(SourceKindsTest, ARecordsetWithoutTextNeedsAStatementBuilder) {
+TEST_F(SourceKindsTest, ARecordsetWithoutTextIsAskedForOverNoName) {
     grid->Fill(connection, QVariant::fromValue(std::make_shared<ado::Recordset>()), ZKP_RecordSet);
     grid->refresh();
     EXPECT_EQ(host->messages.size(), 1u);
@@ -71,4 +71,38 @@ TEST_F(SourceKindsTest, ACommandThatGivesNoRecordsLeavesNoRecordSource) {
     grid->refresh();
     EXPECT_EQ(grid->RecordSource().value<ado::RecordsetPtr>(), nullptr);
     EXPECT_EQ(grid->RecCount(), 0);
+}
+
+TEST_F(SourceKindsTest, FillGridWithoutACommandShowsABoxOfItsOwn) {
+    grid->setSourceType(ZKP_Command);
+    grid->FillGrid();
+    ASSERT_EQ(host->messages.size(), 1u);
+    EXPECT_EQ(host->messages[0].title, u""_s);
+    EXPECT_EQ(grid->RecordSource().value<ado::RecordsetPtr>(), nullptr);
+}
+
+TEST_F(SourceKindsTest, ACommandsRecordsAreRestrictedToTheUsersRows) {
+    connection->Execute(u"create table procedures (name text, statement text)"_s);
+    connection->Execute(u"insert into procedures values ('Sec_GetUserIerarxiaID', "
+                        "'select Level, Id from USERS where Name = ?1')"_s);
+    connection->Execute(u"create table USERS (Name text, Level text, Id text)"_s);
+    connection->Execute(u"insert into USERS values ('P1', '1', 'G1')"_s);
+    connection->Execute(u"create table R (N integer, ProductIdentity text, AgencyIdentity text)"_s);
+    connection->Execute(u"insert into R values (1,'P1','G9'),(2,'P2','G1'),(3,'P3','G3')"_s);
+    columns({u"N"_s});
+    auto command = std::make_shared<ado::Command>();
+    command->CommandText = u"select * from R order by N"_s;
+    grid->Fill(connection, QVariant::fromValue(command), ZKP_Command, u"P1"_s);
+    grid->refresh();
+    EXPECT_EQ(report(), (QStringList{u"1: 1"_s, u"1: 2"_s}));
+    EXPECT_TRUE(host->messages.empty());
+}
+
+TEST_F(SourceKindsTest, ATableIsReadByTheNormalStatement) {
+    columns({u"POLICYID"_s, u"AGENTNAME"_s, u"PREMIUM"_s, u"RATE"_s});
+    grid->setFilter(u"POLICYID < 3"_s);
+    grid->Fill(connection, u"POLICIES"_s, ZKP_Table_QUERY);
+    grid->refresh();
+    EXPECT_EQ(report(), (QStringList{u"1: 1 | Ελένη Ζαφειρίου | 1.234,50 | 0,25"_s, u"1: 2 |  | 0,00 | "_s}));
+    EXPECT_TRUE(host->messages.empty());
 }
