@@ -41,6 +41,14 @@ TEST(Dialect, TopInAUnionLimitsItsOwnSelectOnly) {
                 "SELECT * FROM (SELECT B FROM U LIMIT 2) ORDER BY 1"));
 }
 
+// Whole amounts are stored as integers; on the servers their quotient keeps its decimals.
+TEST(Dialect, WhatIsDividedByASumOrASubqueryIsReal) {
+    EXPECT_EQ(rewritten("SELECT SUM(A) / SUM(B) FROM T"), u("SELECT SUM(A) * 1.0 / SUM(B) FROM T"));
+    EXPECT_EQ(rewritten("SELECT (Sum(A) * 100) / (SELECT Sum(A) FROM T) FROM T"),
+              u("SELECT (Sum(A) * 100) * 1.0 / (SELECT Sum(A) FROM T) FROM T"));
+    EXPECT_EQ(rewritten("SELECT A/(B+1), A/sum, '/ SUM(' FROM T"), u("SELECT A/(B+1), A/sum, '/ SUM(' FROM T"));
+}
+
 TEST(Dialect, ConvertOfADateBecomesAnIsoConstant) {
     EXPECT_EQ(rewritten("SELECT 1 WHERE D>=Convert(Datetime,'11/20/2026',102)"),
               u("SELECT 1 WHERE D>='2026-11-20'"));

@@ -58,6 +58,8 @@ public:
                 collateList(k);
             else if (at(k).kind == TokenKind::Text && answered)
                 collateConstant(k);
+            else if (at(k).isSign(u"/") && answered)
+                divideAsReal(k);
         }
         // Behind what the constants got, since a limit closes a select.
         for (std::size_t k = 0; k < solid_.size(); ++k) {
@@ -80,6 +82,15 @@ private:
     void drop(std::size_t token) {
         changed_ = true;
         written_[static_cast<qsizetype>(token)].clear();
+    }
+
+    /// Whole amounts are stored as integers, whose quotient would lose the decimals that the servers'
+    /// money types keep: what is divided by a sum or a subquery is made real. Other divisions stay.
+    void divideAsReal(std::size_t k) {
+        const bool bySum = at(k + 1).isWord(u"sum") && at(k + 2).isSign(u"(");
+        const bool bySubquery = at(k + 1).isSign(u"(") && at(k + 2).isWord(u"select");
+        if (bySum || bySubquery)
+            written(k) = QStringLiteral("* 1.0 /");
     }
 
     /// Convert(Datetime,'mm/dd/yyyy',102) becomes 'yyyy-mm-dd'.
