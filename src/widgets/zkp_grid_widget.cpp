@@ -62,6 +62,14 @@ void ZkpGridWidget::relayKeys() {
     band_->failed = [this](const Error& error) { showError(error); };
 }
 
+GridView& ZkpGridWidget::view() {
+    return *view_;
+}
+
+BandBar& ZkpGridWidget::band() {
+    return *band_;
+}
+
 QSize ZkpGridWidget::sizeHint() const {
     return {960, 540};
 }

@@ -29,8 +29,8 @@ public:
 
     /// Lives as long as the widget.
     ZkpGrid& grid() { return *grid_; }
-    GridView& view() { return *view_; }
-    BandBar& band() { return *band_; }
+    GridView& view();
+    BandBar& band();
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
