@@ -10,8 +10,8 @@ namespace zkp::app {
 namespace {
 
 constexpr std::array kCommands{
-    Command{"show", "[--database FILE] [--picture FILE]",
-            "shows a plain report of a database; the usual command", runShow},
+    Command{"show", "[--database FILE] [OPTION...]", "shows the reports of a database; the usual command",
+            runShow},
     Command{"run", "FILE.js [ARGUMENT...]", "runs a script, with no window and no display", runRun},
     Command{"demo-db", "FILE [--rows N] [--seed S]", "makes the demonstration database", runDemoDb},
 };

@@ -42,20 +42,22 @@ public:
     }
 };
 
-int showWindow(const QString& database) {
+int showWindow(const QString& database, const FirstReport& first) {
     ReportWindow window;
     window.show();
-    window.showDatabase(database);
+    window.showDatabase(database, first);
     return QApplication::exec();
 }
 
-int drawPicture(const QString& database, const QString& picture) {
-    const auto host = std::make_shared<ConsoleHost>();
-    ReportWindow window(host);
-    const bool isLoaded = window.showDatabase(database) && host->messages.empty();
+int drawPicture(const QString& database, const FirstReport& first, const QString& picture) {
+    ReportWindow window(std::make_shared<ConsoleHost>());
+    const bool isLoaded = window.showDatabase(database, first);
     QApplication::processEvents();
-    if (!isLoaded)
+    if (!isLoaded) {
+        if (!window.message().isEmpty())
+            printError(window.message());
         return kExitFailed;
+    }
     printLine(reportText(window.grid().MSFlexGrid1(), kRowsAsText));
     if (!window.grab().save(picture)) {
         printError(QStringLiteral("zkpreport show: can't write the picture %1").arg(picture));
@@ -71,14 +73,22 @@ int drawPicture(const QString& database, const QString& picture) {
 int runShow(Start start, const QStringList& arguments) {
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral(
-        "Shows the list of policies of a database in a window. Without a display it draws the window\n"
-        "into a picture and prints the first rows as text."));
+        "Shows the reports of a database in a window. Without a display it draws the window into a\n"
+        "picture and prints the first rows as text."));
     parser.addPositionalArgument(QStringLiteral("DB"), QStringLiteral("The same as --database."),
                                  QStringLiteral("[DB]"));
     parser.addOption({QStringLiteral("database"), QStringLiteral("SQLite file (demo.db)."),
                       QStringLiteral("FILE"), QStringLiteral("demo.db")});
     parser.addOption({QStringLiteral("picture"), QStringLiteral("Where the picture goes (plain_report.png)."),
                       QStringLiteral("FILE"), QStringLiteral("plain_report.png")});
+    parser.addOption({QStringLiteral("report"),
+                      QStringLiteral("Source or title of the report to open (the first one)."),
+                      QStringLiteral("NAME")});
+    parser.addOption(
+        {QStringLiteral("user"), QStringLiteral("Whose rights hold (all rows)."), QStringLiteral("ID")});
+    parser.addOption({QStringLiteral("filter"),
+                      QStringLiteral("Condition in keys of the report's dictionary, as PREMIUM>1000."),
+                      QStringLiteral("TEXT")});
     // The parser's help asks for an application, which a wrong option must not need.
     chooseOffscreenWithoutDisplay();
     const QApplication application(start.argc, start.argv);
@@ -97,8 +107,10 @@ int runShow(Start start, const QStringList& arguments) {
                        .arg(database));
         return kExitUsage;
     }
-    return hasDisplay() ? showWindow(database)
-                        : drawPicture(database, parser.value(QStringLiteral("picture")));
+    const FirstReport first{parser.value(QStringLiteral("report")), parser.value(QStringLiteral("user")),
+                            parser.value(QStringLiteral("filter"))};
+    return hasDisplay() ? showWindow(database, first)
+                        : drawPicture(database, first, parser.value(QStringLiteral("picture")));
 }
 
 } // namespace zkp::app

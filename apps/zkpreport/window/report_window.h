@@ -1,29 +1,93 @@
 #pragma once
 
+#include "window/load_watch.h"
+#include "window/report_columns.h"
+#include "window/report_list.h"
+#include "window/user_list.h"
+
+// The widget is used whole by who uses the window.
 #include "widgets/band_bar.h"
 #include "widgets/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 
 #include <QMainWindow>
 
+#include <map>
+
+class QAction;
+class QComboBox;
+class QLabel;
+class QListView;
+class QVBoxLayout;
+
 namespace zkp::app {
 
-/// The program's window: one report.
+class FilterLine;
+class StatementPanel;
+
+/// What to open first.
+struct FirstReport {
+    QString report; ///< source or title; empty for the first of the database
+    QString user;   ///< empty for all rows
+    QString filter; ///< in dictionary keys
+};
+
+/// The program's window, a small report browser: the reports of a database, one of them open, the user
+/// whose rights hold, a filter, and on demand the statement behind the rows.
 class ReportWindow : public QMainWindow {
     Q_OBJECT
 
 public:
     /// Boxes stand over the window; with a host of the caller's, where the caller wants them.
     explicit ReportWindow(std::shared_ptr<Host> host = {});
+    ~ReportWindow() override;
 
+    /// The control of the open report; another one for each report and user.
     ZkpGrid& grid() { return report_->grid(); }
+    /// What stands under the filter: why a filter, user or report was refused. Usually empty.
+    QString message() const;
 
-    /// Opens a SQLite file read-only and shows its list of policies. A failure shows the error box
-    /// and gives False.
-    bool showDatabase(const QString& file);
+    /// Opens a SQLite file read-only and shows a report of it. False when there was a box or a message.
+    bool showDatabase(const QString& file, const FirstReport& first = {});
 
 private:
-    ZkpGridWidget* report_;
+    void buildWidgets();
+    QWidget* makeChoices();
+    void connectWidgets();
+    void readDatabase(const QString& file);
+    bool choose(const FirstReport& first);
+
+    /// Opens the chosen report for the chosen user with a filter. A refused filter leaves the rows.
+    bool openReport(const QString& filter);
+    bool load(const ReportEntry& report, const QString& filter);
+    /// An empty control: neither rows nor rights of the last one are left.
+    void replaceControl();
+    void keepWidths();
+    void restoreWidths();
+    void showFilterKeys();
+    void setMessage(const QString& text);
+    const ReportEntry* chosenReport() const;
+    QString chosenUser() const;
+    template <class F>
+    bool guarded(F call);
+
+    std::shared_ptr<LoadWatch> host_;
+    ado::ConnectionPtr connection_;
+    QString database_; // the file's name
+    std::vector<UserEntry> users_;
+    std::vector<DictionaryField> fields_; // of the open report, for the user
+    std::map<QString, double> widths_;    // of the report's columns, as the user has left them
+
+    ReportListModel* reports_;
+    QListView* reportList_;
+    QComboBox* userList_;
+    QLabel* rights_;
+    FilterLine* filter_;
+    QAction* panelToggle_;
+    QLabel* message_;
+    QVBoxLayout* place_; // where the control stands
+    ZkpGridWidget* report_ = nullptr;
+    StatementPanel* panel_;
 };
 
 } // namespace zkp::app

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "ado/connection.h"
+#include "platform/host.h"
+
+#include <QElapsedTimer>
+
+#include <memory>
+
+namespace zkp::app {
+
+/// Passes everything on to another host and notes on the way how a load goes: which statement the
+/// database received for the records, how long that took, and whether a box was shown. A load sends
+/// further statements after the one that matters, so the note is taken at the control's first sign
+/// after the records are there.
+class LoadWatch : public Host {
+public:
+    explicit LoadWatch(std::shared_ptr<Host> host)
+        : host_(std::move(host)) {}
+
+    void begin(const ado::ConnectionPtr& connection);
+    void end();
+
+    QString statementSent() const { return statement_; }
+    double statementMs() const { return statementMs_; }
+    double wholeMs() const { return wholeMs_; }
+    bool sawBox() const { return sawBox_; }
+
+    int msgBox(const QString& text, int style, const QString& title) override;
+    std::optional<QString> inputBox(const QString& prompt, const QString& title,
+                                    const QString& text) override;
+    std::optional<QString> saveDialog(const QString& title, const QString& filter,
+                                      const QString& fileName) override;
+    std::optional<std::uint32_t> colorDialog(std::uint32_t start) override;
+    std::optional<FontChoice> fontDialog(const FontChoice& start) override;
+    void beep() override { host_->beep(); }
+    int shellOpen(const QString& file, const QString& verb, const QString& parameters,
+                  const QString& directory, int windowMode) override;
+    int pointer() const override { return host_->pointer(); }
+    void setPointer(int pointer) override;
+    void runPendingEvents() override;
+
+private:
+    void note();
+
+    std::shared_ptr<Host> host_;
+    ado::ConnectionPtr connection_; // set between begin and the note
+    QElapsedTimer timer_;
+    QString statement_;
+    double statementMs_ = 0;
+    double wholeMs_ = 0;
+    bool sawBox_ = false;
+};
+
+} // namespace zkp::app
