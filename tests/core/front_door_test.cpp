@@ -37,6 +37,17 @@ TEST_F(FrontDoorTest, FontGroupsStartAsArialEight) {
     for (const QString& name : {grid->FixedFontName(), grid->GroupedFontName(), grid->TitleFontName(),
                                 grid->StoixeiaFontName(), grid->SubTotalsFontName(), grid->TotalsFontName()})
         EXPECT_EQ(name, u"Arial"_s);
+    for (const double size : {grid->FixedFontSize(), grid->GroupedFontSize(), grid->TitleFontSize(),
+                              grid->StoixeiaFontSize(), grid->SubTotalsFontSize(), grid->TotalsFontSize()})
+        EXPECT_EQ(size, 8);
+    for (const bool on :
+         {grid->FixedFontItalic(), grid->FixedFontUnderline(), grid->FixedFontStrikethru(),
+          grid->GroupedFontItalic(), grid->GroupedFontUnderline(), grid->GroupedFontStrikethru(),
+          grid->TitleFontItalic(), grid->TitleFontUnderline(), grid->StoixeiaFontItalic(),
+          grid->StoixeiaFontUnderline(), grid->SubTotalsFontItalic(), grid->SubTotalsFontUnderline(),
+          grid->SubTotalsFontStrikethru(), grid->TotalsFontItalic(), grid->TotalsFontUnderline(),
+          grid->TotalsFontStrikethru()})
+        EXPECT_FALSE(on);
     EXPECT_TRUE(grid->FixedFontBold() && grid->GroupedFontBold());
     EXPECT_TRUE(grid->SubTotalsFontBold() && grid->TotalsFontBold());
     EXPECT_FALSE(grid->TitleFontBold() || grid->StoixeiaFontBold());

@@ -1,5 +1,6 @@
 #include "load_fixture.h"
 #include "sql/dictionary.h"
+#include "support/stat_field.h"
 
 using namespace Qt::StringLiterals;
 using namespace zkp;
@@ -155,4 +156,55 @@ TEST_F(DictionaryLoadTest, TheSpecialSourceReplacesTheRecordSourceWhereItExists)
     grid->setspecialrecordsource(u" specialpolicies "_s);
     grid->PrepareEmptyGrid();
     EXPECT_EQ(grid->RecordsourceSTR(), u" specialpolicies "_s);
+}
+
+TEST_F(DictionaryLoadTest, AnEmptyTotalsReportOffersTheLossRatioColumns) {
+    connection->Execute(
+        u"create table CLMNS (dtfld text, cptn text, wdth money, isgroup bit, isTot bit, Algn integer, "
+        "crosstabdate bit, [Sum] bit, [Avg] bit, [Min] bit, [Max] bit, visbl integer)"_s);
+    grid->setclmns(u"CLMNS"_s);
+    grid->setTotalForm(true);
+    host->setPointer(kPointerHourglass);
+    grid->PrepareEmptyGrid();
+    ASSERT_EQ(statFields().Count(), 6);
+    EXPECT_EQ(statFields().Item(1).DataField, u"Cnt"_s);
+    const std::pair<QString, QString> ratios[] = {{u"LR"_s, u"Παραγωγή/Ζημιές (Loss Ratio)"_s},
+                                                  {u"LR1"_s, u"Ζημιές/Παραγωγή (Loss Ratio)"_s},
+                                                  {u"LR2"_s, u"Παραγωγή-Ζημιές"_s},
+                                                  {u"LR3"_s, u"Ζημιές%Παραγωγής)"_s}};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(statFields().Item(i + 3).DataField, ratios[i].first);
+        EXPECT_EQ(statFields().Item(i + 3).Caption, ratios[i].second);
+        EXPECT_EQ(statFields().Item(i + 3).Width, Currency::fromWhole(1050));
+        EXPECT_EQ(statFields().Item(i + 3).Align, 7);
+    }
+    EXPECT_EQ(host->pointer(), kPointerHourglass); // a totals report leaves the pointer
+    grid->setTotalForm(false);
+    grid->PrepareEmptyGrid();
+    EXPECT_EQ(host->pointer(), kPointerDefault);
+}
+
+TEST_F(DictionaryLoadTest, EachLoadMakesTheListOfFieldsAnew) {
+    connection->Execute(
+        u"create table CLMNS (dtfld text, cptn text, wdth money, isgroup bit, isTot bit, Algn integer, visbl integer)"_s);
+    connection->Execute(u"insert into CLMNS values ('POLICYID', 'Αριθμός', 900, 0, 0, 7, 1)"_s);
+    grid->setclmns(u"CLMNS"_s);
+    fill();
+    grid->refresh();
+    grid->refresh();
+    ASSERT_EQ(statFields().Count(), 1);
+    EXPECT_EQ(statFields().Item(1).DataField, u"POLICYID"_s);
+}
+
+TEST_F(DictionaryLoadTest, EndingTheControlReleasesTheDictionary) {
+    connection->Execute(
+        u"create table CLMNS (dtfld text, cptn text, wdth money, isgroup bit, isTot bit, Algn integer, visbl integer)"_s);
+    grid->setclmns(u"CLMNS"_s);
+    grid->LoadDictionary();
+    connection->Execute(u"insert into CLMNS values ('POLICYID', 'Αριθμός', 900, 0, 0, 7, 1)"_s);
+    grid->LoadDictionary(); // reused: the new row is not seen
+    EXPECT_EQ(statFields().Count(), 0);
+    grid->UserControl_Terminate();
+    grid->LoadDictionary();
+    EXPECT_EQ(statFields().Count(), 1);
 }
