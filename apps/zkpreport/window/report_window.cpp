@@ -66,10 +66,16 @@ void ReportWindow::buildWidgets() {
     reportList_->setAccessibleName(texts::reports());
     reportList_->setFrameShape(QFrame::NoFrame);
     reportList_->setTextElideMode(Qt::ElideRight);
+    reportList_->setSpacing(1);
     message_->setObjectName(QStringLiteral("message"));
     message_->setContentsMargins(kMargin, 0, kMargin, kMargin);
     message_->setWordWrap(true);
     message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    QFont bold = message_->font();
+    bold.setBold(true);
+    message_->setFont(bold);
+    auto* place = new QWidget;
+    place->setLayout(place_);
     place_->setContentsMargins({});
 
     auto* report = new QWidget;
@@ -78,7 +84,7 @@ void ReportWindow::buildWidgets() {
     column->setSpacing(0);
     column->addWidget(makeChoices());
     column->addWidget(message_);
-    column->addLayout(place_, 1);
+    column->addWidget(place, 1);
 
     auto* rows = new QSplitter(Qt::Vertical);
     rows->addWidget(report);
@@ -175,6 +181,8 @@ void ReportWindow::readDatabase(const QString& file) {
     for (const UserEntry& user : users_)
         userList_->addItem(user.name);
     userList_->setEnabled(users_.size() > 1);
+    filter_->setEnabled(reports_->rowCount() > 0);
+    reportList_->setVisible(reports_->rowCount() > 0);
 }
 
 /// The first report is opened here and not by the choices' signals, so that it is loaded once.
@@ -243,6 +251,7 @@ bool ReportWindow::load(const ReportEntry& report, const QString& filter) {
     showFilterKeys();
     prepareReport(grid(), connection_, report, fields_, user);
     restoreWidths();
+    report_->show();
     rights_->setText(rightsText(connection_, user));
     const LoadRecord record = loadReport(grid(), *host_, filter);
     panel_->setRecord(record);
@@ -253,12 +262,10 @@ bool ReportWindow::load(const ReportEntry& report, const QString& filter) {
 
 void ReportWindow::replaceControl() {
     keepWidths();
-    const bool hadFocus = report_ && report_->isAncestorOf(focusWidget());
     delete report_;
     report_ = new ZkpGridWidget(host_);
+    report_->hide(); // until it has columns
     place_->addWidget(report_);
-    if (hadFocus)
-        report_->setFocus();
     panel_->clear();
     rights_->clear();
 }

@@ -42,14 +42,17 @@ StatementPanel::StatementPanel(QWidget* parent)
     built_->setAccessibleName(texts::statementBuilt());
     sent_->setAccessibleName(texts::statementSent());
 
+    auto* sentRow = new QHBoxLayout;
+    sentRow->addWidget(makeHeading(texts::statementSent(), sent_, this));
+    sentRow->addStretch(1);
+    sentRow->addWidget(figures_);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
     layout->setSpacing(kMargin);
     layout->addWidget(makeHeading(texts::statementBuilt(), built_, this), 0, 0);
-    layout->addWidget(makeHeading(texts::statementSent(), sent_, this), 0, 1);
-    layout->addWidget(figures_, 0, 2, Qt::AlignRight);
+    layout->addLayout(sentRow, 0, 1);
     layout->addWidget(built_, 1, 0);
-    layout->addWidget(sent_, 1, 1, 1, 2);
+    layout->addWidget(sent_, 1, 1);
     layout->setColumnStretch(0, 1);
     layout->setColumnStretch(1, 1);
 }

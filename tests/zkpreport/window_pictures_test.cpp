@@ -1,0 +1,69 @@
+// Pictures of the window for the eye, under the build folder: pictures/*.png.
+
+#include "window_fixture.h"
+
+#include <QAction>
+#include <QDir>
+
+namespace {
+
+class WindowPictures : public WindowTest {
+protected:
+    void paint(const char* name, double scale = 1) {
+        settle();
+        QImage image((QSizeF(window->size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(scale);
+        image.fill(window->palette().color(QPalette::Window));
+        window->render(&image);
+        const QString folder = QStringLiteral(ZKP_BINARY_DIR "/pictures");
+        QDir().mkpath(folder);
+        EXPECT_TRUE(image.save(QStringLiteral("%1/%2.png").arg(folder, QLatin1String(name))));
+    }
+    void openPanel() { QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier); }
+};
+
+TEST_F(WindowPictures, TheStatementPanelIsOpen) {
+    ASSERT_TRUE(open());
+    openPanel();
+    paint("window_statement");
+    paint("window_statement_200", 2);
+}
+
+TEST_F(WindowPictures, ARestrictedUserWithAFilter) {
+    ASSERT_TRUE(open(
+        {QStringLiteral("CLAIMSDATA"), QStringLiteral("P0010"), QStringLiteral("PAID>500 or RESERVE>500")}));
+    openPanel();
+    paint("window_restricted");
+}
+
+TEST_F(WindowPictures, ARefusedFilter) {
+    ASSERT_TRUE(open());
+    applyFilter(QStringLiteral("PREMIUM>100 or (BRANCH='Βόλος'"));
+    paint("window_refused");
+}
+
+TEST_F(WindowPictures, DarkPalette) {
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(45, 45, 48));
+    dark.setColor(QPalette::WindowText, QColor(220, 220, 220));
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    dark.setColor(QPalette::Text, QColor(220, 220, 220));
+    dark.setColor(QPalette::PlaceholderText, QColor(140, 140, 140));
+    dark.setColor(QPalette::Button, QColor(53, 53, 56));
+    dark.setColor(QPalette::ButtonText, QColor(220, 220, 220));
+    dark.setColor(QPalette::Mid, QColor(75, 75, 80));
+    window->setPalette(dark);
+    ASSERT_TRUE(open());
+    openPanel();
+    paint("window_dark");
+}
+
+TEST_F(WindowPictures, NoReports) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("empty.db"));
+    EXPECT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+    EXPECT_FALSE(window->showDatabase(file));
+    paint("window_no_reports");
+}
+
+} // namespace
