@@ -17,14 +17,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-/// Windows want an application object of their own kind; one serves all tests.
-inline void needWindows() {
-    static int argc = 1;
-    static char name[] = "zkpreport_window_tests";
-    static char* argv[] = {name, nullptr};
-    static QApplication application(argc, argv);
-}
-
 inline void settle() {
     for (int i = 0; i < 3; ++i)
         QApplication::processEvents();
@@ -47,7 +39,6 @@ inline QString demoFile() {
 class WindowTest : public testing::Test {
 protected:
     WindowTest() {
-        needWindows();
         host = std::make_shared<zkp::ScriptedHost>();
         window = std::make_unique<zkp::app::ReportWindow>(host);
         window->show();
