@@ -4,6 +4,8 @@
 #include "base/texts.h"
 #include "sql/statement_text.h"
 
+#include <utility>
+
 namespace zkp {
 
 namespace {
@@ -21,9 +23,9 @@ constexpr Surroundings kPatterns[] = {
 
 } // namespace
 
-void replaceKey(QString& filter, const QString& key, const QString& physical) {
+bool replaceKey(QString& filter, const QString& key, const QString& physical) {
     if (!filter.contains(key))
-        return;
+        return false;
     if (filter.startsWith(key))
         filter.prepend(u' ');
     for (const Surroundings& around : kPatterns) {
@@ -31,6 +33,7 @@ void replaceKey(QString& filter, const QString& key, const QString& physical) {
         const QLatin1String after(around.after);
         filter.replace(before + key + after, before + physical + after);
     }
+    return true;
 }
 
 void FilterTranslation::TranslateFilter(QString& Tables) {
@@ -43,6 +46,8 @@ void FilterTranslation::TranslateFilter(QString& Tables) {
         ado::Recordset row;
         row.Open(state.clmns, state.Cn, -1, -1, ado::adCmdTable);
         QString filter = startingText();
+        QString capitals; // of the filter, while `isCurrent`; made only for a row that asks
+        bool isCurrent = false;
         const QString master = nameKey(state.MasterTable);
         QString physical;
         for (; !row.Eof(); row.MoveNext()) {
@@ -50,17 +55,22 @@ void FilterTranslation::TranslateFilter(QString& Tables) {
             const QString field = nameKey(textOrEmpty(row.Fields().Item(u"SOURCEFIELDNAME").Value()));
             const QVariant table = row.Fields().Item(u"SourceTableName").Value();
             const QString tableName = nameKey(textOrEmpty(table));
-            if (!field.isEmpty()) {
+            bool replaces = true;
+            if (!field.isEmpty())
                 physical = u'[' + tableName + QStringLiteral("].[") + field + u']';
-                replaceKey(filter, key, physical);
-            } else if (const QString expression = textOrEmpty(row.Fields().Item(u"Expr").Value());
-                       !isBlank(expression)) {
+            else if (const QString expression = textOrEmpty(row.Fields().Item(u"Expr").Value());
+                     !isBlank(expression))
                 physical = u' ' + expression;
-                replaceKey(filter, key, physical);
-            } // else the physical text of the row before stands, as wanted
+            else
+                replaces = false; // the physical text of the row before stands, as wanted
+            if (replaces && replaceKey(filter, key, physical))
+                isCurrent = false;
 
-            if (table.isValid() && tableName != master && nameKey(filter).contains(physical) &&
-                !Tables.contains(u' ' + tableName + u' '))
+            if (!table.isValid() || tableName == master || Tables.contains(u' ' + tableName + u' '))
+                continue;
+            if (!std::exchange(isCurrent, true))
+                capitals = nameKey(filter);
+            if (capitals.contains(physical))
                 Tables += QStringLiteral(", ") + tableName + u' ';
         }
         inputs_.setFilter(filter);

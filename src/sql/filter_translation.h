@@ -24,7 +24,8 @@ private:
     Host& host_;
 };
 
-/// One dictionary row's fourteen replacements of a key by its physical text, in their fixed order.
-void replaceKey(QString& filter, const QString& key, const QString& physical);
+/// One dictionary row's fourteen replacements of a key by its physical text, in their fixed order. False
+/// when the key does not occur at all, and the filter is as it was.
+bool replaceKey(QString& filter, const QString& key, const QString& physical);
 
 } // namespace zkp
