@@ -75,6 +75,12 @@ public:
     Q_INVOKABLE QString TextMatrix(int row, int col) const;
     Q_INVOKABLE void setTextMatrix(int row, int col, const QString& text);
 
+#define ZKP_READ_ONLY(Type, Name)                                                                              \
+    Q_PROPERTY(Type Name READ Name)                                                                            \
+    Type Name() const;
+    ZKP_READ_ONLY_MEMBERS(ZKP_READ_ONLY)
+#undef ZKP_READ_ONLY
+
 #undef ZKP_READ_WRITE
 #undef ZKP_KEYED
 #undef ZKP_WRITE_ONLY
@@ -146,6 +152,12 @@ public:
     Q_INVOKABLE void TranslateFilter(QString& Tables);
     Q_INVOKABLE void LoadIerarxia();
     Q_INVOKABLE void LoadDictionary();
+    /// Opens the report's records; False when there are none to be had.
+    Q_INVOKABLE bool MakeRecordset();
+    /// Opens the records of a detail report; a failure shows its box and leaves none.
+    Q_INVOKABLE zkp::ado::RecordsetPtr OpenDetailRecordset();
+    /// Reads the open records into the rows that the surface has.
+    Q_INVOKABLE void LoadRows();
     Q_INVOKABLE void MakeFixedForGroup();
     Q_INVOKABLE QString ReplaceStringIntoAString(const QString& StrForReplace, const QString& StrSource,
                                                  const QString& StrDest);

@@ -70,6 +70,12 @@ ZKP_PLAIN_MEMBERS(ZKP_SILENT)
     }
 ZKP_IDENTITY_PROPERTIES(ZKP_WRITE_ONLY)
 
+#define ZKP_READ_ONLY(Type, Name)                                                                            \
+    Type ZkpGrid::Name() const {                                                                             \
+        return parts_->state.Name;                                                                           \
+    }
+ZKP_READ_ONLY_MEMBERS(ZKP_READ_ONLY)
+
 #define ZKP_COLUMN(Type, Name, ...)                                                                          \
     Type ZkpGrid::Name(int index) const {                                                                    \
         return parts_->columnProperties.Name(index);                                                         \

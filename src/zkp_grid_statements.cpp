@@ -55,6 +55,21 @@ void ZkpGrid::LoadDictionary() {
     run([&](Parts& p) { p.driver.LoadDictionary(); });
 }
 
+bool ZkpGrid::MakeRecordset() {
+    return run([&](Parts& p) { return p.driver.MakeRecordset(); });
+}
+
+ado::RecordsetPtr ZkpGrid::OpenDetailRecordset() {
+    return run([&](Parts& p) {
+        p.driver.OpenDetailRecordset();
+        return p.source.get();
+    });
+}
+
+void ZkpGrid::LoadRows() {
+    run([&](Parts& p) { p.reader.LoadRows(); });
+}
+
 QString ZkpGrid::ReplaceStringIntoAString(const QString& StrForReplace, const QString& StrSource,
                                           const QString& StrDest) {
     return zkp::ReplaceStringIntoAString(StrForReplace, StrSource, StrDest);

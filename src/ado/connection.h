@@ -26,7 +26,7 @@ public:
     Connection();
     ~Connection();
 
-    /// "sqlite:FILE" opens (never creates) a SQLite file; "sqlite:" with no name an empty one in memory.
+    /// "sqlite:FILE" opens (never creates) a SQLite file; "sqlite:" with no name (or ":memory:") an empty one in memory.
     /// An empty argument takes the property's text.
     void Open(const QString& connectionString = {});
     /// Ends the connection. Recordsets that are open stay readable; they can't be requeried.

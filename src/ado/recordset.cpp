@@ -193,7 +193,7 @@ void Recordset::setFilter(const QString& condition) {
     d->open();
     if (d->edit)
         Update();
-    const QString before = std::exchange(d->filter, isBlank(condition) ? QString() : condition);
+    const QString before = std::exchange(d->filter, isBlank(condition) || trimmed(condition) == u"0" ? QString() : condition);
     try {
         arrange();
     } catch (...) {

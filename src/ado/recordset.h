@@ -65,7 +65,7 @@ public:
     void setCollect(const QString& field, const QVariant& value);
 
     /// Comparisons of fields with numbers, texts in apostrophes or Convert(Datetime,'mm/dd/yyyy',102),
-    /// joined by and, or and brackets; empty shows all records. Goes to the first record left.
+    /// joined by and, or and brackets; empty (or 0, the constant for none) shows all records. Goes to the first record left.
     QString Filter() const;
     void setFilter(const QString& condition);
     /// Field names with ASC or DESC, joined by ","; empty restores the fetched order.

@@ -8,6 +8,8 @@
 #include "load/source_check.h"
 #include "support/utility.h"
 
+#include <utility>
+
 namespace zkp {
 
 namespace {
@@ -35,11 +37,13 @@ void LoadDriver::refresh(ErrorSink sink) {
 
 void LoadDriver::FillGrid() {
     if (loading_) {
-        reader_.breakOff();
+        if (std::exchange(toldOnce_, true))
+            return;
         ShowError(host_, Error(kErrIllegalOperation, QStringLiteral("A load is running already.")));
         return;
     }
     loading_ = true;
+    toldOnce_ = false;
     const ScopeGuard restore([this] {
         loading_ = false;
         surface_.setRedraw(true);
@@ -64,7 +68,7 @@ void LoadDriver::load() {
 
     state_.SavedLeftCol = surface_.LeftCol();
     state_.SavedTopRow = surface_.TopRow();
-    if (!makeRecordset())
+    if (!MakeRecordset())
         return;
     const std::int64_t records = recordCount();
     host_.setPointer(kPointerHourglass);
@@ -86,9 +90,9 @@ void LoadDriver::LoadDictionary() {
     LoadHooks::run(hooks_.FieldListChanged);
 }
 
-bool LoadDriver::makeRecordset() {
+bool LoadDriver::MakeRecordset() {
     if (!state_.TotalForm)
-        openDetailRecordset();
+        OpenDetailRecordset();
     else if (hooks_.OpenTotalRecordset)
         hooks_.OpenTotalRecordset();
     else
@@ -108,7 +112,7 @@ bool LoadDriver::makeRecordset() {
 }
 
 /// A failure here has a box of its own and leaves no record source.
-void LoadDriver::openDetailRecordset() {
+void LoadDriver::OpenDetailRecordset() {
     try {
         LoadHooks::run(hooks_.MakeFixedForGroup);
         if (!state_.ReportRecordset)

@@ -34,16 +34,17 @@ public:
     /// The checked entry. Every failed check goes to the sink in order; then the first is thrown.
     void refresh(ErrorSink sink);
     /// The load itself. A failure ends it with the error box. Called again while it runs (by a handler
-    /// or a pending event), it shows a box and does nothing else.
+    /// or a pending event), it shows one box and does nothing else.
     void FillGrid();
 
     /// Opens the report's dictionary rows, or goes back to the first of them. Nothing without `clmns`.
     void LoadDictionary();
+    /// Opens the records of the report's mode; False when there is no recordset then.
+    bool MakeRecordset();
+    void OpenDetailRecordset();
 
 private:
     void load();
-    bool makeRecordset();
-    void openDetailRecordset();
     void openBySourceType();
     ado::RecordsetPtr openText(const QString& statement, int cursorType);
     void openCommand();
@@ -62,6 +63,7 @@ private:
     Host& host_;
     const LoadHooks& hooks_;
     bool loading_ = false;
+    bool toldOnce_ = false; ///< a load asked for meanwhile has been refused with a box
 };
 
 } // namespace zkp

@@ -20,7 +20,6 @@ void RowReader::LoadRows() {
         surface_.setRedraw(true);
         host_.setPointer(kPointerDefault);
     });
-    brokenOff_ = false;
     try {
         Q_EMIT events_.StartFilling();
         state_.throwIfDestroyed();
@@ -73,9 +72,6 @@ void RowReader::readRecord(const ado::RecordsetPtr& records, double& r) {
     RetrieveRowArgs args{r, records};
     Q_EMIT events_.RetrieveRow(args);
     state_.throwIfDestroyed();
-    if (brokenOff_)
-        throw Error(kErrIllegalOperation, QStringLiteral("A load was asked for while rows are being read."),
-                    QStringLiteral("LoadRows"));
     r = args.rw;
 }
 

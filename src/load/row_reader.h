@@ -31,9 +31,6 @@ public:
     /// `StopFillIng` is raised all the same.
     void LoadRows();
 
-    /// Makes the running loop fail after the record at hand (a handler asked for another load).
-    void breakOff() { brokenOff_ = true; }
-
 private:
     void readRecords(const ado::RecordsetPtr& records);
     void readRecord(const ado::RecordsetPtr& records, double& r);
@@ -53,7 +50,6 @@ private:
     Host& host_;
     const LoadHooks& hooks_;
     std::optional<CellPlan> plan_;
-    bool brokenOff_ = false;
 };
 
 } // namespace zkp

@@ -33,7 +33,8 @@ QString GroupedStatement::GroupedSQL() {
     const QString wanted = wantedColumns();
 
     ado::Recordset& row = *dictionary_.recordset();
-    row.MoveFirst();
+    if (row.RecordCount() > 0)
+        row.MoveFirst();
     if (wanted.contains(QStringLiteral("[POS_CNT]")))
         select += u',' + countPercentage();
     for (; !row.Eof(); row.MoveNext()) {

@@ -104,7 +104,8 @@ QString StatisticsStatement::wantedColumns() {
 QString StatisticsStatement::aggregates(const QString& wanted, QString& tables) {
     QString items;
     ado::Recordset& row = *dictionary_.recordset();
-    row.MoveFirst();
+    if (row.RecordCount() > 0)
+        row.MoveFirst();
     for (; !row.Eof(); row.MoveNext()) {
         const QString stored = textOf(row.Fields().Item(u"dtfld").Value());
         if (inputs_.state.LossRatio && isLossRatioKey(stored))

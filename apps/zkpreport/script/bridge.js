@@ -29,6 +29,15 @@
         return locate(error);
     }
 
+    // The engine words the call of a missing member its own way; the number and the reason stay readable.
+    const missing = /Error: (.* has no member \w+)/;
+    for (const [name, read] of [["number", (found) => found ? kNoSuchMember : undefined],
+                                ["description", (found, error) => found ? found[1] : error.message]])
+        Object.defineProperty(TypeError.prototype, name, {
+            get: function () { return read(missing.exec(this.message), this); },
+            configurable: true,
+        });
+
     function makeGuard(className) {
         function refuse(name) {
             throw makeError(kNoSuchMember, className + " has no member " + String(name), className);

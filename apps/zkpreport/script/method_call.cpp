@@ -23,9 +23,11 @@ Parameter parameterOf(const QMetaMethod& method, int index) {
     return {QMetaType::fromName(name), true};
 }
 
-bool isReferenceBox(const QJSValue& value) {
-    return value.isObject() && !value.hasOwnProperty(QStringLiteral("__zkp")) &&
-           value.hasOwnProperty(QStringLiteral("value"));
+/// An object with a `value`; where a reference is wanted also one that has none yet.
+bool isReferenceBox(const QJSValue& value, bool isReference) {
+    const bool isPlain = value.isObject() && !value.isArray() && !value.isDate() && !value.isCallable() &&
+                         !value.hasOwnProperty(QStringLiteral("__zkp"));
+    return isPlain && (isReference || value.hasOwnProperty(QStringLiteral("value")));
 }
 
 /// One argument on its way: the value in the parameter's own type, at a place of its own.
@@ -76,8 +78,9 @@ Argument argumentOf(const QMetaMethod& method, int index, int required, QJSValue
             argument.value = QVariant(argument.parameter.type);
         return argument;
     }
-    if (argument.parameter.isReference && isReferenceBox(given)) {
-        argument.box = given;
+    if (isReferenceBox(given, argument.parameter.isReference)) {
+        if (argument.parameter.isReference)
+            argument.box = given;
         given = given.property(QStringLiteral("value"));
         // An empty box is a result that has no value yet.
         if (given.isUndefined() && argument.parameter.type != QMetaType::fromType<QVariant>()) {

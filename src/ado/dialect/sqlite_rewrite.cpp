@@ -162,7 +162,10 @@ private:
     }
 
     void collateConstant(std::size_t k) {
-        if (!hasCase(at(k).text) || at(k + 1).isWord(u"collate"))
+        const QStringView text = at(k).text;
+        const bool isClosed =
+            text.size() > 1 && text.endsWith(u'\''); // else the database's words shall show it as it came
+        if (!isClosed || !hasCase(text) || at(k + 1).isWord(u"collate"))
             return;
         std::size_t before = k;
         while (before > 0 && at(before - 1).isSign(u"("))

@@ -33,7 +33,7 @@ Database::~Database() {
 
 void Database::openFile(const QString& file) {
     const QByteArray path = QFileInfo(file).absoluteFilePath().toUtf8();
-    const bool inMemory = file.isEmpty();
+    const bool inMemory = file.isEmpty() || file == QStringLiteral(":memory:");
     if (!inMemory && !QFileInfo::exists(file))
         throw Error(kErrDatabase, QStringLiteral("Unable to open database file '%1': no such file").arg(file),
                     QStringLiteral("SQLite"));

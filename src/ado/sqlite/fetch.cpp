@@ -1,5 +1,7 @@
 #include "ado/sqlite/fetch.h"
 
+#include "ado/sqlite/aggregate_types.h"
+
 namespace zkp::ado::sqlite {
 
 namespace {
@@ -19,6 +21,7 @@ Fetch::Fetch(std::shared_ptr<Database> database, Statement& statement, Deadline 
     const Turn turn(*database_);
     for (int column = 0; column < statement.columnCount(); ++column)
         declared_.push_back(declaredType(sqlite3_column_decltype(statement.handle(), column)));
+    declareAggregates(database_->handle(), sqlite3_sql(statement.handle()), declared_);
 }
 
 Fetch::~Fetch() {
