@@ -61,10 +61,10 @@ TEST_F(BadFilterTest, OpenBracketsAreRefused) {
 
 TEST_F(BadFilterTest, AConstantOfAHundredKilobytesIsAsGoodAsAnother) {
     const QString filter = u"branch<>'"_s + QString(100'000, u'Ω') + u'\'';
-    const auto expected = byHand("SELECT count(*) FROM POLICIESDATA WHERE BRANCH <> 'Ω'");
+    const auto expected = madeDatabase().number("SELECT count(*) FROM POLICIESDATA WHERE BRANCH <> 'Ω'");
     for (const bool runTime : {false, true}) {
         load(report(false, runTime, filter), {u"POLICYNO"_s});
-        EXPECT_EQ(QString::number(recordset()->RecordCount() * 10'000).toStdString(), expected[0][0]);
+        EXPECT_EQ(recordset()->RecordCount(), expected);
         load(report(true, runTime, filter), {u"BRANCH"_s});
     }
     expectAllIsWell();

@@ -41,7 +41,7 @@ TEST_F(DictionaryLoadTest, TheFourLoadsPickTheToldRows) {
         const std::string sent = connection->LastStatementSent().toStdString();
         Rows keys = byHand(sent);
         for (auto& row : keys)
-            row.resize(1);
+            row.erase(row.begin() + 1, row.end());
         EXPECT_EQ(sorted(keys), dictionaryRows(each.condition)) << sent;
     }
 }
@@ -54,7 +54,7 @@ TEST_F(DictionaryLoadTest, AnEmptyReportAsksInTheOtherDialectForTheSameRows) {
         const std::string sent = connection->LastStatementSent().toStdString();
         Rows keys = byHand(sent);
         for (auto& row : keys)
-            row.resize(1);
+            row.erase(row.begin() + 1, row.end());
         EXPECT_EQ(sorted(keys), dictionaryRows(totals ? kAggregated : "1 = 1")) << sent;
     }
 }

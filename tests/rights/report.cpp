@@ -5,6 +5,7 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace zkp::rights {
 
@@ -15,15 +16,6 @@ namespace {
 bool isAggregate(const QString& column) {
     static const QStringList prefixes{u"SUM_"_s, u"AVG_"_s, u"MIN_"_s, u"MAX_"_s, u"POS_"_s};
     return prefixes.contains(column.left(4));
-}
-
-/// Sums of the same figures may differ in their last bits, by the order in which they were added.
-QString comparable(const QString& text) {
-    bool isNumber = false;
-    const double number = text.toDouble(&isNumber);
-    if (isNumber)
-        return QString::number(qRound64(number * 10'000));
-    return text.endsWith(u" 00:00:00"_s) ? text.chopped(9) : text;
 }
 
 QString plainText(const QVariant& value) {
@@ -44,6 +36,24 @@ QString plainText(const QVariant& value) {
 }
 
 } // namespace
+
+Cell::Cell(const QString& given) {
+    bool isNumber = false;
+    const double value = given.toDouble(&isNumber);
+    if (isNumber)
+        number = qRound64(value * 10'000);
+    const bool atMidnight = given.endsWith(u" 00:00:00"_s);
+    text = (isNumber ? QString::number(*number) : atMidnight ? given.chopped(9) : given).toStdString();
+}
+
+bool Cell::operator==(const Cell& other) const {
+    return number && other.number ? std::abs(*number - *other.number) <= 1 : text == other.text;
+}
+
+void PrintTo(const Cell& cell, std::ostream* out) {
+    *out << (cell.number ? QString::number(static_cast<double>(*cell.number) / 10'000).toStdString()
+                         : cell.text);
+}
 
 void setUp(ZkpGrid& grid, const Report& report) {
     const QStringList all = report.factors + report.columns;
@@ -72,7 +82,7 @@ Rows rowsOf(const ado::RecordsetPtr& records, const QStringList& fields) {
     for (records->MoveFirst(); !records->Eof(); records->MoveNext()) {
         auto& row = rows.emplace_back();
         for (const QString& field : fields)
-            row.push_back(comparable(plainText(records->Fields().Item(field).Value())).toStdString());
+            row.emplace_back(plainText(records->Fields().Item(field).Value()));
     }
     return rows;
 }
@@ -82,10 +92,12 @@ Rows byHand(const std::string& statement) {
 }
 
 Rows byHand(const demo::test::Reader& database, const std::string& statement) {
-    Rows rows = database.rows(statement);
-    for (auto& row : rows)
-        for (auto& cell : row)
-            cell = comparable(QString::fromStdString(cell)).toStdString();
+    Rows rows;
+    for (const auto& given : database.rows(statement)) {
+        auto& row = rows.emplace_back();
+        for (const std::string& text : given)
+            row.emplace_back(QString::fromStdString(text));
+    }
     return rows;
 }
 

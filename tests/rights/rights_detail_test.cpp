@@ -135,7 +135,7 @@ TEST_F(RightsDetailTest, TheSurfaceShowsTheRowsThatCameBack) {
             load(report, {u"POLICYNO"_s}, &user);
             Rows shown;
             for (int row = 1; row < grid->Rows(); ++row)
-                shown.push_back({grid->TextMatrix(row, 0).toStdString()});
+                shown.push_back({Cell(grid->TextMatrix(row, 0))});
             EXPECT_EQ(sorted(shown),
                       sorted(byHand("SELECT POLICYNO FROM POLICIESDATA WHERE " + rightsOf(user))))
                 << user.id;

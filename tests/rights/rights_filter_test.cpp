@@ -27,7 +27,7 @@ protected:
             return static_cast<long long>(rows.size());
         long long policies = 0;
         for (const auto& row : rows)
-            policies += std::stoll(row.at(0)) / 10'000;
+            policies += row.at(0).number.value_or(0) / 10'000;
         return policies;
     }
     static long long allowed(const User& user) {
