@@ -52,7 +52,6 @@ void Database::prepareHandle() {
     registerTextCollation(handle_);
     // Reads the file's head: what is no database shows itself here and not in the first statement.
     execute("SELECT count(*) FROM sqlite_schema");
-    execute("PRAGMA threads=1"); // the sorter's second thread
     if (readOnly_)
         installReadOnlyGuard(handle_);
 }

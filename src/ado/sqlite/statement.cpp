@@ -32,6 +32,9 @@ Statement::Statement(std::shared_ptr<Database> database, const QString& sql, Dea
     : database_(std::move(database)) {
     const QByteArray text = sql.toUtf8();
     const Turn turn(*database_, deadline);
+    // The sorter's second thread helps a long sort and hinders the sorting of groups.
+    const bool groups = sql.contains(QStringLiteral("group by"), Qt::CaseInsensitive);
+    sqlite3_limit(database_->handle(), SQLITE_LIMIT_WORKER_THREADS, groups ? 0 : 1);
     const char* tail = nullptr;
     const int code = sqlite3_prepare_v2(database_->handle(), text.constData(), -1, &handle_, &tail);
     if (code != SQLITE_OK)
