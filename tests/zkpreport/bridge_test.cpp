@@ -42,7 +42,8 @@ TEST_F(BridgeTest, AnEmptyBoxIsAResultWithoutAValueYet) {
 
 TEST_F(BridgeTest, AReferenceParameterMindsTheKind) {
     EXPECT_EQ(errorNumber("sample.twice({value: 'x'})"), 13);
-    EXPECT_EQ(errorNumber("sample.twice({})"), 13);
+    EXPECT_EQ(errorNumber("sample.twice([])"), 13);
+    EXPECT_EQ(eval("var box = {}; sample.twice(box); box.value"), QStringLiteral("0")) << "a result without a value yet";
 }
 
 TEST_F(BridgeTest, LeftOutArgumentsTakeTheirDeclaredDefault) {

@@ -23,7 +23,7 @@ TEST_F(WindowTest, ColumnsComeFromTheDictionary) {
     EXPECT_EQ(grid().Cols(), 10);
     EXPECT_EQ(grid().ColDataField(0), QStringLiteral("POLICYNO"));
     EXPECT_EQ(grid().ColCaption(0), QStringLiteral("Αρ. Συμβολαίου"));
-    EXPECT_EQ(grid().ColWidth(0), 1350);
+    EXPECT_EQ(grid().ColWidth(0), 1600);
     EXPECT_TRUE(captions().contains(QStringLiteral("Μικτά Ασφάλιστρα")));
     const auto premium = static_cast<int>(captions().indexOf(QStringLiteral("Μικτά Ασφάλιστρα")));
     EXPECT_EQ(grid().Columns().ofGridColumn(premium).Alignment, 7) << "right";
