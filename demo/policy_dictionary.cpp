@@ -30,7 +30,7 @@ constexpr Field kFields[] = {
     {"STATUS", "Κατάσταση", 1050, kLeft, kGroup, "POLICIES", "Status"},
     {"PAYWAY", "Τρόπος Πληρωμής", 1800, kLeft, kGroup, "POLICIES", "PayWay"},
     {"INSTALMENTS", "Δόσεις", 750, kRight, kGroup | kAvg | kMin | kMax, "POLICIES", "Instalments"},
-    {"RENEWALS", "Ανανεώσεις", 900, kRight, kAmount, "POLICIES", "Renewals"},
+    {"RENEWALS", "Ανανεώσεις", 1100, kRight, kAmount, "POLICIES", "Renewals"},
     {"ISPAID", "Εξοφλημένο", 900, kCentre, kGroup, "POLICIES", "IsPaid"},
     {"RATE", "Συντελεστής", 900, kRight, kAvg | kMin | kMax, "POLICIES", "Rate"},
     {"PREMIUM", "Μικτά Ασφάλιστρα", 1700, kRight, kAmount, "POLICIES", "PREMIUM"},
