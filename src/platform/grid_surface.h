@@ -39,6 +39,9 @@ struct SurfaceMouse {
     int col = -1;
 };
 
+/// Compares two rows of a custom sort: negative, 0 or positive.
+using RowCompare = std::function<int(int row1, int row2)>;
+
 /// What a surface tells its owner (the control). Each may be empty. They run on the caller's stack;
 /// one of them may destroy the surface's owner, which must then keep the surface alive itself.
 struct SurfaceNotifications {
@@ -56,8 +59,9 @@ struct SurfaceNotifications {
     std::function<void(int col)> columnResized;
     /// A heading was dropped; false refuses, true lets the surface move the column.
     std::function<bool(int from, int to)> headingDropped;
-    /// Custom sort: negative, 0 or positive for two rows.
-    std::function<int(int row1, int row2)> compare;
+    /// A custom sort of these rows begins: gives what compares them until it has ended. With nothing
+    /// given the rows stay as they are.
+    std::function<RowCompare(int firstRow, int lastRow)> compare;
 };
 
 /// What a view wants to hear. Called at every change unless `Redraw` is off; when it comes back on,

@@ -3,6 +3,7 @@
 #include "platform/grid_surface.h"
 #include "platform/own_texts.h"
 #include "platform/row_sequence.h"
+#include "platform/row_sort.h"
 #include "platform/row_table.h"
 #include "platform/style_layers.h"
 #include "platform/surface_columns.h"
@@ -76,7 +77,15 @@ struct GridSurface::Data {
     QString cellText(int row, int col) const;
     /// The number that the cell's text is in the locale.
     std::optional<double> cellNumber(int row, int col) const;
-    std::vector<double> sortKeys(int code, int top, int count, int col) const;
+    /// Visits consecutive rows that have an id with f(record, binding); no binding where the cell shows
+    /// nothing of a record.
+    template <class F>
+    void forEachCell(int top, int count, int col, F f) const;
+    SortKeys columnNumbers(int top, int count, int col) const;
+    DistinctTexts columnTexts(int top, int count, int col) const;
+    SortKeys sortKeys(int code, int top, int count, int col) const;
+    std::vector<int> customOrder(const CellRange& block);
+    void putInOrder(int top, const std::vector<int>& sorted);
     void writeText(int row, int col, const QString& text);
     void applyPiece(const StylePiece& piece, const StylePatch& patch);
     CellRange filledBlock() const;

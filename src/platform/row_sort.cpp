@@ -1,9 +1,9 @@
 #include "platform/row_sort.h"
 
 #include "base/text.h"
+#include "platform/radix_sort.h"
 
 #include <QCollator>
-#include <QHash>
 
 #include <algorithm>
 #include <numeric>
@@ -16,29 +16,6 @@ std::vector<int> inOrder(int count) {
     std::vector<int> rows(static_cast<std::size_t>(count));
     std::iota(rows.begin(), rows.end(), 0);
     return rows;
-}
-
-/// Which texts there are, each once, and which of them each row has.
-struct DistinctTexts {
-    std::vector<QString> texts;
-    std::vector<int> ofRow;
-};
-
-DistinctTexts distinctTexts(int count, const TextOfRow& text) {
-    DistinctTexts result;
-    QHash<QString, int> numbers;
-    for (int i = 0; i < count; ++i) {
-        const QString cell = text(i);
-        const auto known = numbers.constFind(cell);
-        int number = known == numbers.cend() ? -1 : *known;
-        if (number < 0) {
-            number = static_cast<int>(result.texts.size());
-            numbers.insert(cell, number);
-            result.texts.push_back(cell);
-        }
-        result.ofRow.push_back(number);
-    }
-    return result;
 }
 
 /// The place of each text in the locale's order.
@@ -65,6 +42,24 @@ std::vector<int> places(const std::vector<QString>& texts, const ReportLocale& l
 
 } // namespace
 
+int DistinctTexts::numberOf(const QString& text) {
+    const auto known = numbers_.constFind(text);
+    if (known != numbers_.cend())
+        return *known;
+    const int number = static_cast<int>(texts.size());
+    numbers_.insert(text, number);
+    texts.push_back(text);
+    return number;
+}
+
+DistinctTexts distinctTexts(int count, const TextOfRow& text) {
+    DistinctTexts result;
+    result.ofRow.reserve(static_cast<std::size_t>(count));
+    for (int i = 0; i < count; ++i)
+        result.ofRow.push_back(result.numberOf(text(i)));
+    return result;
+}
+
 SortKeys numberKeys(int count, const NumberOfRow& number) {
     SortKeys keys(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
@@ -72,42 +67,31 @@ SortKeys numberKeys(int count, const NumberOfRow& number) {
     return keys;
 }
 
-SortKeys textKeys(int count, const TextOfRow& text, const ReportLocale& locale, bool matchCase) {
-    const DistinctTexts distinct = distinctTexts(count, text);
-    const std::vector<int> place = places(distinct.texts, locale, matchCase);
+std::optional<SortKeys> numberKeysOfAll(int count, const NumberOfRow& number, const TextOfRow& text) {
     SortKeys keys;
     keys.reserve(static_cast<std::size_t>(count));
-    for (const int number : distinct.ofRow)
+    for (int i = 0; i < count; ++i) {
+        const std::optional<double> key = number(i);
+        if (!key && !isBlank(text(i)))
+            return std::nullopt;
+        keys.push_back(key.value_or(0));
+    }
+    return keys;
+}
+
+SortKeys textKeys(const DistinctTexts& texts, const ReportLocale& locale, bool matchCase) {
+    const std::vector<int> place = places(texts.texts, locale, matchCase);
+    SortKeys keys;
+    keys.reserve(texts.ofRow.size());
+    for (const int number : texts.ofRow)
         keys.push_back(place[static_cast<std::size_t>(number)]);
     return keys;
 }
 
-SortKeys genericKeys(int count, const TextOfRow& text, const NumberOfRow& number,
-                     const ReportLocale& locale) {
-    for (int i = 0; i < count; ++i)
-        if (!number(i) && !isBlank(text(i)))
-            return textKeys(count, text, locale, false);
-    return numberKeys(count, number);
-}
-
-// From the least to the weightiest list, each time stable; keys lie beside their rows so that a
-// comparison looks at nothing else.
 std::vector<int> orderByKeys(int count, const std::vector<SortKeys>& keys, bool descending) {
-    struct Keyed {
-        double key;
-        int row;
-    };
     std::vector<int> rows = inOrder(count);
-    std::vector<Keyed> keyed(rows.size());
-    for (auto list = keys.rbegin(); list != keys.rend(); ++list) {
-        for (std::size_t i = 0; i < rows.size(); ++i)
-            keyed[i] = {(*list)[static_cast<std::size_t>(rows[i])], rows[i]};
-        if (descending)
-            std::stable_sort(keyed.begin(), keyed.end(), [](Keyed a, Keyed b) { return b.key < a.key; });
-        else
-            std::stable_sort(keyed.begin(), keyed.end(), [](Keyed a, Keyed b) { return a.key < b.key; });
-        std::transform(keyed.begin(), keyed.end(), rows.begin(), [](Keyed k) { return k.row; });
-    }
+    for (auto list = keys.rbegin(); list != keys.rend(); ++list)
+        sortByKey(rows, *list, descending);
     return rows;
 }
 

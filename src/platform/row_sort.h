@@ -2,6 +2,7 @@
 
 #include "base/report_locale.h"
 
+#include <QHash>
 #include <QString>
 
 #include <functional>
@@ -17,12 +18,27 @@ using NumberOfRow = std::function<std::optional<double>(int)>;
 /// One number per row that takes part: rows sort as their keys do.
 using SortKeys = std::vector<double>;
 
+/// Which texts the rows have, and which of them each row has, so that what is known of a text is worked
+/// out once and not for every row.
+struct DistinctTexts {
+    std::vector<QString> texts;
+    std::vector<int> ofRow;
+
+    /// The number of a text; the same text has the same number.
+    int numberOf(const QString& text);
+
+private:
+    QHash<QString, int> numbers_;
+};
+
+DistinctTexts distinctTexts(int count, const TextOfRow& text);
+
 /// The number of each row; 0 where there is none.
 SortKeys numberKeys(int count, const NumberOfRow& number);
-/// The place of each text in the locale's order of texts; texts that the order holds equal share one.
-SortKeys textKeys(int count, const TextOfRow& text, const ReportLocale& locale, bool matchCase);
-/// Numbers when every text that isn't blank is one; else texts without case.
-SortKeys genericKeys(int count, const TextOfRow& text, const NumberOfRow& number, const ReportLocale& locale);
+/// The same, when every row has a number or a blank text; else nothing.
+std::optional<SortKeys> numberKeysOfAll(int count, const NumberOfRow& number, const TextOfRow& text);
+/// The place of each row's text in the locale's order of texts; texts that the order holds equal share one.
+SortKeys textKeys(const DistinctTexts& texts, const ReportLocale& locale, bool matchCase);
 
 /// The rows 0 to count - 1 in the order of their keys, the first list of keys weighing most. Rows
 /// with equal keys keep their order, whichever way it goes.

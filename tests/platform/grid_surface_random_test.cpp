@@ -292,8 +292,8 @@ private:
         const auto [top, count] = selectBodyRows(anyCol());
         if (count == 0)
             return;
-        surface_.notifications.compare = [this](int a, int b) {
-            return surface_.RowData(a) - surface_.RowData(b);
+        surface_.notifications.compare = [this](int, int) {
+            return [this](int a, int b) { return surface_.RowData(a) - surface_.RowData(b); };
         };
         surface_.setSort(kSortCustom);
         reorderModel(top, count, [this](int a, int b) { return model_.tag(a) < model_.tag(b); });

@@ -33,6 +33,10 @@ struct Sorted {
         return texts.join(u'|');
     }
 
+    void compareBy(const RowCompare& compare) {
+        surface.notifications.compare = [compare](int, int) { return compare; };
+    }
+
     QString by(int code) {
         surface.setSort(code);
         EXPECT_EQ(surface.inconsistency(), QString());
@@ -124,9 +128,9 @@ TEST(SurfaceSort, TrailingBlankRowsTakePart) {
 
 TEST(SurfaceSort, TheCustomComparisonDecides) {
     Sorted s({"bb", "a", "dddd", "ccc"});
-    s.surface.notifications.compare = [&](int row1, int row2) {
+    s.compareBy([&](int row1, int row2) {
         return static_cast<int>(s.surface.TextMatrix(row2, 0).size() - s.surface.TextMatrix(row1, 0).size());
-    };
+    });
     EXPECT_EQ(s.by(kSortCustom), u("dddd|ccc|bb|a"));
 }
 
@@ -134,9 +138,29 @@ TEST(SurfaceSort, WithNoComparisonTheCustomSortLeavesAllAsItIs) {
     EXPECT_EQ(Sorted({"b", "a"}).by(kSortCustom), u("b|a"));
 }
 
+TEST(SurfaceSort, TheComparisonIsMadeOnceForTheRowsOfASort) {
+    Sorted s({"d", "c", "b", "a"});
+    s.surface.Select(1, 0, 3, 0);
+    QStringList asked;
+    s.surface.notifications.compare = [&](int first, int last) -> RowCompare {
+        asked << QStringLiteral("%1-%2").arg(first).arg(last);
+        return [&](int row1, int row2) {
+            return s.surface.TextMatrix(row1, 0).compare(s.surface.TextMatrix(row2, 0));
+        };
+    };
+    EXPECT_EQ(s.by(kSortCustom), u("b|c|d|a"));
+    EXPECT_EQ(asked.join(u'|'), u("1-3"));
+}
+
+TEST(SurfaceSort, AComparisonThatIsNoneLeavesAllAsItIs) {
+    Sorted s({"b", "a"});
+    s.compareBy({});
+    EXPECT_EQ(s.by(kSortCustom), u("b|a"));
+}
+
 TEST(SurfaceSort, AComparisonThatThrowsLeavesTheRowsAsTheyWere) {
     Sorted s({"b", "a", "c"});
-    s.surface.notifications.compare = [](int, int) -> int { throw std::runtime_error("no"); };
+    s.compareBy([](int, int) -> int { throw std::runtime_error("no"); });
     EXPECT_THROW(s.surface.setSort(kSortCustom), std::runtime_error);
     EXPECT_EQ(s.rows(), u("b|a|c"));
     EXPECT_EQ(s.by(kSortTextUp), u("a|b|c")) << "and the next sort works";
@@ -145,7 +169,7 @@ TEST(SurfaceSort, AComparisonThatThrowsLeavesTheRowsAsTheyWere) {
 TEST(SurfaceSort, AComparisonThatContradictsItselfLosesNoRow) {
     Sorted s({"a", "b", "c", "d", "e", "f", "g"});
     std::mt19937 random(5);
-    s.surface.notifications.compare = [&](int, int) { return static_cast<int>(random() % 3) - 1; };
+    s.compareBy([&](int, int) { return static_cast<int>(random() % 3) - 1; });
     for (int i = 0; i < 50; ++i) {
         QStringList rows = s.by(kSortCustom).split(u'|');
         rows.sort();
@@ -155,11 +179,11 @@ TEST(SurfaceSort, AComparisonThatContradictsItselfLosesNoRow) {
 
 TEST(SurfaceSort, AComparisonThatRemovesRowsEndsWithoutAnOrder) {
     Sorted s({"d", "c", "b", "a"});
-    s.surface.notifications.compare = [&](int, int) {
+    s.compareBy([&](int, int) {
         if (s.surface.Rows() > 2)
             s.surface.RemoveItem(1);
         return 1;
-    };
+    });
     s.surface.setSort(kSortCustom);
     EXPECT_EQ(s.surface.inconsistency(), QString());
     EXPECT_EQ(s.rows(), u("a"));
@@ -167,9 +191,9 @@ TEST(SurfaceSort, AComparisonThatRemovesRowsEndsWithoutAnOrder) {
 
 TEST(SurfaceSort, AComparisonThatSortsIsNotFollowed) {
     Sorted s({"b", "a", "c"});
-    s.surface.notifications.compare = [&](int row1, int row2) {
+    s.compareBy([&](int row1, int row2) {
         s.surface.setSort(kSortCustom);
         return s.surface.TextMatrix(row1, 0).compare(s.surface.TextMatrix(row2, 0));
-    };
+    });
     EXPECT_EQ(s.by(kSortCustom), u("a|b|c"));
 }

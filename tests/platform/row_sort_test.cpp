@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <limits>
+#include <numeric>
 #include <random>
 #include <stdexcept>
 
@@ -56,25 +58,65 @@ TEST(RowSort, TheFirstKeyWeighsMost) {
 
 TEST(RowSort, TextsSortAsTheLocaleHasThem) {
     const TextOfRow names = texts({u("Ωμέγα"), u("Άλφα"), u("Βήτα"), u("Αβγό")});
-    const SortKeys keys = textKeys(4, names, greek(), true);
+    const SortKeys keys = textKeys(distinctTexts(4, names), greek(), true);
     EXPECT_EQ(orderByKeys(4, {keys}, false), (Order{3, 1, 2, 0})) << "an accent weighs less than a letter";
 }
 
 TEST(RowSort, WithoutCaseTextsThatDifferInCaseShareAPlace) {
-    const TextOfRow names = texts({u("beta"), u("ALPHA"), u("alpha")});
-    const SortKeys blind = textKeys(3, names, greek(), false);
+    const DistinctTexts names = distinctTexts(3, texts({u("beta"), u("ALPHA"), u("alpha")}));
+    const SortKeys blind = textKeys(names, greek(), false);
     EXPECT_EQ(blind[1], blind[2]);
-    const SortKeys cased = textKeys(3, names, greek(), true);
+    const SortKeys cased = textKeys(names, greek(), true);
     EXPECT_NE(cased[1], cased[2]);
 }
 
-TEST(RowSort, GenericIsNumericWhenEveryTextIsANumberOrBlank) {
+TEST(RowSort, AllRowsHaveNumbersWhenEveryTextIsANumberOrBlank) {
     const auto keys = [](std::vector<QString> values) {
-        return genericKeys(static_cast<int>(values.size()), texts(values), numbers(values), greek());
+        return numberKeysOfAll(static_cast<int>(values.size()), numbers(values), texts(values));
     };
     EXPECT_EQ(keys({u("10"), u(" "), u("9")}), (SortKeys{10, 0, 9}));
-    const SortKeys asTexts = keys({u("10"), u("x"), u("9")});
-    EXPECT_LT(asTexts[0], asTexts[2]) << "\"10\" stands before \"9\" as a text";
+    EXPECT_EQ(keys({u("10"), u("x"), u("9")}), std::nullopt);
+    EXPECT_EQ(keys({}), SortKeys{});
+}
+
+TEST(RowSort, EachTextStandsOnceAmongTheDistinctTexts) {
+    const DistinctTexts distinct = distinctTexts(4, texts({u("b"), u("a"), u("b"), u("")}));
+    EXPECT_EQ(distinct.texts, (std::vector<QString>{u("b"), u("a"), u("")}));
+    EXPECT_EQ(distinct.ofRow, (std::vector<int>{0, 1, 0, 2}));
+}
+
+TEST(RowSort, KeysOfEverySizeSortAsTheNumbersTheyAre) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    const SortKeys keys{0.1,  kInfinity, -0.0,  1e300, -2.5, 5e-324, -kInfinity,
+                        -1e9, 0.0,       1e-10, -2.5,  3,    -1e300, 9007199254740993.0};
+    const Order up{6, 12, 7, 4, 10, 2, 8, 5, 9, 0, 11, 13, 3, 1};
+    EXPECT_EQ(orderByKeys(14, {keys}, false), up);
+    const Order down{1, 3, 13, 11, 0, 9, 5, 2, 8, 4, 10, 7, 12, 6};
+    EXPECT_EQ(orderByKeys(14, {keys}, true), down) << "equal keys keep their order";
+}
+
+TEST(RowSort, AmountsSortToTheLastTenThousandth) {
+    const SortKeys keys{1234.5678, -0.0001, 1234.5679, 0, -1234.5, 99999999999.9999};
+    EXPECT_EQ(orderByKeys(6, {keys}, false), (Order{4, 1, 3, 0, 2, 5}));
+}
+
+TEST(RowSort, ManyKeysSortAsAStableSortHasThem) {
+    std::mt19937_64 random(11);
+    for (const double unit : {1.0, 0.01, 0.0001, 1e-7, 1e12}) {
+        SortKeys keys(5000);
+        for (double& key : keys)
+            key = (static_cast<double>(random() % 40'001) - 20'000) * unit;
+        for (const bool descending : {false, true}) {
+            Order expected(keys.size());
+            std::iota(expected.begin(), expected.end(), 0);
+            std::stable_sort(expected.begin(), expected.end(), [&](int a, int b) {
+                const double keyA = keys[static_cast<std::size_t>(a)];
+                const double keyB = keys[static_cast<std::size_t>(b)];
+                return descending ? keyA > keyB : keyA < keyB;
+            });
+            EXPECT_EQ(orderByKeys(5000, {keys}, descending), expected);
+        }
+    }
 }
 
 TEST(RowSort, ACustomComparisonIsFollowedAndStable) {
