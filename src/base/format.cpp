@@ -86,6 +86,18 @@ QString formatNumber(std::int64_t value, NumberFormat format, const ReportLocale
     return assemble(value < 0, digits, format, locale);
 }
 
+QString formatNumber(const Decimal& value, NumberFormat format, const ReportLocale& locale) {
+    const auto units = value.units();
+    if (!units)
+        return formatNumber(value.toDouble(), format, locale);
+    Decimal::Int unit = 1;
+    for (int i = decimalsOf(format); i < Decimal::kDecimals; ++i)
+        unit *= 10;
+    const Decimal::Int magnitude = ((*units < 0 ? -*units : *units) + unit / 2) / unit;
+    return assemble(*units < 0, digitsOf(magnitude, static_cast<std::size_t>(decimalsOf(format)) + 1), format,
+                    locale);
+}
+
 QString formatNumber(double value, NumberFormat format, const ReportLocale& locale) {
     if (!std::isfinite(value))
         return std::isnan(value) ? QStringLiteral("NaN")

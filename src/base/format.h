@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/currency.h"
+#include "base/decimal.h"
 #include "base/report_locale.h"
 
 #include <QString>
@@ -22,5 +23,6 @@ enum class NumberFormat : std::uint8_t {
 QString formatNumber(double value, NumberFormat format, const ReportLocale& locale);
 QString formatNumber(Currency value, NumberFormat format, const ReportLocale& locale);
 QString formatNumber(std::int64_t value, NumberFormat format, const ReportLocale& locale);
+QString formatNumber(const Decimal& value, NumberFormat format, const ReportLocale& locale);
 
 } // namespace zkp

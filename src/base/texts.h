@@ -23,6 +23,14 @@ inline QString missingFieldSuffix() {
     return QStringLiteral("# (Λάθος)");
 }
 
+inline QString subtotalsFailed() {
+    return QStringLiteral("Δεν μπορώ να υπολογίσω τα υποσύνολα");
+}
+/// The blank at its end is wanted.
+inline QString percentFailed() {
+    return QStringLiteral("Δεν μπορώ να υπολογίσω το ποσοστό ");
+}
+
 inline QString connectionNotSet() {
     return QStringLiteral("The Property Cn Hasn't Been set!");
 }
@@ -31,6 +39,10 @@ inline QString recordSourceNotSet() {
 }
 inline QString commandNotSet() {
     return QStringLiteral("The Property RecordSource As ADODB.Command Hasn't Been set!");
+}
+/// Stands in the group factor cells of detail rows that have no text of their own.
+inline QString repeatedValue() {
+    return QStringLiteral("----");
 }
 inline QString hitBottom() {
     return QStringLiteral("HitBottom");
