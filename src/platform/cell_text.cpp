@@ -67,6 +67,18 @@ QString formatted(const Column& column, std::size_t record, NumberFormat format,
     return {};
 }
 
+/// The amount as its format shows it: half away from zero.
+Currency roundedAmount(Currency amount, CellFormat format) {
+    if (format == CellFormat::OwnText)
+        return amount;
+    const std::int64_t unit = format == CellFormat::Grouped2 ? 100 : Currency::kScale;
+    const std::int64_t rest = amount.scaled % unit; // has the sign of the amount
+    const std::int64_t away = rest >= unit / 2 ? 1 : rest <= -(unit / 2) ? -1 : 0;
+    std::int64_t rounded = 0;
+    const bool fits = !__builtin_mul_overflow(amount.scaled / unit + away, unit, &rounded);
+    return Currency{fits ? rounded : amount.scaled};
+}
+
 } // namespace
 
 QString boundText(const CellBinding& binding, std::size_t record, const ReportLocale& locale) {
@@ -85,21 +97,50 @@ QString boundText(const CellBinding& binding, std::size_t record, const ReportLo
     return {};
 }
 
+std::optional<Currency> boundAmount(const CellBinding& binding, std::size_t record) {
+    if (!binding.column || binding.format == CellFormat::Blank || record >= binding.column->size())
+        return std::nullopt;
+    switch (binding.column->kind(record)) {
+    case ValueKind::Amount:
+        return roundedAmount(binding.column->amount(record), binding.format);
+    case ValueKind::Integer: {
+        std::int64_t scaled = 0;
+        if (__builtin_mul_overflow(binding.column->integer(record), Currency::kScale, &scaled))
+            return std::nullopt;
+        return Currency{scaled};
+    }
+    case ValueKind::Null:
+        return binding.format == CellFormat::OwnText ? std::nullopt : std::optional(Currency{});
+    default:
+        return std::nullopt;
+    }
+}
+
+bool isBoundBlank(const CellBinding& binding, std::size_t record) {
+    if (!binding.column || binding.format == CellFormat::Blank || record >= binding.column->size())
+        return true;
+    switch (binding.column->kind(record)) {
+    case ValueKind::Null:
+        return binding.format == CellFormat::OwnText;
+    case ValueKind::Text:
+    case ValueKind::Binary:
+        return binding.column->bytes(record).find_first_not_of(' ') == std::string_view::npos;
+    default:
+        return false;
+    }
+}
+
 std::optional<double> boundNumber(const CellBinding& binding, std::size_t record) {
     if (!binding.column || binding.format == CellFormat::Blank || record >= binding.column->size())
         return std::nullopt;
-    const ValueKind kind = binding.column->kind(record);
-    if (kind == ValueKind::Integer)
+    switch (binding.column->kind(record)) {
+    case ValueKind::Integer:
         return static_cast<double>(binding.column->integer(record));
-    if (kind != ValueKind::Amount)
+    case ValueKind::Amount:
+        return roundedAmount(binding.column->amount(record), binding.format).toDouble();
+    default:
         return std::nullopt;
-    const std::int64_t scaled = binding.column->amount(record).scaled;
-    if (binding.format == CellFormat::OwnText)
-        return static_cast<double>(scaled) / Currency::kScale;
-    const std::int64_t unit = binding.format == CellFormat::Grouped2 ? 100 : Currency::kScale;
-    const std::int64_t rest = scaled % unit; // has the sign of the amount
-    const std::int64_t away = rest >= unit / 2 ? 1 : rest <= -(unit / 2) ? -1 : 0;
-    return static_cast<double>(scaled / unit + away) / static_cast<double>(Currency::kScale / unit);
+    }
 }
 
 } // namespace zkp

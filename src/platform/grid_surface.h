@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/decimal.h"
 #include "base/report_locale.h"
 #include "platform/cell_binding.h"
 #include "platform/cell_range.h"
@@ -11,6 +12,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace zkp {
@@ -55,7 +57,9 @@ struct SurfaceNotifications {
     std::function<void(int& ascii)> keyPress;
     std::function<void()> currentCellChanged; ///< `Row` or `Col` moved
     std::function<void()> selectionChanged;   ///< the selected range moved
+    std::function<void()> selectedAgain;      ///< a user chose the cell that was current already
     std::function<void()> scrolled;           ///< `TopRow` or `LeftCol` moved
+    std::function<void()> visibleRowsGrew;    ///< more rows show, with `TopRow` where it was
     std::function<void(int col)> columnResized;
     /// A heading was dropped; false refuses, true lets the surface move the column.
     std::function<bool(int from, int to)> headingDropped;
@@ -118,6 +122,11 @@ public:
     // --- Cells.
     QString TextMatrix(int row, int col) const;
     void setTextMatrix(int row, int col, const QString& text);
+    /// The number that the cell's text is in the locale, exactly; nothing when it is none. Of most bound
+    /// cells it is told without making the text.
+    std::optional<Decimal> shownNumber(int row, int col) const;
+    /// True when no cell of the row shows anything but blanks; makes no text of bound cells.
+    bool IsRowBlank(int row) const;
     /// By the flat index row × Cols + col.
     QString TextArray(int index) const;
     void setTextArray(int index, const QString& text);
@@ -191,7 +200,8 @@ public:
     /// The last row shown, wholly or partly.
     int BottomRow() const;
     bool RowIsVisible(int row) const;
-    /// How many body rows fit; a view sets it. 0 (no view) counts all rows as visible.
+    /// How many body rows fit; a view sets it. 0 (no view) counts all rows as visible. Told when that
+    /// brings more rows into sight.
     int VisibleRows() const;
     void setVisibleRows(int rows);
 
@@ -292,7 +302,7 @@ public:
     void userKey(int code, int shift);
     void userKeyUp(int code, int shift);
     void userChar(int ascii);
-    /// The current cell moves (notified), then the selection (notified).
+    /// The current cell moves (notified), then the selection (notified); or the cell is selected again.
     void userSelect(int row, int col);
     void userScroll(int topRow, int leftCol);
     void userResizeColumn(int col, int twips);

@@ -2,6 +2,7 @@
 
 #include "base/error.h"
 #include "base/number.h"
+#include "base/text.h"
 #include "platform/cell_text.h"
 #include "platform/grid_surface_data.h"
 
@@ -56,6 +57,38 @@ QString GridSurface::TextMatrix(int row, int col) const {
     d->checkRow(row);
     d->checkCol(col);
     return d->cellText(row, col);
+}
+
+std::optional<Decimal> GridSurface::shownNumber(int row, int col) const {
+    d->checkRow(row);
+    d->checkCol(col);
+    const RowId id = d->order.at(row);
+    if (id == kNoRow)
+        return std::nullopt;
+    const RowRecord& record = d->rows.at(id);
+    const CellBinding* binding = d->bindingOf(record, d->columns.id(col));
+    if (binding && !d->texts.has(id, d->columns.id(col)))
+        if (const std::optional<Currency> amount = boundAmount(*binding, record.record))
+            return Decimal(*amount);
+    return Decimal::fromText(d->cellText(row, col), d->locale);
+}
+
+bool GridSurface::Data::isCellBlank(RowId id, ColumnId column) const {
+    if (const std::optional<QString> own = texts.text(id, column))
+        return isBlank(*own);
+    const RowRecord& record = rows.at(id);
+    const CellBinding* binding = bindingOf(record, column);
+    return !binding || isBoundBlank(*binding, record.record);
+}
+
+bool GridSurface::IsRowBlank(int row) const {
+    const RowId id = d->idOf(row);
+    if (id == kNoRow)
+        return true;
+    for (int col = 0; col < d->columns.size(); ++col)
+        if (!d->isCellBlank(id, d->columns.id(col)))
+            return false;
+    return true;
 }
 
 void GridSurface::setTextMatrix(int row, int col, const QString& text) {

@@ -77,6 +77,7 @@ struct GridSurface::Data {
     QString cellText(int row, int col) const;
     /// The number that the cell's text is in the locale.
     std::optional<double> cellNumber(int row, int col) const;
+    bool isCellBlank(RowId id, ColumnId column) const;
     /// Visits consecutive rows that have an id with f(record, binding); no binding where the cell shows
     /// nothing of a record.
     template <class F>
