@@ -40,9 +40,15 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , statistics(inputs, dictionary, fields, joins, translation, hierarchy, *host)
     , percentages(inputs, masterTable, fields, joins, hierarchy, *host)
     , dispatch(inputs, groupColumns, settings, normal, runTime, grouped, statistics)
-    , reader(state, columnProperties, columns, surface, events, *host, hooks)
+    , percentShares(state, columns, surface, *host)
+    , groupRows(state, columns, surface, percentShares)
+    , totalsRows(state, columns, surface, groupRows.sums(), hooks)
+    , summaryColumns(state, columns, surface)
+    , reader(state, columnProperties, columns, surface, events, *host, groupRows, totalsRows, percentShares)
     , driver(state, surface, children.Picture1, dictionary, reader, *host, hooks)
     , emptyReport(state, columnProperties, surface, children.Picture1, dictionary, *host, hooks)
+    , sorting(inputs, fields, columnProperties, surface, events, *host, hooks,
+              {[this](int row) { setRow(row); }, [this] { driver.FillGrid(); }})
     , lifecycle(state, children, events, [this] { LoadHooks::run(hooks.DrawInterface); })
     , surfaceEvents(state, columnProperties, surface, events, *host) {
     buildMenuBands(children.Picture1);
@@ -70,10 +76,26 @@ void ZkpGrid::Parts::setCols(int count) {
     events.notify(QStringLiteral("Cols"));
 }
 
+/// A row beyond the last first makes that many rows; the row one past them is then dropped without a
+/// word, and the row count has still grown, as wanted.
+void ZkpGrid::Parts::setRow(int row) {
+    try {
+        if (row > surface.Rows() - 1)
+            surface.setRows(row);
+    } catch (const Error&) {
+    }
+    try {
+        surface.setRow(row);
+    } catch (const Error&) {
+    }
+    events.notify(QStringLiteral("Row"));
+}
+
 ZkpGrid::ZkpGrid(std::shared_ptr<Host> host, QObject* parent)
     : QObject(parent)
     , parts_(std::make_shared<Parts>(std::move(host))) {
     parts_->surfaceEvents.connect(parts_);
+    parts_->sorting.connect(parts_);
 }
 
 ZkpGrid::~ZkpGrid() {
@@ -94,7 +116,9 @@ Host& ZkpGrid::host() {
 GridSurface& ZkpGrid::MSFlexGrid1() {
     return parts_->children.MSFlexGrid1;
 }
+/// Written when somebody looks, since a load keeps its sums as numbers.
 GridSurface& ZkpGrid::MSFlexGrid2() {
+    parts_->groupRows.showAccumulator(parts_->children.MSFlexGrid2);
     return parts_->children.MSFlexGrid2;
 }
 GridSurface& ZkpGrid::MSFlexGrid3() {

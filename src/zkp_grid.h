@@ -75,8 +75,8 @@ public:
     Q_INVOKABLE QString TextMatrix(int row, int col) const;
     Q_INVOKABLE void setTextMatrix(int row, int col, const QString& text);
 
-#define ZKP_READ_ONLY(Type, Name)                                                                              \
-    Q_PROPERTY(Type Name READ Name)                                                                            \
+#define ZKP_READ_ONLY(Type, Name)                                                                            \
+    Q_PROPERTY(Type Name READ Name)                                                                          \
     Type Name() const;
     ZKP_READ_ONLY_MEMBERS(ZKP_READ_ONLY)
 #undef ZKP_READ_ONLY
@@ -121,6 +121,17 @@ public:
     /// Shows the report's shape without rows. Does nothing without `clmns` or `Cn`.
     Q_INVOKABLE void PrepareEmptyGrid();
 
+    /// Sorts the surface in place by the column of the last sort (the current one at first), all rows but
+    /// the last, then numbers the `Colcnt` column anew. `mv` is a code of the surface's sorts; 9, the custom
+    /// sort, asks the event `Compare`, from this call on for good. Errors are passed over.
+    Q_INVOKABLE void Sort(int mv);
+    /// Sorts the surface in place as it is selected; a single selected row stands for all. Errors are
+    /// passed over.
+    Q_INVOKABLE void SortGrid(int mv);
+    /// Makes the current column the report's `OrderBy` and loads again: descending when `previous` is the
+    /// column's own expression, else ascending. A failure shows the error box.
+    Q_INVOKABLE void SortByColumn(const QString& previous);
+
     Q_INVOKABLE void Clear();
     /// Drops all rows and leaves `MinRows` blank ones. Errors are passed over.
     Q_INVOKABLE QVariant ClearGrid();
@@ -159,6 +170,29 @@ public:
     /// Reads the open records into the rows that the surface has.
     Q_INVOKABLE void LoadRows();
     Q_INVOKABLE void MakeFixedForGroup();
+
+    // The steps of group rows and totals, as a load takes them. Rows count from 0; `r` moves down past
+    // the rows that a step inserts before it.
+    /// Starts the sums with the record in grid row 1 and adds the rows for the totals. Nothing without a
+    /// summed column.
+    Q_INVOKABLE void InitTotalsGrid();
+    Q_INVOKABLE void AccumulateRow(double& r);
+    Q_INVOKABLE void EmitSubTotalRows(int level, double& r);
+    Q_INVOKABLE void ResetGroupLevels(int level, double r);
+    Q_INVOKABLE void FinishTotals();
+    Q_INVOKABLE void PaintTotalsRows();
+    Q_INVOKABLE void AppendTotalsRow();
+    /// Shows the sum of a column in a row of its own at the end, which the next call uses again. Texts
+    /// count by the number at their front, with a point as the decimal sign in every locale.
+    Q_INVOKABLE void CalcTotalsOnThisColumn(int clmn);
+    /// Always 0: it looks for a tag that no row has. Kept for hosts that call it.
+    Q_INVOKABLE int FindTotalsRow() const;
+    /// The share of the group of row `r` at `level` + 1 in that at `level` (the number of factors - 2 when
+    /// left out), as a percentage with two decimals, into `result`.
+    Q_INVOKABLE void PercentOfParent(const QString& field, int r, const QVariant& level, QString& result);
+    /// The sum of a field over the records of a totals report that have the keys of row `r` in columns 0
+    /// to `level`.
+    Q_INVOKABLE double GroupValueSum(int level, const QString& name, int r);
     Q_INVOKABLE QString ReplaceStringIntoAString(const QString& StrForReplace, const QString& StrSource,
                                                  const QString& StrDest);
 
@@ -180,6 +214,10 @@ private:
     // Operations with no caller of their own; reached by name only.
     Q_INVOKABLE bool FindAccountColumns();
     Q_INVOKABLE void RecalcBalanceColumn();
+    Q_INVOKABLE void RecalcAverageColumns();
+    Q_INVOKABLE void RecalcPercentColumns();
+    Q_INVOKABLE int FindColumnByField(const QString& name) const;
+    Q_INVOKABLE int FindParentRow(int r) const;
 
     struct Parts;
 

@@ -7,8 +7,13 @@
 #include "core/record_source.h"
 #include "core/report_state.h"
 #include "load/empty_report.h"
+#include "load/group_rows.h"
 #include "load/load_driver.h"
+#include "load/percentages.h"
 #include "load/row_reader.h"
+#include "load/sorting.h"
+#include "load/summary_columns.h"
+#include "load/totals_rows.h"
 #include "sql/dictionary.h"
 #include "sql/percentage_statement.h"
 #include "sql/statement_dispatch.h"
@@ -54,13 +59,19 @@ struct ZkpGrid::Parts {
     PercentageStatement percentages;
     StatementDispatch dispatch;
 
+    Percentages percentShares;
+    GroupRows groupRows;
+    TotalsRows totalsRows;
+    SummaryColumns summaryColumns;
     RowReader reader;
     LoadDriver driver;
     EmptyReport emptyReport;
+    RowSorting sorting;
     Lifecycle lifecycle;
     SurfaceEvents surfaceEvents;
 
     void setCols(int count);
+    void setRow(int row);
 
 private:
     void connectHooks();

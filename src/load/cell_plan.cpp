@@ -25,7 +25,6 @@ CellPlan::CellPlan(ado::Recordset& records, ColumnProperties& properties, const 
     , euro_(state.EuroVer)
     , totalForm_(state.TotalForm)
     , lastField_(lastField) {
-    std::vector<CellBinding> bindings;
     for (int c = 0; c < surface.Cols(); ++c) {
         const QString field = columns.ofGridColumn(c).Datafield;
         if (!isBlank(field) && !field.startsWith(kPercentPrefix)) {
@@ -37,9 +36,9 @@ CellPlan::CellPlan(ado::Recordset& records, ColumnProperties& properties, const 
         }
         const Column& column = columns.ofGridColumn(c);
         basis_.push_back({column.Datafield, column.Totals, column.Balance});
-        bindings.push_back(plan(c, basis_.back(), records, state));
+        cells_.push_back(plan(c, basis_.back(), records, state));
     }
-    layout_ = surface.addLayout(std::move(bindings));
+    layout_ = surface.addLayout(cells_);
     for (const int c : numericColumns_)
         surface.setColDataType(c, ado::adCurrency);
 }

@@ -28,6 +28,8 @@ public:
              GridSurface& surface, const ReportState& state, int lastField);
 
     GridSurface::LayoutId layout() const { return layout_; }
+    /// What each column shows of a record.
+    const std::vector<CellBinding>& cells() const { return cells_; }
     const std::vector<Percent>& percents() const { return percents_; }
     int lastField() const { return lastField_; }
     /// Whether the records hold the same values that the plan refers to.
@@ -49,6 +51,7 @@ private:
 
     std::vector<std::shared_ptr<const store::Column>> values_;
     std::vector<Basis> basis_;
+    std::vector<CellBinding> cells_;
     bool euro_;
     bool totalForm_;
     std::vector<Percent> percents_;

@@ -16,13 +16,7 @@ struct LoadHooks {
     std::function<void()> OpenTotalRecordset; ///< empty: a totals report is an error
     std::function<void()> RunTimeSQLCounter;  ///< its text is not run
     std::function<QString()> CommandFilter;   ///< the user's rights as a recordset filter
-
-    // Group rows and totals.
-    std::function<void()> MakeFixedForGroup;
-    std::function<void()> InitTotalsGrid;
-    std::function<void(double& r)> AccumulateRow;
-    std::function<void()> FinishTotals;
-    std::function<QString(const QString& field, int r)> PercentOfParent;
+    std::function<void()> MakeFixedForGroup;  ///< the group columns to the left
 
     // Painting and marking.
     std::function<void()> DrawInterface;

@@ -3,8 +3,8 @@
 #include "base/error.h"
 #include "base/number.h"
 #include "base/scope_guard.h"
-#include "base/text.h"
 #include "base/texts.h"
+#include "load/record_runs.h"
 
 #include <algorithm>
 
@@ -16,10 +16,12 @@ void RowReader::LoadRows() {
 
     const ScopeGuard restore([this] {
         plan_.reset();
+        sums_ = false;
         state_.PaintReady = state_.ContentSeen = true;
         surface_.setRedraw(true);
         host_.setPointer(kPointerDefault);
     });
+    percentages_.tellFailuresAgain();
     try {
         Q_EMIT events_.StartFilling();
         state_.throwIfDestroyed();
@@ -48,7 +50,7 @@ void RowReader::readRecords(const ado::RecordsetPtr& records) {
     while (!records->Eof()) {
         if (!plan_->isCurrent(*records, columns_, surface_, state_))
             makePlan(*records);
-        if (canBindTheRest(r)) {
+        if (canBindTheRest(*records, r)) {
             bindTheRest(*records, r);
             break;
         }
@@ -57,7 +59,7 @@ void RowReader::readRecords(const ado::RecordsetPtr& records) {
         sumRecord(*records, r);
         records->MoveNext();
     }
-    if (state_.TotalsNeeded)
+    if (sums_)
         finishTotals(r);
 }
 
@@ -65,9 +67,7 @@ void RowReader::readRecord(const ado::RecordsetPtr& records, double& r) {
     const int row = toInt32(r);
     surface_.bindRow(row, plan_->layout(), records->currentTableRow(), ZKPSingleRow);
     for (const CellPlan::Percent& percent : plan_->percents())
-        surface_.setTextMatrix(row, percent.column,
-                               hooks_.PercentOfParent ? hooks_.PercentOfParent(percent.field, row)
-                                                      : QString());
+        surface_.setTextMatrix(row, percent.column, percentages_.PercentOfParent(percent.field, row));
 
     RetrieveRowArgs args{r, records};
     Q_EMIT events_.RetrieveRow(args);
@@ -80,9 +80,9 @@ void RowReader::readRecord(const ado::RecordsetPtr& records, double& r) {
 void RowReader::sumRecord(ado::Recordset& records, double& r) {
     if (r == 1) {
         state_.LoadFinished = false;
-        LoadHooks::run(hooks_.InitTotalsGrid);
-    } else if (state_.TotalsNeeded && records.AbsolutePosition() <= records.RecordCount()) {
-        LoadHooks::run(hooks_.AccumulateRow, r);
+        sums_ = groups_.InitTotalsGrid();
+    } else if (sums_ && records.AbsolutePosition() <= records.RecordCount()) {
+        groups_.AccumulateRow(r);
     }
 }
 
@@ -92,48 +92,67 @@ void RowReader::makePlan(ado::Recordset& records) {
 }
 
 /// From the row after the first on, when each further row would be written the same way unseen.
-bool RowReader::canBindTheRest(double r) const {
-    return r >= 1 && !state_.TotalsNeeded && plan_->percents().empty() && !events_.isRetrieveRowHeard();
+bool RowReader::canBindTheRest(const ado::Recordset& records, double r) const {
+    const std::int64_t left = records.RecordCount() - (records.AbsolutePosition() - 1);
+    const int spare = sums_ ? 2 : 0; // the rows behind the last record
+    return r >= 1 && left <= surface_.Rows() - 1 - toInt32(r) - spare && plan_->percents().empty() &&
+           !events_.isRetrieveRowHeard() && !(sums_ && groups_.sums().shape().sumsKeys());
 }
 
-void RowReader::bindTheRest(ado::Recordset& records, double r) {
-    const int firstRow = toInt32(r) + 1;
-    const std::int64_t firstPosition = records.AbsolutePosition() - 1;
-    const std::int64_t left = records.RecordCount() - firstPosition;
-    const auto room = static_cast<std::int64_t>(surface_.Rows() - firstRow);
-    const int count = toInt32(static_cast<double>(std::min(left, room)));
-    surface_.bindRows(
-        firstRow, count, plan_->layout(),
-        [&records, firstPosition](int i) { return records.tableRow(firstPosition + i); }, ZKPSingleRow);
-    if (left > room)
-        throw Error(kErrInvalidRow, QStringLiteral("Invalid Row value"), QStringLiteral("LoadRows"));
+void RowReader::bindTheRest(ado::Recordset& records, double& r) {
+    if (sums_)
+        sumTheRest(records, r);
+    else
+        bindRun(records, records.AbsolutePosition() - 1, records.RecordCount(), r);
     records.MoveLast();
     records.MoveNext();
+}
+
+/// Run by run of records with the same keys as the record that opened the groups. The record behind a
+/// run counts by itself, since it may break groups.
+void RowReader::sumTheRest(const ado::Recordset& records, double& r) {
+    const RecordRuns runs(records, plan_->cells(), groups_.sums().shape(), surface_.locale());
+    const std::int64_t count = records.RecordCount();
+    std::int64_t bound = records.AbsolutePosition() - 1;
+    std::int64_t open = bound - 1;
+    for (std::int64_t counted = bound; bound < count; counted = open + 1) {
+        const std::int64_t end = runs.endOfRun(open, counted);
+        for (const int c : groups_.sums().shape().summed)
+            groups_.sums().addRun(c, runs.sum(c, counted, end));
+        bindRun(records, bound, end, r);
+        if (end == count)
+            return;
+        double next = r + 1;
+        groups_.takeRecord(RecordRuns::Record(runs, end), next);
+        r = next - 1;
+        bound = open = end;
+    }
+}
+
+void RowReader::bindRun(const ado::Recordset& records, std::int64_t from, std::int64_t end, double& r) {
+    const auto count = static_cast<int>(end - from);
+    surface_.bindRows(
+        toInt32(r) + 1, count, plan_->layout(), [&](int i) { return records.tableRow(from + i); },
+        ZKPSingleRow);
+    r += count;
 }
 
 /// The blank row behind the last record forces the last group breaks.
 void RowReader::finishTotals(double r) {
     r += 1;
-    LoadHooks::run(hooks_.AccumulateRow, r);
-    LoadHooks::run(hooks_.FinishTotals);
+    groups_.AccumulateRow(r);
+    totals_.FinishTotals();
     state_.LoadFinished = true;
 }
 
 /// The row above a removed one is passed over, as wanted; the last row always stays.
 void RowReader::removeBlankRows() {
     for (int i = surface_.Rows() - 1; i >= 1; --i) {
-        if (i == surface_.Rows() - 1 || !isBlankRow(i))
+        if (i == surface_.Rows() - 1 || !surface_.IsRowBlank(i))
             continue;
         surface_.RemoveItem(i);
         --i;
     }
-}
-
-bool RowReader::isBlankRow(int row) const {
-    for (int c = 0; c < surface_.Cols(); ++c)
-        if (!isBlank(surface_.TextMatrix(row, c)))
-            return false;
-    return true;
 }
 
 } // namespace zkp

@@ -4,7 +4,9 @@
 #include "core/events.h"
 #include "core/report_state.h"
 #include "load/cell_plan.h"
-#include "load/load_hooks.h"
+#include "load/group_rows.h"
+#include "load/percentages.h"
+#include "load/totals_rows.h"
 #include "platform/grid_surface.h"
 #include "platform/host.h"
 
@@ -13,19 +15,22 @@
 namespace zkp {
 
 /// `LoadRows`: reads the open recordset from the first record to the last, one grid row a record, and
-/// drives the group rows record by record. The hot loop of the system: rows that nobody hears about
-/// and nobody sums are bound in one go.
+/// drives the group rows record by record. The hot loop of the system: where nobody hears about single
+/// rows, whole runs of records are summed and bound at once.
 class RowReader {
 public:
     RowReader(ReportState& state, ColumnProperties& properties, const ColumnList& columns,
-              GridSurface& surface, Events& events, Host& host, const LoadHooks& hooks)
+              GridSurface& surface, Events& events, Host& host, GroupRows& groups, TotalsRows& totals,
+              Percentages& percentages)
         : state_(state)
         , properties_(properties)
         , columns_(columns)
         , surface_(surface)
         , events_(events)
         , host_(host)
-        , hooks_(hooks) {}
+        , groups_(groups)
+        , totals_(totals)
+        , percentages_(percentages) {}
 
     /// Any failure but a missing field ends the loop with a box; the rows read so far stay, and
     /// `StopFillIng` is raised all the same.
@@ -35,12 +40,13 @@ private:
     void readRecords(const ado::RecordsetPtr& records);
     void readRecord(const ado::RecordsetPtr& records, double& r);
     void sumRecord(ado::Recordset& records, double& r);
-    bool canBindTheRest(double r) const;
-    void bindTheRest(ado::Recordset& records, double r);
+    bool canBindTheRest(const ado::Recordset& records, double r) const;
+    void bindTheRest(ado::Recordset& records, double& r);
+    void sumTheRest(const ado::Recordset& records, double& r);
+    void bindRun(const ado::Recordset& records, std::int64_t from, std::int64_t end, double& r);
     void makePlan(ado::Recordset& records);
     void finishTotals(double r);
     void removeBlankRows();
-    bool isBlankRow(int row) const;
 
     ReportState& state_;
     ColumnProperties& properties_;
@@ -48,8 +54,11 @@ private:
     GridSurface& surface_;
     Events& events_;
     Host& host_;
-    const LoadHooks& hooks_;
+    GroupRows& groups_;
+    TotalsRows& totals_;
+    Percentages& percentages_;
     std::optional<CellPlan> plan_;
+    bool sums_ = false; ///< this load has rows for its totals
 };
 
 } // namespace zkp

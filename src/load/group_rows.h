@@ -1,0 +1,53 @@
+#pragma once
+
+#include "core/column_list.h"
+#include "core/report_state.h"
+#include "load/group_sums.h"
+#include "load/percentages.h"
+#include "platform/grid_surface.h"
+
+namespace zkp {
+
+/// Group rows on the surface: compares each record with the open groups and inserts the subtotal rows
+/// of those that end, where the reader stands. The order of the records decides the groups.
+class GroupRows {
+public:
+    GroupRows(ReportState& state, const ColumnList& columns, GridSurface& surface, Percentages& percentages)
+        : state_(state)
+        , columns_(columns)
+        , surface_(surface)
+        , percentages_(percentages) {}
+
+    /// With the first record in grid row 1: starts the sums and adds two rows at the end, a blank one
+    /// that closes the last groups and one tagged as the totals. False without a summed column; then
+    /// nothing is added, and `TotalsNeeded` stays as it was.
+    bool InitTotalsGrid();
+    /// Takes in the record that stands in row `r`; `r` moves down with it past inserted rows.
+    void AccumulateRow(double& r);
+    /// Inserts the subtotal rows of the levels from the innermost out to `level` before row `r`.
+    void EmitSubTotalRows(int level, double& r);
+    /// The record in row `r` opens the groups from `level` inwards.
+    void ResetGroupLevels(int level, double r);
+
+    /// The same for a record that is not on the surface yet; `r` is where it will stand.
+    void takeRecord(const GroupRow& record, double& r);
+    GroupSums& sums() { return sums_; }
+    const GroupSums& sums() const { return sums_; }
+
+    /// Writes the accumulator as a grid.
+    void showAccumulator(GridSurface& accumulator) const;
+
+private:
+    GroupShape shapeOfReport() const;
+    void closeGroups(const GroupRow& record, double& r);
+    void writeSubtotalRow(int row, int level);
+    void writeSubtotalCell(int row, int level, int c, bool named);
+
+    ReportState& state_;
+    const ColumnList& columns_;
+    GridSurface& surface_;
+    Percentages& percentages_;
+    GroupSums sums_;
+};
+
+} // namespace zkp

@@ -1,0 +1,96 @@
+#include "load/group_sums.h"
+
+namespace zkp {
+
+GroupSums::Cell& GroupSums::at(int row, int column) {
+    return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(shape_.columns) +
+                  static_cast<std::size_t>(column)];
+}
+
+const GroupSums::Cell& GroupSums::at(int row, int column) const {
+    return const_cast<GroupSums*>(this)->at(row, column);
+}
+
+GroupSums::Cell GroupSums::taken(const GroupRow& record, int column, bool withNumber) {
+    return {record.text(column), withNumber ? record.number(column) : Decimal(), false};
+}
+
+void GroupSums::add(Cell& cell, const Decimal& number) {
+    cell.number += number;
+    cell.isSum = true;
+}
+
+void GroupSums::start(const GroupShape& shape, const ReportLocale& locale, const GroupRow& first) {
+    shape_ = shape;
+    locale_ = locale;
+    cells_.assign(static_cast<std::size_t>(rows()) * static_cast<std::size_t>(shape.columns), {});
+    for (int c = 0; c < shape.columns; ++c) {
+        at(shape.factors, c).text = QStringLiteral("  ");
+        at(rows() - 1, c).text = QStringLiteral(" ");
+    }
+    for (const int c : shape.summed)
+        at(shape.factors, c) = at(rows() - 1, c) = taken(first, c, true);
+    for (int k = 0; k <= shape.lastLevel(); ++k)
+        open(k, first);
+}
+
+void GroupSums::open(int level, const GroupRow& record) {
+    for (int c = 0; c <= level; ++c)
+        at(level + 1, c) = taken(record, c, false);
+    for (const int c : shape_.summed)
+        at(level + 1, c) = taken(record, c, true);
+}
+
+void GroupSums::addToGrandSums(const GroupRow& record) {
+    for (const int c : shape_.summed)
+        add(at(rows() - 1, c), record.number(c));
+}
+
+void GroupSums::addToGroups(const GroupRow& record) {
+    for (const int c : shape_.summed)
+        if (c >= shape_.factors)
+            for (int k = 0; k < shape_.factors; ++k)
+                add(at(k + 1, c), record.number(c));
+}
+
+void GroupSums::addRun(int column, const Decimal& sum) {
+    add(at(rows() - 1, column), sum);
+    if (column >= shape_.factors && shape_.hasGroups())
+        for (int k = 0; k < shape_.factors; ++k)
+            add(at(k + 1, column), sum);
+}
+
+bool GroupSums::breaksAt(const GroupRow& record) const {
+    QString now;
+    QString open;
+    for (int k = 0; k <= shape_.lastLevel(); ++k) {
+        now += u' ' + record.text(k);
+        open += u' ' + text(k + 1, k);
+    }
+    return now != open;
+}
+
+bool GroupSums::isKeyOpen(int level, const GroupRow& record) const {
+    return text(level + 1, level) == record.text(level);
+}
+
+void GroupSums::reset(int level, const GroupRow& record) {
+    for (int k = level; k <= shape_.lastLevel(); ++k)
+        open(k, record);
+    for (int k = level - 1; k >= 0; --k)
+        for (const int c : shape_.summed) {
+            Cell& cell = at(k + 1, c);
+            const Decimal number = record.number(c);
+            if (cell.number.isZero() && !number.isZero())
+                cell = taken(record, c, true);
+            else if (!number.isZero())
+                add(cell, number);
+        }
+}
+
+QString GroupSums::text(int row, int column) const {
+    const Cell& cell = at(row, column);
+    return cell.isSum ? cell.number.plainText(locale_) : cell.text;
+}
+
+} // namespace zkp

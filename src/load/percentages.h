@@ -1,0 +1,44 @@
+#pragma once
+
+#include "core/column_list.h"
+#include "core/report_state.h"
+#include "load/group_value_index.h"
+#include "platform/grid_surface.h"
+#include "platform/host.h"
+
+#include <optional>
+
+namespace zkp {
+
+/// The share of a row's group in the group around it, from the records of a totals report.
+class Percentages {
+public:
+    Percentages(ReportState& state, const ColumnList& columns, const GridSurface& surface, Host& host)
+        : state_(state)
+        , columns_(columns)
+        , surface_(surface)
+        , host_(host) {}
+
+    /// The share of the group that the keys of row `r` name to level + 1 in the one that they name to
+    /// `level`, in "#0.00"; "0.00" with a point in every locale when either sum is 0, as wanted. The
+    /// level left out is that of a record's parent. A failure shows its box and counts as 0.
+    QString PercentOfParent(const QString& field, int r, std::optional<int> level = {});
+    /// The sum of a field over the records whose keys are those of row `r` in columns 0 to `level`; over
+    /// all records for a level below 0. A failure shows its box and gives 0.
+    double GroupValueSum(int level, const QString& name, int r);
+    /// A load with many rows tells each failure once; from here on it is told again.
+    void tellFailuresAgain() { told_ = false; }
+
+private:
+    double sumOf(int level, const QString& name, int r);
+    std::vector<GroupValueIndex::Key> keysOf(int level, int r) const;
+
+    ReportState& state_;
+    const ColumnList& columns_;
+    const GridSurface& surface_;
+    Host& host_;
+    GroupValueIndex index_;
+    bool told_ = false;
+};
+
+} // namespace zkp

@@ -1,0 +1,108 @@
+#include "load/totals_rows.h"
+
+#include "base/format.h"
+#include "base/number.h"
+#include "base/scope_guard.h"
+#include "core/enums.h"
+
+#include <algorithm>
+
+namespace zkp {
+
+namespace {
+
+constexpr int kAppendedTotals = -1; // not a ZKPRowKind
+constexpr int kNobodysTag = 90;
+
+} // namespace
+
+void TotalsRows::FinishTotals() {
+    surface_.RemoveItem(surface_.Rows() - 1);
+    state_.RowCapacity -= 1;
+    const int last = surface_.Rows() - 1;
+    for (int c = 0; c < sums_.shape().columns; ++c)
+        surface_.setTextMatrix(last, c, totalText(c));
+    surface_.setRowData(last, ZKPTotals);
+    LoadHooks::run(hooks_.DrawInterface);
+    PaintTotalsRows();
+}
+
+QString TotalsRows::totalText(int c) const {
+    const Column& column = columns_.ofGridColumn(c);
+    const int grandSums = sums_.rows() - 1;
+    if (!column.Totals)
+        return sums_.text(grandSums, c);
+    const Decimal grand = sums_.number(grandSums, c);
+    if (column.Balance)
+        return formatNumber(grand, NumberFormat::Grouped2, surface_.locale());
+    // Summed again from the grid, where handlers may have changed what was read.
+    return formatNumber(grand.isZero() ? grand : sumOfRecords(c),
+                        state_.EuroVer ? NumberFormat::Grouped2 : NumberFormat::Grouped0, surface_.locale());
+}
+
+Decimal TotalsRows::sumOfRecords(int c) const {
+    Decimal sum;
+    for (int row = 1; row < surface_.Rows(); ++row)
+        if (surface_.RowData(row) == ZKPSingleRow)
+            sum += surface_.shownNumber(row, c).value_or(Decimal());
+    return sum;
+}
+
+void TotalsRows::PaintTotalsRows() {
+    const bool redraw = surface_.Redraw();
+    const ScopeGuard restore([&] { surface_.setRedraw(redraw); });
+    surface_.setRedraw(false);
+    const int lastCol = surface_.Cols() - 1;
+
+    const StylePatch subtotals{state_.SubTotalsBackColor,     state_.SubTotalsForeColor,
+                               state_.SubTotalsFontName,      state_.SubTotalsFontSize,
+                               state_.SubTotalsFontBold,      state_.SubTotalsFontItalic,
+                               state_.SubTotalsFontUnderline, {}};
+    if (lastCol >= 1) // column 0 keeps the look of its group
+        for (int row = surface_.Rows() - 1; row >= surface_.FixedRows(); --row)
+            if (surface_.RowData(row) == ZKPSubTotals)
+                surface_.applyStyle({row, 1, row, lastCol}, subtotals);
+    const StylePatch totals{
+        state_.TotalsBackcolor, state_.TotalsForeColor,  state_.TotalsFontName,      state_.TotalsFontSize,
+        state_.TotalsFontBold,  state_.TotalsFontItalic, state_.TotalsFontUnderline, {}};
+    surface_.applyStyle({surface_.Rows() - 1, 0, surface_.Rows() - 1, lastCol}, totals);
+    seekContent();
+}
+
+void TotalsRows::seekContent() {
+    for (int row = 0; row < surface_.Rows(); ++row)
+        if (!surface_.IsRowBlank(row)) {
+            state_.ContentSeen = true;
+            return;
+        }
+}
+
+void TotalsRows::AppendTotalsRow() {
+    surface_.AddItem({});
+    const int last = surface_.Rows() - 1;
+    StylePatch look;
+    look.backColor = state_.TotalsBackcolor;
+    look.foreColor = state_.TotalsForeColor;
+    surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, look);
+    surface_.setRowData(last, kAppendedTotals);
+}
+
+void TotalsRows::CalcTotalsOnThisColumn(int clmn) {
+    if (surface_.RowData(surface_.Rows() - 1) != kAppendedTotals)
+        AppendTotalsRow();
+    double sum = 0;
+    for (int row = 1; row < surface_.Rows(); ++row)
+        if (surface_.RowData(row) != kAppendedTotals)
+            sum += val(surface_.TextMatrix(row, clmn));
+    surface_.setTextMatrix(surface_.Rows() - 1, clmn, surface_.locale().doubleText(sum));
+}
+
+int TotalsRows::FindTotalsRow() const {
+    int found = 0;
+    for (int row = surface_.Rows() - 1; row >= 1; --row)
+        if (surface_.RowData(row) == kNobodysTag)
+            found = row;
+    return found;
+}
+
+} // namespace zkp

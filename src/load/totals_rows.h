@@ -1,0 +1,46 @@
+#pragma once
+
+#include "core/column_list.h"
+#include "core/report_state.h"
+#include "load/group_sums.h"
+#include "load/load_hooks.h"
+#include "platform/grid_surface.h"
+
+namespace zkp {
+
+/// The row that closes a report, and the look of subtotal and totals rows.
+class TotalsRows {
+public:
+    TotalsRows(ReportState& state, const ColumnList& columns, GridSurface& surface, const GroupSums& sums,
+               const LoadHooks& hooks)
+        : state_(state)
+        , columns_(columns)
+        , surface_(surface)
+        , sums_(sums)
+        , hooks_(hooks) {}
+
+    /// Ends a load with sums: the spare row goes, the one before it shows the totals, and all is painted.
+    void FinishTotals();
+    /// Gives all subtotal rows, shown or not, and the last row their colours and fonts.
+    void PaintTotalsRows();
+    /// Adds a row in the colours of totals, tagged -1, at the end.
+    void AppendTotalsRow();
+    /// Shows the sum of a column in a row of its own at the end. What counts is the number at the front of
+    /// each text with a point as its decimal sign, whatever the locale; subtotals and totals count too.
+    void CalcTotalsOnThisColumn(int clmn);
+    /// Looks for a tag that no row has, and so finds 0; wanted.
+    int FindTotalsRow() const;
+
+private:
+    QString totalText(int c) const;
+    Decimal sumOfRecords(int c) const;
+    void seekContent();
+
+    ReportState& state_;
+    const ColumnList& columns_;
+    GridSurface& surface_;
+    const GroupSums& sums_;
+    const LoadHooks& hooks_;
+};
+
+} // namespace zkp
