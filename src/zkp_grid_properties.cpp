@@ -179,20 +179,9 @@ int ZkpGrid::Row() const {
     return parts_->surface.Row();
 }
 
-/// A row beyond the last first makes that many rows; the row one past them is then dropped without a
-/// word, and the row count has still grown, as wanted.
 void ZkpGrid::setRow(const int& value) {
     const auto parts = parts_;
-    try {
-        if (value > parts->surface.Rows() - 1)
-            parts->surface.setRows(value);
-    } catch (const Error&) {
-    }
-    try {
-        parts->surface.setRow(value);
-    } catch (const Error&) {
-    }
-    parts->events.notify(QStringLiteral("Row"));
+    parts->setRow(value);
 }
 
 QVariant ZkpGrid::RecordSource() const {

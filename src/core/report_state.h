@@ -52,7 +52,9 @@ struct ReportState {
     short DebitColumn = -1;
     short CreditColumn = -1;
     short BalanceColumn = -1;
-    double SortDescending = 0;
+    double SortDescending = 0; ///< direction of the control's own order: ascending when 0
+    double SortAscending = 0;
+    std::optional<int> SortColumn; ///< of the last sort by column or custom sort
 
     bool TotalsNeeded = false;
     bool LoadFinished = false;

@@ -59,18 +59,21 @@ std::optional<Part> readPart(const QString& text, const QLocale& locale) {
     return monthByName(text, locale);
 }
 
-bool isTime(const QString& text) {
-    return QTime::fromString(text, QStringLiteral("H:m")).isValid() ||
-           QTime::fromString(text, QStringLiteral("H:m:s")).isValid();
+QTime readTime(const QString& text) {
+    const QTime time = QTime::fromString(text, QStringLiteral("H:m"));
+    return time.isValid() ? time : QTime::fromString(text, QStringLiteral("H:m:s"));
 }
 
 /// The words of a text that are not its time, cut at the date's signs; nothing when there is a part
-/// that cannot stand in a date. `times` counts the times.
-std::optional<std::vector<Part>> readParts(QStringView text, const QLocale& locale, int& times) {
+/// that cannot stand in a date. `time` stays invalid without a time.
+std::optional<std::vector<Part>> readParts(QStringView text, const QLocale& locale, QTime& time) {
     std::vector<Part> parts;
     for (const QString& word : text.toString().split(u' ', Qt::SkipEmptyParts)) {
         if (word.contains(u':')) {
-            if (!isTime(word) || ++times > 1)
+            if (time.isValid())
+                return std::nullopt;
+            time = readTime(word);
+            if (!time.isValid())
                 return std::nullopt;
             continue;
         }
@@ -127,28 +130,41 @@ std::optional<QDate> ofThree(const std::vector<Part>& parts, const QString& form
                                     : inEitherOrder(fullYear(parts[2]), second, first);
 }
 
-} // namespace
-
-std::optional<QDate> toDate(QStringView text, const ReportLocale& locale) {
-    int times = 0;
-    const auto parts = readParts(trimmed(text), locale.locale(), times);
-    if (!parts || parts->size() > 3)
-        return std::nullopt;
-    for (const Part& part : *parts) {
+/// The day of a text without its time; day 0 for a time alone.
+std::optional<QDate> dayOf(const std::vector<Part>& parts, const QTime& time, const QLocale& locale) {
+    for (const Part& part : parts) {
         if (part.isMonthName)
-            return withMonthName(*parts);
+            return withMonthName(parts);
     }
-    const QString format = locale.locale().dateFormat(QLocale::ShortFormat);
-    switch (parts->size()) {
+    const QString format = locale.dateFormat(QLocale::ShortFormat);
+    switch (parts.size()) {
     case 0:
-        return times > 0 ? std::optional(QDate(1899, 12, 30)) : std::nullopt;
+        return time.isValid() ? std::optional(QDate(1899, 12, 30)) : std::nullopt;
     case 2:
-        return ofTwo((*parts)[0], (*parts)[1], format.indexOf(u'M') < format.indexOf(u'd'));
+        return ofTwo(parts[0], parts[1], format.indexOf(u'M') < format.indexOf(u'd'));
     case 3:
-        return ofThree(*parts, format);
+        return ofThree(parts, format);
     default:
         return std::nullopt;
     }
+}
+
+} // namespace
+
+std::optional<QDateTime> toMoment(QStringView text, const ReportLocale& locale) {
+    QTime time;
+    const auto parts = readParts(trimmed(text), locale.locale(), time);
+    if (!parts || parts->size() > 3)
+        return std::nullopt;
+    const auto day = dayOf(*parts, time, locale.locale());
+    if (!day)
+        return std::nullopt;
+    return QDateTime(*day, time.isValid() ? time : QTime(0, 0), Qt::UTC);
+}
+
+std::optional<QDate> toDate(QStringView text, const ReportLocale& locale) {
+    const auto moment = toMoment(text, locale);
+    return moment ? std::optional(moment->date()) : std::nullopt;
 }
 
 QString shortDate(QDate date, const ReportLocale& locale) {

@@ -3,6 +3,7 @@
 #include "base/report_locale.h"
 
 #include <QDate>
+#include <QDateTime>
 #include <QStringView>
 
 #include <optional>
@@ -16,6 +17,9 @@ namespace zkp {
 /// Two-digit years are 1930 to 2029. A time (H:mm or H:mm:ss) may follow or stand alone, on the day
 /// 0 of dates, 30 December 1899.
 std::optional<QDate> toDate(QStringView text, const ReportLocale& locale);
+
+/// The same with its time, midnight when it has none; in universal time, where every day has all hours.
+std::optional<QDateTime> toMoment(QStringView text, const ReportLocale& locale);
 
 /// The locale's short date, with a four-digit year.
 QString shortDate(QDate date, const ReportLocale& locale);

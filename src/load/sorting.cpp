@@ -1,0 +1,226 @@
+#include "load/sorting.h"
+
+#include "base/error_in_flight.h"
+#include "base/scope_guard.h"
+#include "base/text.h"
+#include "core/enums.h"
+#include "core/keep_alive.h"
+#include "support/utility.h"
+
+#include <algorithm>
+
+namespace zkp {
+
+namespace {
+
+/// Fields that a totals report works out itself; the statement knows them by these names.
+bool isAggregate(const QString& field) {
+    const QString prefix = upper(field.left(4));
+    return prefix == u"POS_" || prefix == u"SUM_" || prefix == u"AVG_" || prefix == u"MIN_" ||
+           prefix == u"MAX_";
+}
+
+} // namespace
+
+// --- In place
+
+template <class Step>
+void RowSorting::passOverErrors(Step step) {
+    try {
+        step();
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
+    }
+    state_.throwIfDestroyed();
+}
+
+void RowSorting::SortGrid(int mv) {
+    passOverErrors([this] { LoadHooks::run(hooks_.RedrawRow, state_.PreRow); });
+    passOverErrors([&] { surface_.setSort(mv); });
+}
+
+void RowSorting::Sort(int mv) {
+    const bool redraw = surface_.Redraw();
+    const ScopeGuard restore([&] { surface_.setRedraw(redraw); });
+    surface_.setRedraw(false); // a view hears once of all that happens here
+    passOverErrors([this] { LoadHooks::run(hooks_.RedrawRow, state_.PreRow); });
+    passOverErrors([this] { control_.setRow(1); });
+    state_.sortOut = true; // for good, as wanted
+    passOverErrors([this] {
+        if (state_.SortColumn)
+            surface_.setCol(*state_.SortColumn);
+    });
+    passOverErrors([this] { control_.setRow(1); });
+    passOverErrors([this] { surface_.setRowSel(surface_.Rows() - 2); });
+    // With one row selected the surface would take the whole body, the last row with it.
+    if (surface_.RowSel() != surface_.Row())
+        passOverErrors([&] { surface_.setSort(mv); });
+    surface_.Refresh();
+    passOverErrors([this] { numberRows(); });
+}
+
+/// A row without any text keeps its old number.
+void RowSorting::numberRows() {
+    int found = surface_.Cols() - 1;
+    while (found >= 0 && !properties_.Colcnt(found))
+        --found;
+    if (found < 0)
+        return;
+    for (int row = 1; row <= surface_.Rows() - 2; ++row)
+        if (showsText(row, found))
+            surface_.setTextMatrix(row, found, QString::number(row));
+}
+
+bool RowSorting::showsText(int row, int butColumn) const {
+    for (int c = 0; c < surface_.Cols(); ++c)
+        if (c != butColumn && !surface_.TextMatrix(row, c).isEmpty())
+            return true;
+    return false;
+}
+
+// --- By the database
+
+void RowSorting::SortByColumn(const QString& previous) {
+    const ScopeGuard restore([this] { host_.setPointer(kPointerDefault); });
+    try {
+        sortAndLoad(previous);
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
+        const Error error = errorInFlight();
+        state_.throwIfDestroyed();
+        ShowError(host_, error);
+    }
+}
+
+void RowSorting::sortAndLoad(const QString& previous) {
+    const int column = surface_.Col();
+    state_.SortColumn = column;
+    Q_EMIT events_.StartSorting();
+    state_.throwIfDestroyed();
+    host_.setPointer(kPointerHourglass);
+    LoadHooks::run(hooks_.RedrawRow, state_.PreRow);
+    if (!state_.TotalForm && state_.SqlOnRunTime)
+        orderDetailReport(column, previous);
+    else
+        orderOtherReport(column, previous);
+    control_.FillGrid();
+    state_.throwIfDestroyed();
+    control_.setRow(1);
+    state_.throwIfDestroyed();
+    host_.setPointer(kPointerDefault);
+    Q_EMIT events_.StopSorting();
+    state_.throwIfDestroyed();
+}
+
+void RowSorting::orderDetailReport(int column, const QString& previous) {
+    const QString expr = expressionOf(properties_.ColDataField(column));
+    if (!isBlank(expr))
+        inputs_.setOrderBy(expr + (expr == previous ? QStringLiteral(" DESC") : QStringLiteral(" ASC")));
+}
+
+/// The small letters of " desc" belong to this road, as wanted. An aggregate that no statement can be
+/// sorted by leaves the report as it was, as wanted; and the load undoes a custom sort, unless
+/// `RefreshOnChange` holds the rows.
+void RowSorting::orderOtherReport(int column, const QString& previous) {
+    const QString field = properties_.ColDataField(column);
+    state_.OrderByAlias = field;
+    state_.OrderByPhysical = field.size() >= 6 ? mid(field, 5) : QString();
+    const QString expr = state_.SqlOnRunTime && isAggregate(field) ? field : expressionOf(field);
+    if (isBlank(field))
+        surface_.setSort(kSortCustom);
+    else if (isBlank(expr))
+        inputs_.setOrderBy({});
+    else
+        inputs_.setOrderBy(expr + (expr == previous ? QStringLiteral(" desc") : QStringLiteral(" ASC")));
+    state_.throwIfDestroyed();
+    if (state_.SourceType == ZKP_RecordSet) {
+        if (!state_.ReportRecordset)
+            throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"),
+                        QStringLiteral("RecordSource"));
+        state_.ReportRecordset->setSort(state_.OrderBy);
+    }
+}
+
+QString RowSorting::expressionOf(const QString& field) {
+    QString tables;
+    return fields_.makefldSql(field, tables, false);
+}
+
+// --- The custom sort
+
+void RowSorting::connect(const std::weak_ptr<void>& owner) {
+    surface_.notifications.compare = [this, owner](int firstRow, int lastRow) -> RowCompare {
+        const std::shared_ptr<void> alive = owner.lock();
+        if (!alive || state_.destroyed)
+            return {};
+        state_.SortColumn = surface_.Col();
+        if (!state_.sortOut)
+            return ownOrder(firstRow, lastRow);
+        return [this, owner](int row1, int row2) {
+            const std::shared_ptr<void> stillAlive = owner.lock();
+            if (!stillAlive || state_.destroyed)
+                return 0; // a handler has destroyed the control; the surface sorts on to its end
+            const ScopeGuard release([&] {
+                if (state_.destroyed)
+                    releaseLater(stillAlive);
+            });
+            return askHost(row1, row2);
+        };
+    };
+}
+
+/// An answer that is no number counts as 0.
+int RowSorting::askHost(int row1, int row2) {
+    CompareArgs args{row1, row2, 0};
+    Q_EMIT events_.Compare(args);
+    const double answer = ToDouble(args.Cmp, surface_.locale()).toDouble();
+    return answer > 0 ? 1 : answer < 0 ? -1 : 0;
+}
+
+/// Keys and values are worked out once for each row, not for each comparison.
+RowCompare RowSorting::ownOrder(int firstRow, int lastRow) const {
+    return [rows = sortRows(firstRow, lastRow), firstRow, descending = state_.SortDescending != 0](int row1,
+                                                                                                   int row2) {
+        return compareRows(rows[static_cast<std::size_t>(row1 - firstRow)],
+                           rows[static_cast<std::size_t>(row2 - firstRow)], descending);
+    };
+}
+
+std::vector<SortRow> RowSorting::sortRows(int firstRow, int lastRow) const {
+    const int count = lastRow - firstRow + 1;
+    const int factors = std::clamp(state_.GroupFactorCount - (state_.TotalForm ? 1 : 0), 0, surface_.Cols());
+    const DistinctTexts keys = distinctTexts(count, [&](int i) {
+        QStringList cells;
+        for (int c = 0; c < factors; ++c)
+            cells << surface_.TextMatrix(firstRow + i, c);
+        return groupKey(cells);
+    });
+    const std::vector<int> places = groupPlaces(keys.texts, surface_.locale());
+
+    const int column = *state_.SortColumn;
+    const QString field = properties_.ColDataField(column);
+    const DistinctTexts texts =
+        distinctTexts(count, [&](int i) { return surface_.TextMatrix(firstRow + i, column); });
+    const SortKeys values = sortValues(sortValueOf(field, fieldType(field)), texts, surface_.locale());
+
+    std::vector<SortRow> rows;
+    rows.reserve(values.size());
+    for (int i = 0; i < count; ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        rows.push_back(
+            {surface_.RowData(firstRow + i), places[static_cast<std::size_t>(keys.ofRow[at])], values[at]});
+    }
+    return rows;
+}
+
+std::optional<int> RowSorting::fieldType(const QString& field) const {
+    const ado::RecordsetPtr records = state_.ReportRecordset;
+    if (!records || records->State() == ado::adStateClosed)
+        return std::nullopt;
+    const int index = records->Fields().indexOf(field);
+    return index < 0 ? std::nullopt : std::optional(records->Fields().Item(index).Type());
+}
+
+} // namespace zkp

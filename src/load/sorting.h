@@ -1,0 +1,79 @@
+#pragma once
+
+#include "core/column_properties.h"
+#include "core/events.h"
+#include "core/report_state.h"
+#include "load/load_hooks.h"
+#include "load/row_comparison.h"
+#include "platform/grid_surface.h"
+#include "platform/host.h"
+#include "sql/field_expressions.h"
+
+#include <functional>
+#include <memory>
+
+namespace zkp {
+
+/// The three ways to sort a report: by the database, which loads it again (SortByColumn), and in place
+/// (Sort, SortGrid). The surface's custom sort asks either the host or the control's own order.
+class RowSorting {
+public:
+    /// What the sorts ask of the control: its `Row` setter and a load.
+    struct Control {
+        std::function<void(int)> setRow;
+        std::function<void()> FillGrid;
+    };
+
+    RowSorting(BuilderInputs& inputs, FieldExpressions& fields, ColumnProperties& properties,
+               GridSurface& surface, Events& events, Host& host, const LoadHooks& hooks, Control control)
+        : inputs_(inputs)
+        , state_(inputs.state)
+        , fields_(fields)
+        , properties_(properties)
+        , surface_(surface)
+        , events_(events)
+        , host_(host)
+        , hooks_(hooks)
+        , control_(std::move(control)) {}
+
+    /// Answers the surface's custom sort. `owner` keeps everything here alive while a handler runs.
+    void connect(const std::weak_ptr<void>& owner);
+
+    /// Sorts the surface in place, all rows but the last, by the column of the sort before, and numbers
+    /// the rows anew. From now on the host's `Compare` decides custom sorts. Errors are passed over.
+    void Sort(int mv);
+    /// Sorts the surface in place as it is selected. Errors are passed over.
+    void SortGrid(int mv);
+    /// Sorts by the current column and loads again, descending when `previous` is the column's own
+    /// expression. A failure shows the error box.
+    void SortByColumn(const QString& previous);
+
+private:
+    template <class Step>
+    void passOverErrors(Step step);
+    void sortAllButLast(int mv);
+    void numberRows();
+    bool showsText(int row, int butColumn) const;
+
+    void sortAndLoad(const QString& previous);
+    void orderDetailReport(int column, const QString& previous);
+    void orderOtherReport(int column, const QString& previous);
+    QString expressionOf(const QString& field);
+
+    int askHost(int row1, int row2);
+    RowCompare ownOrder(int firstRow, int lastRow) const;
+    std::vector<SortRow> sortRows(int firstRow, int lastRow) const;
+    std::optional<int> fieldType(const QString& field) const;
+
+    BuilderInputs& inputs_;
+    ReportState& state_;
+    FieldExpressions& fields_;
+    ColumnProperties& properties_;
+    GridSurface& surface_;
+    Events& events_;
+    Host& host_;
+    const LoadHooks& hooks_;
+    Control control_;
+};
+
+} // namespace zkp
