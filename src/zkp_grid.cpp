@@ -25,6 +25,9 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , accountColumns(state, columns, surface, roughTextWidth)
     , groupColumns(state, columns, columnProperties, groupFactors, surface, *host,
                    [this](int count) { setCols(count); })
+    , keyColumn(state, columns, surface)
+    , fonts(state, surface, events)
+    , marking(state, keyColumn, surface, events)
     , source(state)
     , dictionary(state)
     , settings(state.Cn)
@@ -49,8 +52,11 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , emptyReport(state, columnProperties, surface, children.Picture1, dictionary, *host, hooks)
     , sorting(inputs, fields, columnProperties, surface, events, *host, hooks,
               {[this](int row) { setRow(row); }, [this] { driver.FillGrid(); }})
-    , lifecycle(state, children, events, [this] { LoadHooks::run(hooks.DrawInterface); })
-    , surfaceEvents(state, columnProperties, surface, events, *host) {
+    , drawing(state, surface, events, fonts, marking, children.Picture1, *host)
+    , lifecycle(state, children, events, [this] { drawing.DrawInterface(); })
+    , selectionEvents(state, keyColumn, surface, events, marking, drawing, *host)
+    , surfaceEvents(state, columnProperties, surface, events, dictionary, emptyReport, selectionEvents,
+                    *host) {
     buildMenuBands(children.Picture1);
     columnProperties.resize(surface.Cols());
     connectHooks();
@@ -65,6 +71,9 @@ void ZkpGrid::Parts::connectHooks() {
     hooks.RunTimeSQLCounter = [this] { runTime.RunTimeSQLCounter(); };
     hooks.CommandFilter = [this] { return hierarchy.recordsetFilter(); };
     hooks.MakeFixedForGroup = [this] { groupColumns.MakeFixedForGroup(); };
+    hooks.DrawInterface = [this] { drawing.DrawInterface(); };
+    hooks.Selectrow = [this] { marking.Selectrow(); };
+    hooks.RedrawRow = [this](double row) { marking.RedrawRow(row); };
 }
 
 /// A count that is not above 0 is ignored.

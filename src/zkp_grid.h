@@ -201,6 +201,42 @@ public:
     /// False when it could not be stored.
     Q_INVOKABLE bool SETGeneral(int IntGenKey, int IntGenSubKey, const QString& StrGenDescription);
 
+    /// Paints the rows that show by section: colours and fonts of the kind of each row, "----" into blank
+    /// group factor cells of detail rows. Cheap, whatever the report's length. A failure shows the error
+    /// box.
+    Q_INVOKABLE void DrawInterface();
+    /// Repaints the heading row; unless `what` is 0, the group factor cells, subtotals and totals of all
+    /// rows too.
+    Q_INVOKABLE void RefreshInterface(int what = -1);
+    /// Repaints the group factor cells of all rows, or with `fromTop` False those of the last row, and
+    /// leaves them selected.
+    Q_INVOKABLE void PaintGroupBlock(const QVariant& fromTop = {});
+    /// Moves the band to the current row and raises `Selecting`; nothing without `RowSelect`.
+    Q_INVOKABLE void Selectrow();
+    /// Takes the band off a row: it gets `PreBackColor` and `PreForeColor`.
+    Q_INVOKABLE void RedrawRow(int irow);
+    /// Marks a row in colours of the host's. Colours are 32-bit numbers, blue in the high byte of the three.
+    Q_INVOKABLE void reversecolor(int MarkRow, uint mBack, uint mfore);
+    /// Paints a row with `PreBackColor` and `PreForeColor`, group factor cells included.
+    Q_INVOKABLE void Releasemark(int MarkRow);
+    Q_INVOKABLE void ReverseCell(int rw, int ClFrom, int ClTo, uint back, uint fore);
+    /// Alternating row colours, when `RowByRow` is True.
+    Q_INVOKABLE void makeRowByrow();
+    /// Size and style of one cell's font; what is left out is the surface's own. The typeface stays.
+    Q_INVOKABLE void CellFonts(int mrw, int mCl, const QVariant& mFontname = {},
+                               const QVariant& mfontsize = {}, const QVariant& mfontbold = {},
+                               const QVariant& mfontunderline = {}, const QVariant& mfontitalic = {},
+                               const QVariant& mfontstrike = {});
+    /// The same for a row, from `FixedCols` on.
+    Q_INVOKABLE void FontsRow(int mrw, const QVariant& mFontname = {}, const QVariant& mfontsize = {},
+                              const QVariant& mfontbold = {}, const QVariant& mfontunderline = {},
+                              const QVariant& mfontitalic = {}, const QVariant& mfontstrike = {});
+    /// The font of a block: from `col` (left out: behind the group factors, in row 0 the first) to
+    /// `colEnd` (the last), from `row` to `rowEnd` (`row`). Nothing for a row that is not there.
+    Q_INVOKABLE void SetCellFonts(int row, const QString& name, double size, bool bold, bool italic,
+                                  bool underline, const QVariant& col = {}, const QVariant& rowEnd = {},
+                                  const QVariant& colEnd = {});
+
     // What the place that holds the control tells it.
     Q_INVOKABLE void UserControl_Resize();
     Q_INVOKABLE void UserControl_EnterFocus();

@@ -1,11 +1,14 @@
 #pragma once
 
 #include "core/account_columns.h"
+#include "core/cell_fonts.h"
 #include "core/child_controls.h"
 #include "core/column_properties.h"
 #include "core/group_factors.h"
+#include "core/key_column.h"
 #include "core/record_source.h"
 #include "core/report_state.h"
+#include "core/row_marking.h"
 #include "load/empty_report.h"
 #include "load/group_rows.h"
 #include "load/load_driver.h"
@@ -18,7 +21,9 @@
 #include "sql/percentage_statement.h"
 #include "sql/statement_dispatch.h"
 #include "support/settings_store.h"
+#include "ui/interface_drawing.h"
 #include "ui/lifecycle.h"
+#include "ui/selection_events.h"
 #include "ui/surface_events.h"
 #include "zkp_grid.h"
 
@@ -42,6 +47,9 @@ struct ZkpGrid::Parts {
     GroupFactorFlags groupFactors;
     AccountColumns accountColumns;
     GroupColumns groupColumns;
+    KeyColumn keyColumn;
+    FontWriter fonts;
+    RowMarking marking;
     zkp::RecordSource source;
     Dictionary dictionary;
     SettingsStore settings;
@@ -67,7 +75,9 @@ struct ZkpGrid::Parts {
     LoadDriver driver;
     EmptyReport emptyReport;
     RowSorting sorting;
+    InterfaceDrawing drawing;
     Lifecycle lifecycle;
+    SelectionEvents selectionEvents;
     SurfaceEvents surfaceEvents;
 
     void setCols(int count);

@@ -2,6 +2,7 @@
 
 #include "base/number.h"
 #include "base/report_locale.h"
+#include "core/paint_scopes.h"
 #include "zkp_grid_parts.h"
 
 // The accessors that come from the property list, family by family, and the few that do more.
@@ -97,22 +98,18 @@ ZKP_COLUMN(double, ColWidth)
 ZKP_KEPT_MEMBERS(ZKP_READ_KEPT)
 
 // The heading row takes its font at once.
-#define ZKP_HEADING_FONT(Type, Name, attribute)                                                              \
+#define ZKP_HEADING_FONT(Type, Name)                                                                         \
     void ZkpGrid::set##Name(const Type& value) {                                                             \
         const auto parts = parts_;                                                                           \
         parts->state.Name = value;                                                                           \
-        StylePatch heading;                                                                                  \
-        heading.attribute = value;                                                                           \
-        if (parts->surface.FixedRows() > 0)                                                                  \
-            parts->surface.applyStyle({0, 0, parts->surface.FixedRows() - 1, parts->surface.Cols() - 1},     \
-                                      heading);                                                              \
+        parts->fonts.paintHeading();                                                                         \
         parts->events.notify(QStringLiteral(#Name));                                                         \
     }
-ZKP_HEADING_FONT(QString, FixedFontName, fontName)
-ZKP_HEADING_FONT(double, FixedFontSize, fontSize)
-ZKP_HEADING_FONT(bool, FixedFontBold, bold)
-ZKP_HEADING_FONT(bool, FixedFontItalic, italic)
-ZKP_HEADING_FONT(bool, FixedFontUnderline, underline)
+ZKP_HEADING_FONT(QString, FixedFontName)
+ZKP_HEADING_FONT(double, FixedFontSize)
+ZKP_HEADING_FONT(bool, FixedFontBold)
+ZKP_HEADING_FONT(bool, FixedFontItalic)
+ZKP_HEADING_FONT(bool, FixedFontUnderline)
 
 /// Remembered until the flags of the columns have been looked at, so that a host that only sets the
 /// text gets its groups.
@@ -129,6 +126,7 @@ void ZkpGrid::setFreezeBackColor(const Color& value) {
     GridSurface& surface = parts->surface;
     parts->state.FreezeBackColor = value;
     if (parts->state.FrozenRow && surface.FixedRows() < surface.Rows()) {
+        const SelectionQuiet quiet(parts->state);
         surface.setRow(surface.FixedRows());
         for (int c = 0; c < surface.Cols(); ++c) {
             surface.setCol(c);
@@ -138,13 +136,14 @@ void ZkpGrid::setFreezeBackColor(const Color& value) {
     parts->events.notify(QStringLiteral("FreezeBackColor"));
 }
 
-/// Also the floor of the surface's rows.
+/// Also the floor of the surface's rows; alternating colours are painted anew.
 void ZkpGrid::setMinRows(const double& value) {
     const auto parts = parts_;
     const int floor = toInt32(value);
     parts->state.MinRows = value;
     if (parts->surface.Rows() < floor)
         parts->surface.setRows(floor);
+    makeRowByrow();
     parts->events.notify(QStringLiteral("MinRows"));
 }
 

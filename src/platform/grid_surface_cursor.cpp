@@ -135,7 +135,10 @@ int GridSurface::VisibleRows() const {
 }
 
 void GridSurface::setVisibleRows(int rows) {
+    const int bottom = BottomRow();
     d->visibleRows = std::max(0, rows);
+    if (BottomRow() > bottom)
+        Data::raise(notifications.visibleRowsGrew);
 }
 
 } // namespace zkp

@@ -63,7 +63,10 @@ void GridSurface::userSelect(int row, int col) {
         return;
     SurfaceCursor next = d->cursor;
     next.moveTo(std::clamp(row, 0, rows - 1), std::clamp(col, 0, cols - 1));
-    d->moveCursor(next);
+    if (next == d->cursor)
+        Data::raise(notifications.selectedAgain);
+    else
+        d->moveCursor(next);
 }
 
 void GridSurface::userScroll(int topRow, int leftCol) {

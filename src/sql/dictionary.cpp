@@ -14,6 +14,10 @@ ado::RecordsetPtr Dictionary::recordset() {
     return recordset_;
 }
 
+bool Dictionary::isOpen() const {
+    return recordset_ && recordset_->State() == ado::adStateOpen;
+}
+
 void Dictionary::load() {
     if (!isNamed())
         return;

@@ -20,6 +20,7 @@ public:
     void loadForEmptyReport();
     /// `DictionaryRS`, made at first use; closed until something was loaded.
     ado::RecordsetPtr recordset();
+    bool isOpen() const;
     void release() { recordset_.reset(); }
 
 private:

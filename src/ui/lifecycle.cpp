@@ -29,6 +29,8 @@ void Lifecycle::initProperties() {
     surface.setFontItalic(false);
     surface.setFontUnderline(false);
     surface.setFontStrikethru(false);
+    state_.PreBackColor = surface.BackColor();
+    state_.PreForeColor = surface.ForeColor();
     StylePatch heading;
     heading.bold = state_.FixedFontBold;
     surface.applyStyle({0, 0, surface.FixedRows() - 1, surface.Cols() - 1}, heading);

@@ -27,7 +27,10 @@ void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
                 if (state_.destroyed)
                     releaseLater(alive); // the surface itself is still at work below
             });
-            handler(arguments...);
+            try {
+                handler(arguments...);
+            } catch (const ControlDestroyed&) { // whoever moved the surface finds out by itself
+            }
         };
     };
     SurfaceNotifications& on = surface_.notifications;
@@ -36,6 +39,11 @@ void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
     on.dblClick = guarded([this] { Q_EMIT events_.DblClick(); });
     on.keyDown = guarded([this](int& code, int shift) { keyDown(code, shift); });
     on.columnResized = guarded([this](int col) { properties_.setColWidth(col, surface_.ColWidth(col)); });
+    on.currentCellChanged = guarded([this] { selection_.currentCellChanged(); });
+    on.selectionChanged = guarded([this] { selection_.selectionChanged(); });
+    on.selectedAgain = guarded([this] { selection_.selectedAgain(); });
+    on.scrolled = guarded([this] { selection_.scrolled(); });
+    on.visibleRowsGrew = guarded([this] { selection_.visibleRowsGrew(); });
 }
 
 void SurfaceEvents::mouseDown(const SurfaceMouse& mouse) {
@@ -76,7 +84,11 @@ bool SurfaceEvents::preparesHeadingDrag() {
     return true;
 }
 
+/// The first click on a control that has loaded nothing shows the report's shape.
 void SurfaceEvents::click() {
+    if (!dictionary_.isOpen())
+        emptyReport_.prepare();
+    state_.throwIfDestroyed();
     if (surface_.Col() < 0)
         return;
     state_.LastClickedCol = surface_.Col();

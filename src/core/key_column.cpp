@@ -1,0 +1,22 @@
+#include "core/key_column.h"
+
+#include "base/number.h"
+#include "support/utility.h"
+
+namespace zkp {
+
+double KeyColumn::FindKeyColumn() const {
+    for (int c = 0; c < surface_.Cols(); ++c)
+        if (columns_.ofGridColumn(c).Index_Key)
+            return c;
+    return -1;
+}
+
+void KeyColumn::takeKey() {
+    const int column = toInt32(FindKeyColumn());
+    if (column < 0 || surface_.Row() >= surface_.Rows())
+        return;
+    state_.indkey = ToDouble(surface_.TextMatrix(surface_.Row(), column), surface_.locale()).toDouble();
+}
+
+} // namespace zkp

@@ -1,0 +1,112 @@
+#include "core/row_marking.h"
+
+#include "base/number.h"
+#include "base/scope_guard.h"
+#include "core/paint_scopes.h"
+
+namespace zkp {
+
+void RowMarking::Selectrow() {
+    if (!state_.RowSelect || isHeading(surface_.Row()) || !hasCurrentCell())
+        return;
+    {
+        const RedrawOff still(surface_);
+        const SelectionQuiet quiet(state_);
+        RedrawRow(state_.PreRow);
+        state_.PaintReady = false; // RedrawRow has raised it
+        RememberRowColours();
+        state_.PreRow = surface_.Row();
+        surface_.setFillStyle(1);
+        paint(bandOf(surface_.Row()), {surface_.look().BackColorSel, surface_.look().ForeColorSel});
+        selectCurrentCell(surface_);
+    }
+    key_.takeKey();
+    Q_EMIT events_.Selecting();
+    state_.throwIfDestroyed();
+}
+
+/// The last column is the one that group cells can't have touched.
+void RowMarking::RememberRowColours() {
+    if (isHeading(surface_.Row())) {
+        state_.PreBackColor = surface_.BackColor();
+        state_.PreForeColor = surface_.ForeColor();
+        return;
+    }
+    const CellStyle style = surface_.styleAt(surface_.Row(), lastCol());
+    state_.PreBackColor = style.backColor;
+    state_.PreForeColor = style.foreColor;
+}
+
+/// A row beyond the bound, which with several fixed rows is short of the last row, is not chosen: the
+/// selection that stands is painted instead. Wanted. No fixed row carries a band.
+void RowMarking::RedrawRow(double given) {
+    const int row = toInt32(given);
+    if (row < surface_.FixedRows())
+        return;
+    const RedrawOff still(surface_);
+    const ScopeGuard ready([this] { state_.PaintReady = true; });
+    state_.PaintReady = false;
+    const bool chosen = row <= surface_.Rows() - surface_.FixedRows();
+    paint(chosen ? bandOf(row) : surface_.selection(), {state_.PreBackColor, state_.PreForeColor});
+    if (surface_.ColSel() == 0) // a corner in the first column does not come back, as wanted
+        surface_.setColSel(surface_.Col());
+}
+
+void RowMarking::Releasemark(int row) {
+    const RedrawOff still(surface_);
+    const SelectionQuiet quiet(state_);
+    surface_.setFillStyle(1);
+    paint({row, surface_.FixedCols(), row, lastCol()}, {state_.PreBackColor, state_.PreForeColor});
+    selectCurrentCell(surface_);
+}
+
+void RowMarking::reversecolor(int row, Color back, Color fore) {
+    const RedrawOff still(surface_);
+    const SelectionQuiet quiet(state_);
+    surface_.setFillStyle(1);
+    paint({row, 0, row, lastCol()}, {back, fore});
+    selectCurrentCell(surface_);
+    if (surface_.Row() != row)
+        return;
+    state_.PreRow = row;
+    RememberRowColours();
+    Selectrow();
+}
+
+void RowMarking::ReverseCell(int row, int from, int to, Color back, Color fore) {
+    const RedrawOff still(surface_);
+    const SelectionQuiet quiet(state_);
+    surface_.setFillStyle(1);
+    surface_.applyStyle({row, from, row, to}, patchOf({back, fore}));
+    selectCurrentCell(surface_);
+}
+
+void RowMarking::makeRowByrow() {
+    if (!state_.RowByRow)
+        return;
+    const RedrawOff still(surface_);
+    const SelectionQuiet quiet(state_);
+    surface_.setFillStyle(1);
+    const int first = surface_.FixedRows();
+    if (first < surface_.Rows())
+        paint({first, surface_.FixedCols(), surface_.Rows() - 1, lastCol()},
+              {surface_.BackColor(), surface_.ForeColor()});
+    for (int row = first; row < surface_.Rows(); ++row)
+        if (row % 2 > 0)
+            reversecolor(row, state_.Row1BackColor, state_.Row1ForeColor);
+}
+
+/// Nothing to paint where the group factors or fixed columns are all the columns there are.
+void RowMarking::paint(const CellRange& cells, const Colours& colours) {
+    if (cells.left <= lastCol())
+        surface_.applyStyle(cells, patchOf(colours));
+}
+
+StylePatch RowMarking::patchOf(const Colours& colours) {
+    StylePatch patch;
+    patch.backColor = colours.back;
+    patch.foreColor = colours.fore;
+    return patch;
+}
+
+} // namespace zkp

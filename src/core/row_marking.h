@@ -1,0 +1,56 @@
+#pragma once
+
+#include "core/events.h"
+#include "core/key_column.h"
+#include "core/report_state.h"
+#include "platform/grid_surface.h"
+
+namespace zkp {
+
+/// The coloured band on the current row (with `RowSelect`), and rows that the host marks. What a band
+/// covers is remembered and comes back when it leaves.
+///
+/// Apart from `RedrawRow` the routines leave the selection on the current cell and `FillStyle` at 1.
+class RowMarking {
+public:
+    RowMarking(ReportState& state, KeyColumn& key, GridSurface& surface, Events& events)
+        : state_(state)
+        , key_(key)
+        , surface_(surface)
+        , events_(events) {}
+
+    /// Moves the band to the current row and raises `Selecting`. Nothing without `RowSelect`, nor on
+    /// the heading row.
+    void Selectrow();
+    /// Paints a row, group factor cells included, with the colours that the band covers.
+    void Releasemark(int row);
+    /// Marks a row. Under the band it takes the new colours for those to come back.
+    void reversecolor(int row, Color back, Color fore);
+    void ReverseCell(int row, int from, int to, Color back, Color fore);
+    /// Takes the band off a row. Leaves `PaintReady` True, whatever it was.
+    void RedrawRow(double row);
+    /// Alternating row colours, with `RowByRow`.
+    void makeRowByrow();
+
+private:
+    struct Colours {
+        Color back;
+        Color fore;
+    };
+
+    void RememberRowColours();
+    void paint(const CellRange& cells, const Colours& colours);
+    static StylePatch patchOf(const Colours& colours);
+    bool hasCurrentCell() const { return surface_.Row() < surface_.Rows() && surface_.Cols() > 0; }
+    /// Group factor cells stay in their own colours.
+    CellRange bandOf(int row) const { return {row, state_.GroupFactorCount, row, lastCol()}; }
+    bool isHeading(int row) const { return row == surface_.FixedRows() - 1; }
+    int lastCol() const { return surface_.Cols() - 1; }
+
+    ReportState& state_;
+    KeyColumn& key_;
+    GridSurface& surface_;
+    Events& events_;
+};
+
+} // namespace zkp

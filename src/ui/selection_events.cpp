@@ -1,0 +1,48 @@
+#include "ui/selection_events.h"
+
+namespace zkp {
+
+void SelectionEvents::currentCellChanged() {
+    if (!state_.PaintReady)
+        return;
+    if (state_.ContentSeen)
+        key_.takeKey();
+    if (state_.PreRow != surface_.Row())
+        marking_.Selectrow();
+    host_.setPointer(kPointerDefault);
+}
+
+void SelectionEvents::selectionChanged() {
+    if (!state_.PaintReady)
+        return;
+    state_.LastClickedCol = surface_.Col();
+    if (state_.ContentSeen)
+        key_.takeKey();
+    Q_EMIT events_.Selecting();
+}
+
+void SelectionEvents::selectedAgain() {
+    marking_.Selectrow();
+    selectionChanged();
+}
+
+/// A move to the side repaints nothing.
+void SelectionEvents::scrolled() {
+    if (!state_.ReportRecordset || !state_.PaintReady)
+        return;
+    if (surface_.LeftCol() != state_.SavedLeftCol) {
+        state_.SavedLeftCol = surface_.LeftCol();
+        return;
+    }
+    if (surface_.TopRow() == state_.SavedTopRow)
+        return;
+    state_.SavedTopRow = surface_.TopRow();
+    drawing_.DrawInterface();
+}
+
+void SelectionEvents::visibleRowsGrew() {
+    if (state_.ReportRecordset && state_.PaintReady)
+        drawing_.DrawInterface();
+}
+
+} // namespace zkp
