@@ -31,7 +31,8 @@ TEST_F(RowReaderTest, SummedColumnsAreFormattedWhateverTheirType) {
     grid->setColTotals(1, true);
     fill();
     grid->refresh();
-    EXPECT_EQ(report(), (QStringList{u"1: 1,00 | 0,25"_s, u"1: 2,00 | 0,00"_s, u"1: 3,00 | 12,50"_s}));
+    EXPECT_EQ(report(), (QStringList{u"1: 1,00 | 0,25"_s, u"1: 2,00 | 0,00"_s, u"1: 3,00 | 12,50"_s,
+                                     u"10: 6,00 | 12,75"_s}));
     EXPECT_EQ(grid->MSFlexGrid1().ColDataType(0), 6);
 }
 
@@ -43,7 +44,8 @@ TEST_F(RowReaderTest, SummedColumnsFollowEuroVerUnlessTheyAreABalance) {
     grid->setEuroVer(false);
     fill();
     grid->refresh();
-    EXPECT_EQ(report(), (QStringList{u"1: 0 | 0,25"_s, u"1: 0 | 0,00"_s, u"1: 13 | 12,50"_s}));
+    EXPECT_EQ(report(),
+              (QStringList{u"1: 0 | 0,25"_s, u"1: 0 | 0,00"_s, u"1: 13 | 12,50"_s, u"10: 13 | 12,75"_s}));
 }
 
 TEST_F(RowReaderTest, ABalanceThatIsNotSummedGoesByItsType) {
