@@ -144,9 +144,12 @@ void LoadDriver::openBySourceType() {
         break;
     case ZKP_RecordSet: {
         const QString text = source_.text();
+        const QString sort = state_.ReportRecordset->Sort(); // what sorting by a column has just set
         const auto records = isBlank(text) ? openText(detailStatement(), ado::adOpenKeyset)
                                            : openText(text, ado::adOpenStatic);
         records->Requery();
+        if (!sort.isEmpty())
+            records->setSort(sort);
         break;
     }
     case ZKP_Command:
