@@ -25,9 +25,9 @@ protected:
               "[Min] integer, [Max] integer, crosstabdate text, SOURCEFIELDNAME text, "
               "SourceTableName text, Expr text, KeyMaster text, foreignkey text)"_s,
               u"insert into CLMNS values "
-              "('PRODUCT','α',1,1,1,0,1,1,0,0,0,0,'','PRODUCT','POLICIES','','',''), "
-              "('PREMIUM','β',1,1,0,1,1,1,1,0,0,0,'','PREMIUM','POLICIES','','',''), "
-              "('CODE','γ',1,1,0,0,1,1,0,0,0,0,'','CODE','POLICIES','','','')"_s})
+              "('PRODUCT','α',1,1,1,0,1,1,0,0,0,0,0,'PRODUCT','POLICIES','','',''), "
+              "('PREMIUM','β',1,1,0,1,1,1,1,0,0,0,0,'PREMIUM','POLICIES','','',''), "
+              "('CODE','γ',1,1,0,0,1,1,0,0,0,0,0,'CODE','POLICIES','','','')"_s})
             connection->Execute(statement);
         grid->setCn(connection);
         grid->setCols(3);
