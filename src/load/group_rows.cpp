@@ -45,11 +45,11 @@ GroupShape GroupRows::shapeOfReport() const {
 }
 
 bool GroupRows::InitTotalsGrid() {
-    const GroupShape shape = shapeOfReport();
-    if (shape.summed.empty())
+    sums_.clear(shapeOfReport(), surface_.locale());
+    if (sums_.shape().summed.empty())
         return false;
     state_.TotalsNeeded = true; // only ever raised, as wanted
-    sums_.start(shape, surface_.locale(), SurfaceRow(surface_, kFirstRow));
+    sums_.start(SurfaceRow(surface_, kFirstRow));
     surface_.setRows(surface_.Rows() + 2);
     surface_.setRowData(surface_.Rows() - 1, ZKPTotals);
     return true;
@@ -135,7 +135,7 @@ void GroupRows::showAccumulator(GridSurface& accumulator) const {
     accumulator.Clear();
     accumulator.setRows(std::max(sums_.rows(), accumulator.FixedRows()));
     accumulator.setCols(columns);
-    for (int row = 1; row < sums_.rows(); ++row)
+    for (int row = 0; row < sums_.rows(); ++row)
         for (int c = 0; c < columns; ++c)
             accumulator.setTextMatrix(row, c, sums_.text(row, c));
 }

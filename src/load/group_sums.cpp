@@ -20,17 +20,20 @@ void GroupSums::add(Cell& cell, const Decimal& number) {
     cell.isSum = true;
 }
 
-void GroupSums::start(const GroupShape& shape, const ReportLocale& locale, const GroupRow& first) {
+void GroupSums::clear(const GroupShape& shape, const ReportLocale& locale) {
     shape_ = shape;
     locale_ = locale;
     cells_.assign(static_cast<std::size_t>(rows()) * static_cast<std::size_t>(shape.columns), {});
-    for (int c = 0; c < shape.columns; ++c) {
-        at(shape.factors, c).text = QStringLiteral("  ");
+}
+
+void GroupSums::start(const GroupRow& first) {
+    for (int c = 0; c < shape_.columns; ++c) {
+        at(shape_.factors, c).text = QStringLiteral("  ");
         at(rows() - 1, c).text = QStringLiteral(" ");
     }
-    for (const int c : shape.summed)
-        at(shape.factors, c) = at(rows() - 1, c) = taken(first, c, true);
-    for (int k = 0; k <= shape.lastLevel(); ++k)
+    for (const int c : shape_.summed)
+        at(shape_.factors, c) = at(rows() - 1, c) = taken(first, c, true);
+    for (int k = 0; k <= shape_.lastLevel(); ++k)
         open(k, first);
 }
 

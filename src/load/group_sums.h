@@ -44,8 +44,10 @@ struct GroupShape {
 /// own texts and counts on from there. Where a factor is also summed, key and sum share one cell, as wanted.
 class GroupSums {
 public:
+    /// Blank cells for a report of that shape.
+    void clear(const GroupShape& shape, const ReportLocale& locale);
     /// The first record opens a group on every level and the grand sums.
-    void start(const GroupShape& shape, const ReportLocale& locale, const GroupRow& first);
+    void start(const GroupRow& first);
     const GroupShape& shape() const { return shape_; }
     int rows() const { return shape_.factors + 2; }
 

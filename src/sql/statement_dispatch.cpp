@@ -3,6 +3,7 @@
 #include "base/error.h"
 #include "base/number.h"
 #include "base/text.h"
+#include "sql/group_order.h"
 
 namespace zkp {
 
@@ -39,6 +40,8 @@ void StatementDispatch::OpenTotalRecordset() {
         throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"), QStringLiteral("Cn"));
     state.Cn->setCommandTimeout(seconds(kTotalsTime));
     records->Open(statement, state.Cn, ado::adOpenStatic);
+    if (composesAtRunTime() && !statement.contains(u"order by", Qt::CaseInsensitive))
+        keepGroupsTogether(*records, state.GroupFactors);
     if (state.HasPercentColumns)
         state.TotalsRecordset = records->Clone();
     state.Cn->setCommandTimeout(seconds(kNormalTime));

@@ -34,7 +34,10 @@ protected:
         shape.summed = {2};
     }
 
-    void start(const QString& record) { sums.start(shape, kGreek, TextRow(record)); }
+    void start(const QString& record) {
+        sums.clear(shape, kGreek);
+        sums.start(TextRow(record));
+    }
 
     void goOn(const QString& record) {
         sums.addToGrandSums(TextRow(record));
