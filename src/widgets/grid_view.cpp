@@ -74,12 +74,16 @@ const PageLayout& GridView::page() {
     return page_;
 }
 
+void GridView::postSync() {
+    if (syncPosted_)
+        return;
+    syncPosted_ = true;
+    QCoreApplication::postEvent(this, new QEvent(syncEvent()));
+}
+
 /// Cheap, since a load calls it for every cell: what follows comes once, with the events.
 void GridView::invalidate() {
-    if (!syncPosted_) {
-        syncPosted_ = true;
-        QCoreApplication::postEvent(this, new QEvent(syncEvent()));
-    }
+    postSync();
     if (stale_)
         return;
     stale_ = true;
@@ -92,7 +96,12 @@ void GridView::layOutNow() {
     // Rows that come later show in the room below the last one.
     const int rowHeight = page_.rows.empty() ? 1 : page_.rows.back().size;
     const int room = std::max(0, page_.size.height() - page_.bottom());
-    surface_->setVisibleRows(std::max(1, page_.shownRows() + (room + rowHeight - 1) / rowHeight));
+    roomForRows_ = std::max(1, page_.shownRows() + (room + rowHeight - 1) / rowHeight);
+    // More rows are a notification, which must not come in the middle of a paint.
+    if (surface_->VisibleRows() != 0 && surface_->VisibleRows() < roomForRows_)
+        postSync();
+    else
+        surface_->setVisibleRows(roomForRows_);
 }
 
 void GridView::syncBars() {
@@ -115,11 +124,12 @@ bool GridView::event(QEvent* event) {
     if (event->type() != syncEvent())
         return QAbstractScrollArea::event(event);
     syncPosted_ = false;
-    if (surface_) {
-        setEnabled(surface_->look().Enabled);
-        syncBars();
+    if (!surface_)
+        return true;
+    setEnabled(surface_->look().Enabled);
+    syncBars();
+    if (report([this](GridSurface& surface) { surface.setVisibleRows(roomForRows_); }))
         Q_EMIT surfaceChanged();
-    }
     return true;
 }
 
@@ -205,10 +215,7 @@ void GridView::onRowChanged(int row) {
         return;
     viewport()->update(QRect(0, span->start, page_.size.width(), span->size));
     viewport()->update(mergedColumns());
-    if (!syncPosted_) {
-        syncPosted_ = true;
-        QCoreApplication::postEvent(this, new QEvent(syncEvent()));
-    }
+    postSync();
 }
 
 QRegion GridView::mergedColumns() const {

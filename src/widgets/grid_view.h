@@ -71,6 +71,7 @@ protected:
 
 private:
     void invalidate();
+    void postSync();
     void layOutNow();
     void syncBars();
     void onScrolled();
@@ -104,6 +105,7 @@ private:
     bool selecting_ = false;
     QBasicTimer selectTimer_;
     Qt::CursorShape pointer_ = Qt::ArrowCursor;
+    int roomForRows_ = 1;
     bool stale_ = true; // the page no longer says what is on screen
     bool syncPosted_ = false;
     bool syncing_ = false; // the bars are being set, not moved

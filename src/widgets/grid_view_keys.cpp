@@ -74,12 +74,13 @@ bool GridView::moveByKey(int code, int shift) {
     const std::optional<CellPlace> to = cellByKey(*surface_, from, code, shift, rows);
     if (!to || (shift & kAlt) != 0)
         return false;
-    const bool alive = report([&](GridSurface& surface) {
-        if (extend)
-            surface.Select(surface.Row(), surface.Col(), to->row, to->col);
-        else
-            surface.userSelect(to->row, to->col);
-    });
+    const bool stays = *to == from && *to == CellPlace{surface_->RowSel(), surface_->ColSel()};
+    const bool alive = stays || report([&](GridSurface& surface) {
+                           if (extend)
+                               surface.Select(surface.Row(), surface.Col(), to->row, to->col);
+                           else
+                               surface.userSelect(to->row, to->col);
+                       });
     if (alive)
         showCell(*to);
     return true;
@@ -91,7 +92,9 @@ bool GridView::showCell(CellPlace cell) {
     const int left = firstToShow(shown.colAxis, cell.col);
     if (top == surface_->TopRow() && left == surface_->LeftCol())
         return true;
-    return report([&](GridSurface& surface) { surface.userScroll(top, left); });
+    // One direction after the other: of a move in both, a listener takes note of the one to the side alone.
+    return report([&](GridSurface& surface) { surface.userScroll(top, surface.LeftCol()); }) &&
+           report([&](GridSurface& surface) { surface.userScroll(surface.TopRow(), left); });
 }
 
 } // namespace zkp

@@ -69,8 +69,8 @@ void GridView::startSelecting(CellPlace cell, CellPlace anchor, bool extend) {
     const bool alive = report([&](GridSurface& surface) {
         if (extend && anchor.row < surface.Rows() && anchor.col < surface.Cols())
             surface.Select(anchor.row, anchor.col, cell.row, cell.col);
-        else
-            surface.userSelect(cell.row, cell.col);
+        else if (cell == anchor || cell != CellPlace{surface.Row(), surface.Col()})
+            surface.userSelect(cell.row, cell.col); // unless the press itself has moved there
     });
     if (alive)
         showCell(cell);

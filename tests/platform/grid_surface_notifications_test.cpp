@@ -22,7 +22,9 @@ struct Heard {
         surface.setCols(3);
         surface.notifications.currentCellChanged = [this] { said += u("cell"); };
         surface.notifications.selectionChanged = [this] { said += u("selection"); };
+        surface.notifications.selectedAgain = [this] { said += u("again"); };
         surface.notifications.scrolled = [this] { said += u("scrolled"); };
+        surface.notifications.visibleRowsGrew = [this] { said += u("more"); };
     }
 
     QString take() {
@@ -114,6 +116,38 @@ TEST(SurfaceNotifications, WhatTheUserSelectsIsClampedToTheSurface) {
     h.surface.userSelect(-3, -3);
     EXPECT_EQ(h.surface.Row(), 0);
     EXPECT_EQ(h.surface.Col(), 0);
+}
+
+TEST(SurfaceNotifications, TheCellThatIsCurrentAlreadyIsSelectedAgainByAUserOnly) {
+    Heard h;
+    h.surface.userSelect(3, 1);
+    h.take();
+    h.surface.userSelect(3, 1);
+    EXPECT_EQ(h.take(), u("again"));
+    h.surface.Select(3, 1);
+    EXPECT_EQ(h.take(), QString());
+    h.surface.setRowSel(5);
+    h.take();
+    h.surface.userSelect(3, 1);
+    EXPECT_EQ(h.take(), u("selection")) << "the block shrinks to it";
+}
+
+TEST(SurfaceNotifications, MoreVisibleRowsAreToldWhenMoreShow) {
+    Heard h;
+    h.surface.setVisibleRows(4);
+    EXPECT_EQ(h.take(), QString()) << "all were visible before";
+    h.surface.setVisibleRows(6);
+    EXPECT_EQ(h.take(), u("more"));
+    h.surface.setVisibleRows(5);
+    h.surface.setVisibleRows(5);
+    EXPECT_EQ(h.take(), QString());
+    h.surface.setVisibleRows(0);
+    EXPECT_EQ(h.take(), u("more"));
+    h.surface.setVisibleRows(4);
+    h.surface.setTopRow(8);
+    h.take();
+    h.surface.setVisibleRows(40);
+    EXPECT_EQ(h.take(), QString()) << "the last row showed already";
 }
 
 TEST(SurfaceNotifications, AListenerMayMoveTheCellOn) {

@@ -47,6 +47,29 @@ TEST_F(GridViewKeys, TheCurrentCellIsScrolledIntoView) {
     EXPECT_EQ(surface->Row(), 9);
 }
 
+TEST_F(GridViewKeys, AKeyWithNowhereToGoTellsNothing) {
+    int told = 0;
+    surface->notifications.selectedAgain = [&] { ++told; };
+    surface->notifications.selectionChanged = [&] { ++told; };
+    key(Qt::Key_Up);
+    key(Qt::Key_Left);
+    EXPECT_EQ(told, 0);
+    surface->Select(1, 0, 4, 0);
+    key(Qt::Key_Up);
+    EXPECT_EQ(told, 2) << "but a block shrinks to the cell";
+    EXPECT_EQ(surface->selection(), (CellRange{1, 0, 1, 0}));
+}
+
+/// A listener counts a move in both directions as one to the side, which brings no new row into sight.
+TEST_F(GridViewKeys, AJumpIntoTheOtherCornerScrollsInOneDirectionAfterTheOther) {
+    view->resize(250, 210);
+    settle();
+    std::vector<std::pair<int, int>> places;
+    surface->notifications.scrolled = [&] { places.emplace_back(surface->TopRow(), surface->LeftCol()); };
+    key(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_THAT(places, ElementsAre(std::pair(91, 0), std::pair(91, 2)));
+}
+
 TEST_F(GridViewKeys, TheSurfaceHearsOfKeysByTheirCodes) {
     std::vector<std::pair<int, int>> heard;
     std::vector<int> typed;

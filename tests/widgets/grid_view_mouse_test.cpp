@@ -82,6 +82,21 @@ TEST_F(GridViewMouse, DraggingBelowTheEdgeScrolls) {
     release({150, 230});
 }
 
+TEST_F(GridViewMouse, AClickOnTheCurrentCellChoosesItAgain) {
+    int cells = 0;
+    int again = 0;
+    surface->notifications.currentCellChanged = [&] { ++cells; };
+    surface->notifications.selectedAgain = [&] { ++again; };
+    click(cell(3, 2));
+    EXPECT_EQ(again, 0);
+    click(cell(3, 2));
+    EXPECT_EQ(again, 1);
+    surface->notifications.mouseDown = [this](const SurfaceMouse& mouse) { surface->setCol(mouse.col); };
+    click(cell(3, 1));
+    EXPECT_EQ(again, 1) << "the press itself has moved to that cell";
+    EXPECT_EQ(cells, 2);
+}
+
 TEST_F(GridViewMouse, ADoubleClickIsReportedOnce) {
     click(cell(3, 2));
     told.clear();

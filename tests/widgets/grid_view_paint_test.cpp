@@ -220,6 +220,20 @@ TEST_F(GridViewPaint, TheViewSaysHowManyRowsShow) {
     EXPECT_EQ(surface->VisibleRows(), 20) << "rows that come later show in the room that is left";
 }
 
+TEST_F(GridViewPaint, MoreRowsAreToldWithTheEventsAndNotInAPaint) {
+    int told = 0;
+    surface->notifications.visibleRowsGrew = [&] { ++told; };
+    view->resize(500, 410);
+    view->viewport()->grab();
+    EXPECT_EQ(told, 0);
+    settle();
+    EXPECT_EQ(told, 1);
+    view->resize(500, 210);
+    settle();
+    EXPECT_EQ(told, 1) << "fewer";
+    EXPECT_EQ(surface->VisibleRows(), 10);
+}
+
 TEST_F(GridViewPaint, TheBarsCoverTheReportAndFollowIt) {
     EXPECT_EQ(view->verticalScrollBar()->minimum(), 1);
     EXPECT_EQ(view->verticalScrollBar()->maximum(), 91) << "nine rows show wholly: 91 to 99";

@@ -97,6 +97,48 @@ TEST_F(ZkpGridWidgetTest, AWidenedColumnReachesTheColumnRecord) {
     EXPECT_DOUBLE_EQ(grid().ColWidth(0), (first.size + 40) * 15);
 }
 
+TEST_F(ZkpGridWidgetTest, RowsThatAScrollOrABiggerWindowBringsIntoSightArePainted) {
+    grid().setSourceType(ZKP_RecordSet);
+    grid().setRecordSource(QVariant::fromValue(std::make_shared<ado::Recordset>()));
+    GridSurface& surface = grid().MSFlexGrid1();
+    grid().setRows(200);
+    settle();
+    const Color mark = 0x112233;
+    for (int row = 1; row < 200; ++row) {
+        surface.setRowData(row, ZKPSingleRow);
+        grid().ReverseCell(row, 0, grid().Cols() - 1, mark, 0);
+    }
+    const auto isPainted = [&](int row) { return surface.styleAt(row, 0).backColor != mark; };
+    const int shown = surface.BottomRow();
+    form.resize(600, 600);
+    settle();
+    EXPECT_GT(surface.BottomRow(), shown);
+    EXPECT_TRUE(isPainted(surface.BottomRow()));
+    EXPECT_FALSE(isPainted(surface.BottomRow() + 1));
+    QTest::keyClick(&widget->view(), Qt::Key_End, Qt::ControlModifier);
+    EXPECT_TRUE(isPainted(199));
+    EXPECT_TRUE(isPainted(surface.TopRow()));
+    EXPECT_FALSE(isPainted(surface.TopRow() - 1));
+}
+
+TEST_F(ZkpGridWidgetTest, TheWidgetMayBeDestroyedWhenMoreRowsArePainted) {
+    grid().setSourceType(ZKP_RecordSet);
+    grid().setRecordSource(QVariant::fromValue(std::make_shared<ado::Recordset>()));
+    grid().setRows(200);
+    settle();
+    QObject::connect(&grid().events(), &Events::StartInterface, &form, [this] { delete widget.data(); });
+    form.resize(600, 600);
+    settle();
+    EXPECT_TRUE(widget.isNull());
+}
+
+TEST_F(ZkpGridWidgetTest, TheControlMayBeDestroyedWhenARowIsChosen) {
+    QObject::connect(&grid().events(), &Events::Selecting, &form, [this] { delete &grid(); });
+    QTest::mouseClick(widget->view().viewport(), Qt::LeftButton, {}, {10, 60});
+    settle();
+    EXPECT_FALSE(form.grab().isNull());
+}
+
 TEST_F(ZkpGridWidgetTest, TheFocusGoesToTheSurface) {
     form.activateWindow();
     widget->setFocus();
