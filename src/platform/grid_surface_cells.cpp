@@ -10,10 +10,11 @@ namespace zkp {
 
 QString GridSurface::Data::cellText(int row, int col) const {
     const RowId id = order.at(row);
-    if (id == kNoRow)
-        return {};
+    return id == kNoRow ? QString() : textOf(id, columns.id(col));
+}
+
+QString GridSurface::Data::textOf(RowId id, ColumnId column) const {
     ++costs.textsMade;
-    const ColumnId column = columns.id(col);
     if (const std::optional<QString> own = texts.text(id, column))
         return *own;
     const RowRecord& record = rows.at(id);
@@ -21,16 +22,13 @@ QString GridSurface::Data::cellText(int row, int col) const {
     return binding ? boundText(*binding, record.record, locale) : QString();
 }
 
-std::optional<double> GridSurface::Data::cellNumber(int row, int col) const {
-    const RowId id = order.at(row);
-    if (id == kNoRow)
-        return std::nullopt;
+std::optional<double> GridSurface::Data::numberOf(RowId id, ColumnId column) const {
     const RowRecord& record = rows.at(id);
-    const CellBinding* binding = bindingOf(record, columns.id(col));
-    if (binding && !texts.has(id, columns.id(col)))
+    const CellBinding* binding = bindingOf(record, column);
+    if (binding && !texts.has(id, column))
         if (const std::optional<double> number = boundNumber(*binding, record.record))
             return number;
-    return toNumber(cellText(row, col), locale);
+    return toNumber(textOf(id, column), locale);
 }
 
 const CellBinding* GridSurface::Data::bindingOf(const RowRecord& record, ColumnId column) const {

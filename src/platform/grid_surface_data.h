@@ -9,6 +9,7 @@
 #include "platform/surface_columns.h"
 #include "platform/surface_cursor.h"
 
+#include <span>
 #include <unordered_set>
 
 namespace zkp {
@@ -75,18 +76,19 @@ struct GridSurface::Data {
     const CellBinding* bindingOf(const RowRecord& record, ColumnId column) const;
 
     QString cellText(int row, int col) const;
+    QString textOf(RowId id, ColumnId column) const;
     /// The number that the cell's text is in the locale.
-    std::optional<double> cellNumber(int row, int col) const;
+    std::optional<double> numberOf(RowId id, ColumnId column) const;
     bool isCellBlank(RowId id, ColumnId column) const;
-    /// Visits consecutive rows that have an id with f(record, binding); no binding where the cell shows
-    /// nothing of a record.
+
+    using RowIds = std::span<const RowId>;
     template <class F>
-    void forEachCell(int top, int count, int col, F f) const;
-    SortKeys columnNumbers(int top, int count, int col) const;
-    DistinctTexts columnTexts(int top, int count, int col) const;
-    SortKeys sortKeys(int code, int top, int count, int col) const;
+    static void forEachInMemoryOrder(RowIds ids, F f);
+    SortKeys columnNumbers(RowIds ids, ColumnId column) const;
+    std::optional<SortKeys> numbersOfAll(RowIds ids, ColumnId column) const;
+    DistinctTexts columnTexts(RowIds ids, ColumnId column) const;
+    SortKeys sortKeys(int code, RowIds ids, int col) const;
     std::vector<int> customOrder(const CellRange& block);
-    void putInOrder(int top, const std::vector<int>& sorted);
     void writeText(int row, int col, const QString& text);
     void applyPiece(const StylePiece& piece, const StylePatch& patch);
     CellRange filledBlock() const;

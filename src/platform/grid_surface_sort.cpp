@@ -1,9 +1,7 @@
 #include "platform/grid_surface.h"
 
 #include "base/error.h"
-#include "base/number.h"
 #include "base/scope_guard.h"
-#include "platform/cell_text.h"
 #include "platform/grid_surface_data.h"
 
 #include <algorithm>
@@ -51,66 +49,89 @@ private:
     std::vector<int>* numbers_ = nullptr;
 };
 
-} // namespace
-
-template <class F>
-void GridSurface::Data::forEachCell(int top, int count, int col, F f) const {
-    const ColumnId column = columns.id(col);
-    order.forEachRun(top, count, [&](const RowRun& run) {
-        const RowId end = run.first + static_cast<RowId>(run.count);
-        for (RowId id = run.first; id < end; ++id) {
-            const RowRecord& record = rows.at(id);
-            f(record.record, texts.has(id, column) ? nullptr : bindingOf(record, column));
-        }
-    });
+/// Whether the cell shows a text just as the record has it.
+bool showsStoredText(const CellBinding& binding, std::uint32_t record) {
+    return binding.format == CellFormat::OwnText && binding.column && record < binding.column->size() &&
+           binding.column->kind(record) == store::ValueKind::Text;
 }
 
-SortKeys GridSurface::Data::columnNumbers(int top, int count, int col) const {
+} // namespace
+
+/// f(i, ids[i]) in the order in which the rows lie in memory, as far as it differs: rows that an earlier
+/// sort has mixed are read one behind the other nevertheless.
+template <class F>
+void GridSurface::Data::forEachInMemoryOrder(RowIds ids, F f) {
+    const auto [low, high] = std::minmax_element(ids.begin(), ids.end());
+    const std::size_t span = *high - *low + 1;
+    const bool isMixed = !std::is_sorted(ids.begin(), ids.end());
+    if (!isMixed || span / 4 > ids.size()) { // not for a few rows out of many
+        for (std::size_t i = 0; i < ids.size(); ++i)
+            f(i, ids[i]);
+        return;
+    }
+    constexpr std::uint32_t kNone = UINT32_MAX;
+    std::vector<std::uint32_t> placeOf(span, kNone);
+    for (std::size_t i = 0; i < ids.size(); ++i)
+        placeOf[ids[i] - *low] = static_cast<std::uint32_t>(i);
+    for (std::size_t at = 0; at < span; ++at)
+        if (placeOf[at] != kNone)
+            f(placeOf[at], *low + static_cast<RowId>(at));
+}
+
+SortKeys GridSurface::Data::columnNumbers(RowIds ids, ColumnId column) const {
+    SortKeys keys(ids.size());
+    forEachInMemoryOrder(ids, [&](std::size_t i, RowId id) { keys[i] = numberOf(id, column).value_or(0); });
+    return keys;
+}
+
+/// The same, when every text is a number or blank.
+std::optional<SortKeys> GridSurface::Data::numbersOfAll(RowIds ids, ColumnId column) const {
     SortKeys keys;
-    keys.reserve(static_cast<std::size_t>(count));
-    forEachCell(top, count, col, [&](std::uint32_t record, const CellBinding* binding) {
-        std::optional<double> number = binding ? boundNumber(*binding, record) : std::nullopt;
-        if (!number)
-            number = toNumber(cellText(top + static_cast<int>(keys.size()), col), locale);
+    keys.reserve(ids.size());
+    for (const RowId id : ids) {
+        const std::optional<double> number = numberOf(id, column);
+        if (!number && !isCellBlank(id, column))
+            return std::nullopt;
         keys.push_back(number.value_or(0));
-    });
+    }
     return keys;
 }
 
 /// A text that the records keep once is made once.
-DistinctTexts GridSurface::Data::columnTexts(int top, int count, int col) const {
+DistinctTexts GridSurface::Data::columnTexts(RowIds ids, ColumnId column) const {
     DistinctTexts distinct;
-    distinct.ofRow.reserve(static_cast<std::size_t>(count));
+    distinct.ofRow.resize(ids.size());
     TextCodeNumbers known;
-    forEachCell(top, count, col, [&](std::uint32_t record, const CellBinding* binding) {
-        const auto text = [&] { return cellText(top + static_cast<int>(distinct.ofRow.size()), col); };
-        const bool showsText = binding && binding->format == CellFormat::OwnText && binding->column &&
-                               record < binding->column->size();
-        const std::uint32_t code = showsText ? binding->column->textCode(record) : store::Column::kNoTextCode;
-        if (code == store::Column::kNoTextCode) {
-            distinct.ofRow.push_back(distinct.numberOf(text()));
+    forEachInMemoryOrder(ids, [&](std::size_t i, RowId id) {
+        const RowRecord& row = rows.at(id);
+        const CellBinding* binding = texts.has(id, column) ? nullptr : bindingOf(row, column);
+        if (!binding || !showsStoredText(*binding, row.record)) {
+            distinct.ofRow[i] = distinct.numberOf(textOf(id, column));
+            return;
+        }
+        const std::uint32_t code = binding->column->textCode(row.record);
+        if (code == store::Column::kNoTextCode) { // kept whole, since hardly any other row has it
+            distinct.ofRow[i] = distinct.numberOfNew(textOf(id, column));
             return;
         }
         int& number = known.of(*binding->column, code);
         if (number == TextCodeNumbers::kUnknown)
-            number = distinct.numberOf(text());
-        distinct.ofRow.push_back(number);
+            number = distinct.numberOfNew(textOf(id, column));
+        distinct.ofRow[i] = number;
     });
     return distinct;
 }
 
-SortKeys GridSurface::Data::sortKeys(int code, int top, int count, int col) const {
+SortKeys GridSurface::Data::sortKeys(int code, RowIds ids, int col) const {
+    const ColumnId column = columns.id(col);
     const bool generic = code <= kSortGenericDown;
     if (code == kSortNumericUp || code == kSortNumericDown ||
         (generic && columns.at(col).dataType == kCurrencyType))
-        return columnNumbers(top, count, col);
-    if (generic) {
-        const NumberOfRow number = [&](int i) { return cellNumber(top + i, col); };
-        const TextOfRow text = [&](int i) { return cellText(top + i, col); };
-        if (const std::optional<SortKeys> keys = numberKeysOfAll(count, number, text))
-            return *keys;
-    }
-    return textKeys(columnTexts(top, count, col), locale, code >= kSortTextUp);
+        return columnNumbers(ids, column);
+    if (generic)
+        if (const std::optional<SortKeys> numbers = numbersOfAll(ids, column))
+            return *numbers;
+    return textKeys(columnTexts(ids, column), locale, code >= kSortTextUp);
 }
 
 /// The rows of a block by the owner's comparison. Empty, for the order that there is, when it has none or
@@ -126,23 +147,6 @@ std::vector<int> GridSurface::Data::customOrder(const CellRange& block) {
     return orderChanges == before ? sorted : std::vector<int>();
 }
 
-void GridSurface::Data::putInOrder(int top, const std::vector<int>& sorted) {
-    std::vector<RowId> before;
-    before.reserve(sorted.size());
-    order.forEachRun(top, static_cast<int>(sorted.size()), [&](const RowRun& run) {
-        for (int i = 0; i < run.count; ++i)
-            before.push_back(run.first + static_cast<RowId>(i));
-    });
-    std::vector<RowId> ids;
-    ids.reserve(sorted.size());
-    for (const int row : sorted)
-        ids.push_back(before[static_cast<std::size_t>(row)]);
-    order.replace(top, ids);
-    ++orderChanges;
-    costs.rowsTouched += static_cast<std::int64_t>(sorted.size());
-    changed();
-}
-
 void GridSurface::setSort(int code) {
     if (code < kSortNone || code > kSortCustom)
         throw Error(kErrInvalidCall, QStringLiteral("There is no sort %1").arg(code));
@@ -154,17 +158,29 @@ void GridSurface::setSort(int code) {
     const ScopeGuard done([this] { d->sorting = false; });
     d->touch(block.bottom);
 
-    std::vector<int> sorted;
-    if (code == kSortCustom) {
-        sorted = d->customOrder(block);
-    } else {
+    std::vector<int> sorted = code == kSortCustom ? d->customOrder(block) : std::vector<int>();
+    if (code == kSortCustom && sorted.empty())
+        return;
+    std::vector<RowId> ids;
+    ids.reserve(static_cast<std::size_t>(count));
+    d->order.forEachRun(block.top, count, [&](const RowRun& run) {
+        for (int i = 0; i < run.count; ++i)
+            ids.push_back(run.first + static_cast<RowId>(i));
+    });
+    if (code != kSortCustom) {
         std::vector<SortKeys> keys;
         for (int col = block.left; col <= block.right; ++col)
-            keys.push_back(d->sortKeys(code, block.top, count, col));
+            keys.push_back(d->sortKeys(code, ids, col));
         sorted = orderByKeys(count, keys, isDescending(code));
     }
-    if (!sorted.empty())
-        d->putInOrder(block.top, sorted);
+    std::vector<RowId> inOrder;
+    inOrder.reserve(ids.size());
+    for (const int row : sorted)
+        inOrder.push_back(ids[static_cast<std::size_t>(row)]);
+    d->order.replace(block.top, inOrder);
+    ++d->orderChanges;
+    d->costs.rowsTouched += count;
+    d->changed();
 }
 
 } // namespace zkp

@@ -1,12 +1,12 @@
 #include "platform/row_sort.h"
 
-#include "base/text.h"
 #include "platform/radix_sort.h"
 
 #include <QCollator>
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace zkp {
 
@@ -22,20 +22,20 @@ std::vector<int> inOrder(int count) {
 std::vector<int> places(const std::vector<QString>& texts, const ReportLocale& locale, bool matchCase) {
     QCollator collator(locale.locale());
     collator.setCaseSensitivity(matchCase ? Qt::CaseSensitive : Qt::CaseInsensitive);
-    std::vector<QCollatorSortKey> keys;
+    using Keyed = std::pair<QCollatorSortKey, int>;
+    std::vector<Keyed> keys;
     keys.reserve(texts.size());
     for (const QString& text : texts)
-        keys.push_back(collator.sortKey(text));
-    std::vector<int> order = inOrder(static_cast<int>(texts.size()));
-    const auto key = [&keys](int i) -> const QCollatorSortKey& { return keys[static_cast<std::size_t>(i)]; };
-    std::sort(order.begin(), order.end(), [&](int a, int b) { return key(a).compare(key(b)) < 0; });
+        keys.emplace_back(collator.sortKey(text), static_cast<int>(keys.size()));
+    std::stable_sort(keys.begin(), keys.end(),
+                     [](const Keyed& a, const Keyed& b) { return a.first.compare(b.first) < 0; });
 
     std::vector<int> result(texts.size());
     int place = 0;
-    for (std::size_t i = 0; i < order.size(); ++i) {
-        if (i > 0 && key(order[i - 1]).compare(key(order[i])) != 0)
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        if (i > 0 && keys[i - 1].first.compare(keys[i].first) != 0)
             ++place;
-        result[static_cast<std::size_t>(order[i])] = place;
+        result[static_cast<std::size_t>(keys[i].second)] = place;
     }
     return result;
 }
@@ -46,10 +46,14 @@ int DistinctTexts::numberOf(const QString& text) {
     const auto known = numbers_.constFind(text);
     if (known != numbers_.cend())
         return *known;
-    const int number = static_cast<int>(texts.size());
+    const int number = numberOfNew(text);
     numbers_.insert(text, number);
-    texts.push_back(text);
     return number;
+}
+
+int DistinctTexts::numberOfNew(const QString& text) {
+    texts.push_back(text);
+    return static_cast<int>(texts.size()) - 1;
 }
 
 DistinctTexts distinctTexts(int count, const TextOfRow& text) {
@@ -58,25 +62,6 @@ DistinctTexts distinctTexts(int count, const TextOfRow& text) {
     for (int i = 0; i < count; ++i)
         result.ofRow.push_back(result.numberOf(text(i)));
     return result;
-}
-
-SortKeys numberKeys(int count, const NumberOfRow& number) {
-    SortKeys keys(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i)
-        keys[static_cast<std::size_t>(i)] = number(i).value_or(0);
-    return keys;
-}
-
-std::optional<SortKeys> numberKeysOfAll(int count, const NumberOfRow& number, const TextOfRow& text) {
-    SortKeys keys;
-    keys.reserve(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i) {
-        const std::optional<double> key = number(i);
-        if (!key && !isBlank(text(i)))
-            return std::nullopt;
-        keys.push_back(key.value_or(0));
-    }
-    return keys;
 }
 
 SortKeys textKeys(const DistinctTexts& texts, const ReportLocale& locale, bool matchCase) {

@@ -6,15 +6,12 @@
 #include <QString>
 
 #include <functional>
-#include <optional>
 #include <vector>
 
 namespace zkp {
 
 /// The text of the i-th row that takes part in a sort.
 using TextOfRow = std::function<QString(int)>;
-/// The number that the text is; nothing when it is none.
-using NumberOfRow = std::function<std::optional<double>(int)>;
 /// One number per row that takes part: rows sort as their keys do.
 using SortKeys = std::vector<double>;
 
@@ -26,6 +23,8 @@ struct DistinctTexts {
 
     /// The number of a text; the same text has the same number.
     int numberOf(const QString& text);
+    /// The number of a text that nobody will ask for again; cheaper.
+    int numberOfNew(const QString& text);
 
 private:
     QHash<QString, int> numbers_;
@@ -33,10 +32,6 @@ private:
 
 DistinctTexts distinctTexts(int count, const TextOfRow& text);
 
-/// The number of each row; 0 where there is none.
-SortKeys numberKeys(int count, const NumberOfRow& number);
-/// The same, when every row has a number or a blank text; else nothing.
-std::optional<SortKeys> numberKeysOfAll(int count, const NumberOfRow& number, const TextOfRow& text);
 /// The place of each row's text in the locale's order of texts; texts that the order holds equal share one.
 SortKeys textKeys(const DistinctTexts& texts, const ReportLocale& locale, bool matchCase);
 

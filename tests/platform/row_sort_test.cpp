@@ -1,6 +1,5 @@
 #include "platform/row_sort.h"
 
-#include "base/number.h"
 #include "platform/sample_column.h"
 
 #include <gtest/gtest.h>
@@ -26,12 +25,6 @@ TextOfRow texts(std::vector<QString> values) {
     return [values = std::move(values)](int i) { return values[static_cast<std::size_t>(i)]; };
 }
 
-NumberOfRow numbers(std::vector<QString> values) {
-    return [values = std::move(values)](int i) {
-        return toNumber(values[static_cast<std::size_t>(i)], greek());
-    };
-}
-
 bool holdsEachOnce(Order order) {
     std::sort(order.begin(), order.end());
     for (std::size_t i = 0; i < order.size(); ++i)
@@ -41,10 +34,6 @@ bool holdsEachOnce(Order order) {
 }
 
 } // namespace
-
-TEST(RowSort, ARowWithoutANumberCountsAsZero) {
-    EXPECT_EQ(numberKeys(4, numbers({u("1.000,5"), u("-2"), u("abc"), u("")})), (SortKeys{1000.5, -2, 0, 0}));
-}
 
 TEST(RowSort, EqualKeysKeepTheirOrderUpAndDown) {
     const std::vector<SortKeys> keys{{2, 1, 2, 1}};
@@ -70,19 +59,17 @@ TEST(RowSort, WithoutCaseTextsThatDifferInCaseShareAPlace) {
     EXPECT_NE(cased[1], cased[2]);
 }
 
-TEST(RowSort, AllRowsHaveNumbersWhenEveryTextIsANumberOrBlank) {
-    const auto keys = [](std::vector<QString> values) {
-        return numberKeysOfAll(static_cast<int>(values.size()), numbers(values), texts(values));
-    };
-    EXPECT_EQ(keys({u("10"), u(" "), u("9")}), (SortKeys{10, 0, 9}));
-    EXPECT_EQ(keys({u("10"), u("x"), u("9")}), std::nullopt);
-    EXPECT_EQ(keys({}), SortKeys{});
-}
-
 TEST(RowSort, EachTextStandsOnceAmongTheDistinctTexts) {
     const DistinctTexts distinct = distinctTexts(4, texts({u("b"), u("a"), u("b"), u("")}));
     EXPECT_EQ(distinct.texts, (std::vector<QString>{u("b"), u("a"), u("")}));
     EXPECT_EQ(distinct.ofRow, (std::vector<int>{0, 1, 0, 2}));
+}
+
+TEST(RowSort, ATextThatStandsTwiceAmongTheDistinctOnesHasOnePlace) {
+    DistinctTexts distinct;
+    distinct.ofRow = {distinct.numberOfNew(u("b")), distinct.numberOfNew(u("a")),
+                      distinct.numberOfNew(u("b"))};
+    EXPECT_EQ(textKeys(distinct, greek(), true), (SortKeys{1, 0, 1}));
 }
 
 TEST(RowSort, KeysOfEverySizeSortAsTheNumbersTheyAre) {
