@@ -23,9 +23,15 @@ namespace zkp {
 /// without a widget it works just as well.
 ///
 /// Plain properties are Qt properties: `Filter()` reads, `setFilter(...)` writes. Indexed ones are a
-/// method to read and a `set...` method to write; columns and rows count from 0. Setters of saved
-/// properties report their key through `events().PropertyChanged`. Failures are zkp::Error unless a
-/// member says that it shows a box instead. One thread: the host's user-interface thread.
+/// method to read and a `set...` method to write; columns and rows count from 0. Setters report their
+/// key through `events().PropertyChanged`. All of them are listed in core/properties.def. Worth knowing:
+/// `RecordSource` takes a text, RecordsetPtr or CommandPtr, by `SourceType`, and gives the open
+/// recordset; `RecordsourceSTR` is its text, by the kind that it had when it was given; `HasTotals` says
+/// whether there are two or more group factors; `Width` and `Height` are twips; `Locale` is the report's,
+/// at the start the application's default.
+///
+/// Failures are zkp::Error unless a member says that it shows a box instead. One thread: the host's
+/// user-interface thread.
 class ZkpGrid : public QObject {
     Q_OBJECT
 
@@ -55,23 +61,9 @@ public:
     ZKP_SURFACE_INDEXED(ZKP_INDEXED)
     ZKP_COLUMN_PROPERTIES(ZKP_INDEXED)
 
-    // Properties that do more than their families.
-    ZKP_READ_WRITE(int, Rows)
-    ZKP_READ_WRITE(int, Cols)
-    ZKP_READ_WRITE(int, Row)
-    /// Text, RecordsetPtr or CommandPtr on writing, by `SourceType`; the open recordset on reading.
-    ZKP_READ_WRITE(QVariant, RecordSource)
-    /// Size of the control in twips, and its own pointer.
-    ZKP_READ_WRITE(double, Width)
-    ZKP_READ_WRITE(double, Height)
-    ZKP_READ_WRITE(int, MousePointer)
-    /// The report's locale: signs of numbers, form of dates. The application's default at the start.
-    ZKP_READ_WRITE(QLocale, Locale)
-
-    ZKP_INDEXED(int, ColAlignment)
-    ZKP_INDEXED(QString, ColCaption)
-    ZKP_INDEXED(bool, ColCredit)
-    ZKP_INDEXED(double, ColWidth)
+    ZKP_HAND_WRITTEN(ZKP_READ_WRITE)
+    ZKP_HAND_WRITTEN_SILENT(ZKP_READ_WRITE)
+    ZKP_HAND_WRITTEN_INDEXED(ZKP_INDEXED)
     Q_INVOKABLE QString TextMatrix(int row, int col) const;
     Q_INVOKABLE void setTextMatrix(int row, int col, const QString& text);
 
@@ -79,19 +71,13 @@ public:
     Q_PROPERTY(Type Name READ Name)                                                                          \
     Type Name() const;
     ZKP_READ_ONLY_MEMBERS(ZKP_READ_ONLY)
+    ZKP_READ_ONLY_ANSWERS(ZKP_READ_ONLY)
 #undef ZKP_READ_ONLY
 
 #undef ZKP_READ_WRITE
 #undef ZKP_KEYED
 #undef ZKP_WRITE_ONLY
 #undef ZKP_INDEXED
-
-    Q_PROPERTY(QString RecordsourceSTR READ RecordsourceSTR)
-    /// The text of the record source by the kind that it had when it was given.
-    QString RecordsourceSTR() const;
-    Q_PROPERTY(bool HasTotals READ HasTotals)
-    /// True for two or more group factors.
-    bool HasTotals() const;
 
     ColumnList& Columns();
     Events& events();
@@ -105,6 +91,18 @@ public:
     Button& cmdHide();
     Label& lbltemplate();
     Label& lblfilter();
+
+    // Members by their names as text, without regard to case. What the name doesn't stand for is Error
+    // kErrNoSuchMember. Numbers become the type that is wanted, to integers half to even, True is -1, and
+    // texts where a text is wanted; a text never becomes a number (kErrTypeMismatch, kErrOverflow).
+    // kErrArgumentMissing, kErrArgumentCount: no form of the member has that many.
+    /// The value of a property; `indexes` of an indexed one. What stands on the control, `Columns` and
+    /// `MSFlexGrid1` among it, is a pointer.
+    QVariant getMember(const QString& name, const QVariantList& indexes = {});
+    void setMember(const QString& name, const QVariant& value, const QVariantList& indexes = {});
+    /// What the method gives, if anything. Arguments that it changes come back in the list.
+    QVariant callMember(const QString& name, QVariantList& arguments);
+    QVariant callMember(const QString& name, const QVariantList& arguments = {});
 
     /// Receives every failed check of refresh, in order, before the first of them is thrown.
     void setErrorSink(std::function<void(const Error&)> sink);

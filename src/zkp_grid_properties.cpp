@@ -86,10 +86,7 @@ ZKP_READ_ONLY_MEMBERS(ZKP_READ_ONLY)
         parts->columnProperties.set##Name(index, value);                                                     \
     }
 ZKP_COLUMN_PROPERTIES(ZKP_COLUMN)
-ZKP_COLUMN(int, ColAlignment)
-ZKP_COLUMN(QString, ColCaption)
-ZKP_COLUMN(bool, ColCredit)
-ZKP_COLUMN(double, ColWidth)
+ZKP_HAND_WRITTEN_INDEXED(ZKP_COLUMN)
 
 #define ZKP_READ_KEPT(Type, Name, ...)                                                                       \
     Type ZkpGrid::Name() const {                                                                             \
@@ -147,10 +144,60 @@ void ZkpGrid::setMinRows(const double& value) {
     parts->events.notify(QStringLiteral("MinRows"));
 }
 
+/// A report whose data has not been read is not printed.
 void ZkpGrid::setRefreshOnChange(const bool& value) {
     const auto parts = parts_;
+    MenuBar& bar = parts->children.Picture1;
     parts->state.RefreshOnChange = value;
+    bar.Tools(u"mnuPrint").Enabled = value; // in all its bands
+    bar.Refresh();
     parts->events.notify(QStringLiteral("Refreshonchange"));
+}
+
+bool ZkpGrid::TemplateMenuVisible() const {
+    return parts_->children.Picture1.Bands(u"mnuTemplate").Tools(u"mnuSaveTemplate").Visible;
+}
+
+void ZkpGrid::setTemplateMenuVisible(const bool& value) {
+    const auto parts = parts_;
+    MenuBar& bar = parts->children.Picture1;
+    bar.Bands(u"mnuTemplate").Tools(u"mnuSaveTemplate").Visible = value;
+    bar.Refresh();
+    parts->events.notify(QStringLiteral("TemplateMenuVisible"));
+}
+
+void ZkpGrid::setPrintCaption(const QString& value) {
+    const auto parts = parts_;
+    parts->state.PrintCaption = value;
+    parts->children.lbltemplate.Caption = value;
+    parts->events.notify(QStringLiteral("PrintCaption"));
+}
+
+/// Stays False whatever is given, and reports a change; hosts bind to it. Wanted.
+void ZkpGrid::setPrintCenter(const bool& /*value*/) {
+    const auto parts = parts_;
+    parts->events.notify(QStringLiteral("PrintCenter"));
+}
+
+BagFont ZkpGrid::Font() const {
+    return parts_->surface.Font();
+}
+
+void ZkpGrid::setFont(const BagFont& value) {
+    const auto parts = parts_;
+    parts->surface.setFont(value);
+    parts->events.notify(QStringLiteral("Font"));
+}
+
+QVariant ZkpGrid::Panel() const {
+    return parts_->surface.look().Panel;
+}
+
+void ZkpGrid::setPanel(const QVariant& value) {
+    const auto parts = parts_;
+    GridSurface::Look look = parts->surface.look();
+    look.Panel = value;
+    parts->surface.setLook(look);
 }
 
 int ZkpGrid::Rows() const {

@@ -16,6 +16,8 @@ enum ErrorNumber : std::uint32_t {
     kErrInvalidNull = 94,            ///< a null where a text or number is needed
     kErrObjectNotSet = 91,           ///< an object that was never given
     kErrNoSuchMember = 438,          ///< a name that the object does not have
+    kErrArgumentMissing = 449,       ///< a call without an argument that it needs
+    kErrArgumentCount = 450,         ///< a call with too many arguments
     kErrInvalidArrayIndex = 381,     ///< a row or column outside the surface
     kErrInvalidRow = 30009,          ///< `Rows`, `Row` or a row argument outside the surface
     kErrInvalidColumn = 30010,       ///< `Cols`, `Col` or a column argument outside the surface

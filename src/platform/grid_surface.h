@@ -4,6 +4,7 @@
 #include "base/report_locale.h"
 #include "platform/cell_binding.h"
 #include "platform/cell_range.h"
+#include "platform/property_value.h"
 #include "platform/style.h"
 
 #include <QString>
@@ -247,6 +248,9 @@ public:
     void setFontUnderline(bool on);
     bool FontStrikethru() const;
     void setFontStrikethru(bool on);
+    /// The six of them as one, and one write.
+    BagFont Font() const;
+    void setFont(const BagFont& font);
 
     // --- Plain settings that a view reads.
     struct Look {
@@ -266,6 +270,7 @@ public:
         bool AllowBigSelection = false;
         bool Enabled = true;
         QString Tag;
+        QVariant Panel; ///< kept for the host; no view reads it
         bool operator==(const Look&) const = default;
     };
     const Look& look() const;

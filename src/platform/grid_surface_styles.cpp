@@ -102,4 +102,21 @@ ZKP_LAYER_ATTRIBUTE(FontUnderline, bool, bool, own.underline, underline, writeSu
 ZKP_LAYER_ATTRIBUTE(FontStrikethru, bool, bool, own.strikethru, strikethru, writeSurface)
 #undef ZKP_LAYER_ATTRIBUTE
 
+BagFont GridSurface::Font() const {
+    const CellStyle& own = d->own;
+    return {own.fontName, own.fontSize, own.bold, own.italic, own.underline, own.strikethru};
+}
+
+void GridSurface::setFont(const BagFont& font) {
+    StylePatch patch;
+    patch.fontName = d->own.fontName = font.name;
+    patch.fontSize = d->own.fontSize = font.size;
+    patch.bold = d->own.bold = font.bold;
+    patch.italic = d->own.italic = font.italic;
+    patch.underline = d->own.underline = font.underline;
+    patch.strikethru = d->own.strikethru = font.strikethru;
+    d->styles.writeSurface(patch);
+    d->changed();
+}
+
 } // namespace zkp

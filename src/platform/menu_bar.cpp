@@ -52,7 +52,7 @@ Tool& MenuBar::addTool(Band& band, const Tool& tool) {
         shared = std::make_shared<Tool>(tool);
         tools_.push_back(shared);
     }
-    if (!findTool(band.tools, tool.Name))
+    if (tool.kind == ToolKind::Separator || !findTool(band.tools, tool.Name))
         band.tools.push_back(shared);
     return *shared;
 }
@@ -70,6 +70,19 @@ Tool& MenuBar::Tools(QStringView name) const {
 
 bool MenuBar::hasTool(QStringView name) const {
     return findTool(tools_, name) != nullptr;
+}
+
+bool MenuBar::isHeard(const Tool& tool) const {
+    switch (tool.kind) {
+    case ToolKind::Label:
+        return true;
+    case ToolKind::List:
+        return listChanged != nullptr;
+    case ToolKind::Text:
+        return textChanged != nullptr;
+    default:
+        return toolClicked != nullptr;
+    }
 }
 
 void MenuBar::Refresh() {

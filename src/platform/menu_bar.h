@@ -17,7 +17,7 @@ struct Tool {
     QString Caption;
     QString Category;
     ToolKind kind = ToolKind::Button;
-    QString subBand; ///< the band that a SubMenu opens
+    QString subBand; ///< the band that a SubMenu opens; on a Button, more of the same kind
     bool Enabled = true;
     bool Visible = true;
     bool Checked = false;
@@ -51,12 +51,16 @@ public:
     bool Visible = true;
 
     Band& addBand(const QString& name);
-    /// Puts the bar's tool of that name into the band, making it when it is new.
+    /// Puts the bar's tool of that name at the band's end, making it when it is new. It stands there once
+    /// only, unless it is a separator.
     Tool& addTool(Band& band, const Tool& tool);
     /// Without regard to case; Error kErrItemNotFound when there is none.
     Band& Bands(QStringView name) const;
     Tool& Tools(QStringView name) const;
     bool hasTool(QStringView name) const;
+    /// True when what a user does with such a tool reaches somebody: nobody listens to its click, or to
+    /// the change of its list or text, until the command behind it has been built.
+    bool isHeard(const Tool& tool) const;
     const std::vector<std::unique_ptr<Band>>& bands() const { return bands_; }
 
     /// Tells the view that tools changed.

@@ -1,13 +1,15 @@
 #include "ui/menu_bands.h"
 
+#include "ui/menu_table.h"
+
 namespace zkp {
 
 void buildMenuBands(MenuBar& bar) {
-    Band& template_ = bar.addBand(QStringLiteral("BndTemplate"));
-    Tool count;
-    count.Name = QStringLiteral("txtRecs");
-    count.kind = ToolKind::Label;
-    bar.addTool(template_, count);
+    for (const char16_t* name : menuBandNames())
+        bar.addBand(QString::fromUtf16(name));
+    for (const MenuRow& row : menuRows())
+        for (const char16_t* name : row.bands)
+            bar.addTool(bar.Bands(name), row.tool);
 }
 
 } // namespace zkp

@@ -82,9 +82,8 @@ void BandBar::sync() {
         built_ = names;
         rebuild(*shown);
     }
-    for (const auto& tool : shown->tools)
-        if (const auto widget = widgets_.find(tool->Name); widget != widgets_.end())
-            syncWidget(*widget->second, *tool);
+    for (const auto& [name, widget] : widgets_)
+        syncWidget(*widget, shown->Tools(name));
     syncing_ = false;
 }
 
@@ -102,7 +101,7 @@ void BandBar::rebuild(const Band& band) {
             if ((tool->kind == ToolKind::Label) == labels) {
                 QWidget* widget = makeWidget(*tool);
                 widget->setObjectName(tool->Name);
-                widgets_[tool->Name] = widget;
+                widgets_.emplace_back(tool->Name, widget);
                 row_->addWidget(widget);
             }
     };
@@ -153,7 +152,7 @@ QWidget* BandBar::makeWidget(const Tool& tool) {
 
 void BandBar::syncWidget(QWidget& widget, const Tool& tool) {
     const QSignalBlocker quiet(widget);
-    widget.setVisible(tool.Visible);
+    widget.setVisible(tool.Visible && bar_->isHeard(tool));
     widget.setEnabled(tool.Enabled);
     widget.setToolTip(tip(tool));
     widget.setAccessibleName(tip(tool));

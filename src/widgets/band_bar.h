@@ -7,7 +7,8 @@
 #include <QWidget>
 
 #include <functional>
-#include <map>
+#include <utility>
+#include <vector>
 
 class QHBoxLayout;
 class QMenu;
@@ -15,7 +16,8 @@ class QMenu;
 namespace zkp {
 
 /// Shows one band of a menu bar as a quiet row of tools, the labels at its end, and opens the other
-/// bands as popup menus. Everything that the user does goes to the bar; the row shows its state.
+/// bands as popup menus. Everything that the user does goes to the bar; the row shows its state, and
+/// leaves out the tools that nobody listens to.
 class BandBar : public QWidget {
     Q_OBJECT
 
@@ -51,7 +53,7 @@ private:
     QString band_;
     QHBoxLayout* row_;
     QStringList built_; // names of the tools that the row was built for
-    std::map<QString, QWidget*> widgets_;
+    std::vector<std::pair<QString, QWidget*>> widgets_; // by the tool's name; separators share theirs
     QPointer<QMenu> menu_;
     bool syncing_ = false;
 };

@@ -57,6 +57,40 @@ TEST(MenuBar, ABandOrToolAddedTwiceStandsOnce) {
     EXPECT_EQ(bar.bands().size(), 1u);
 }
 
+TEST(MenuBar, SeparatorsStandAsOftenAsTheyAreAdded) {
+    MenuBar bar;
+    Band& band = bar.addBand(u("A"));
+    Tool line = named("miSeparator");
+    line.kind = ToolKind::Separator;
+    bar.addTool(band, line);
+    bar.addTool(band, named("x"));
+    bar.addTool(band, line);
+    EXPECT_EQ(band.tools.size(), 3u);
+    EXPECT_EQ(band.tools[0], band.tools[2]);
+}
+
+TEST(MenuBar, AToolIsHeardByWhoeverListensToItsKind) {
+    MenuBar bar;
+    const auto heard = [&] {
+        QString kinds;
+        for (const ToolKind kind : {ToolKind::Button, ToolKind::Check, ToolKind::SubMenu, ToolKind::Separator,
+                                    ToolKind::List, ToolKind::Text, ToolKind::Label}) {
+            Tool tool;
+            tool.kind = kind;
+            kinds += bar.isHeard(tool) ? u("1") : u("0");
+        }
+        return kinds;
+    };
+    const auto listener = [](Tool&) {};
+    EXPECT_EQ(heard(), u("0000001"));
+    bar.toolClicked = listener;
+    EXPECT_EQ(heard(), u("1111001"));
+    bar.listChanged = listener;
+    EXPECT_EQ(heard(), u("1111101"));
+    bar.textChanged = listener;
+    EXPECT_EQ(heard(), u("1111111"));
+}
+
 TEST(MenuBar, ADisabledToolDoesNothing) {
     MenuBar bar;
     Band& band = bar.addBand(u("A"));

@@ -23,6 +23,7 @@ protected:
         Tool& list = add(band, QStringLiteral("mnuField"), ToolKind::List);
         list.list = QStringList{QStringLiteral("Κλάδος"), QStringLiteral("Πελάτης")};
         add(band, QStringLiteral("mnuCaption"), ToolKind::Text).Text = QStringLiteral("τίτλος");
+        bar.toolClicked = bar.listChanged = bar.textChanged = [](Tool&) {};
         row = std::make_unique<BandBar>(bar, kBand);
         row->resize(600, row->sizeHint().height());
         row->show();
@@ -59,6 +60,37 @@ TEST_F(BandBarTest, TheRowFollowsTheModelWhenItIsRefreshed) {
     EXPECT_EQ(tool<QLabel>("txtRecs")->text(), QStringLiteral("5"));
     EXPECT_FALSE(tool<QToolButton>("mnuRefresh")->isEnabled());
     EXPECT_FALSE(tool<QComboBox>("mnuField")->isVisible());
+}
+
+TEST_F(BandBarTest, WhatNobodyListensToIsLeftOut) {
+    const auto shown = [this] {
+        return std::vector<bool>{
+            tool<QToolButton>("mnuRefresh")->isVisible(), tool<QComboBox>("mnuField")->isVisible(),
+            tool<QLineEdit>("mnuCaption")->isVisible(), tool<QLabel>("txtRecs")->isVisible()};
+    };
+    bar.toolClicked = nullptr;
+    bar.Refresh();
+    EXPECT_EQ(shown(), (std::vector<bool>{false, true, true, true}));
+    bar.listChanged = bar.textChanged = nullptr;
+    bar.Refresh();
+    EXPECT_EQ(shown(), (std::vector<bool>{false, false, false, true}));
+    bar.toolClicked = [](Tool&) {};
+    bar.Refresh();
+    EXPECT_EQ(shown(), (std::vector<bool>{true, false, false, true}));
+}
+
+TEST_F(BandBarTest, SeparatorsOfOneNameComeAndGoWithTheRow) {
+    const auto lines = [this] { return row->findChildren<QFrame*>(QStringLiteral("miSeparator")).size(); };
+    Band& band = bar.Bands(kBand);
+    add(band, QStringLiteral("miSeparator"), ToolKind::Separator);
+    add(band, QStringLiteral("mnuPrint"), ToolKind::Button);
+    add(band, QStringLiteral("miSeparator"), ToolKind::Separator);
+    bar.Refresh();
+    EXPECT_EQ(lines(), 2);
+    add(band, QStringLiteral("mnuExport"), ToolKind::Button);
+    bar.Refresh();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(lines(), 2);
 }
 
 TEST_F(BandBarTest, AToolAddedLaterShows) {

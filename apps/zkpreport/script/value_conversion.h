@@ -11,12 +11,6 @@ namespace zkp::script {
 
 class Bridge;
 
-/// Error numbers that only a late-bound caller can meet.
-enum ScriptErrorNumber : std::uint32_t {
-    kErrArgumentMissing = 449,
-    kErrArgumentCount = 450,
-};
-
 /// Values between script and engine. A null stays a null, amounts are numbers, dates are texts
 /// ("2026-11-20", "2026-11-20 14:05:00"), bytes are an ArrayBuffer, the engine's objects are façades.
 class ValueConversion {
