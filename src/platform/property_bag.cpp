@@ -1,7 +1,6 @@
 #include "platform/property_bag.h"
 
 #include "base/error.h"
-#include "base/text.h"
 #include "platform/property_bag_bytes.h"
 
 #include <cmath>
@@ -30,12 +29,13 @@ void unify(BagValue& value) {
 } // namespace
 
 void PropertyBag::WriteProperty(const QString& key, BagValue value) {
+    checkKey(key);
     unify(value);
-    const auto [place, isNew] = placeFor(key);
-    if (isNew)
-        entries_.push_back({key, std::move(value)});
-    else
+    const std::uint32_t hash = KeyIndex::hashOf(key);
+    if (const std::uint32_t place = placeOf(key, hash); place != KeyIndex::kNone)
         entries_[place].value = std::move(value);
+    else
+        append(key, hash, std::move(value));
 }
 
 void PropertyBag::WriteProperty(const QString& key, BagValue value, const BagValue& elidedAt) {
@@ -48,21 +48,22 @@ void PropertyBag::WriteProperty(const QString& key, BagValue value, const BagVal
 }
 
 bool PropertyBag::add(const QString& key, BagValue value) {
-    if (!placeFor(key).isNew)
-        return false;
+    checkKey(key);
     unify(value);
-    entries_.push_back({key, std::move(value)});
+    const std::uint32_t hash = KeyIndex::hashOf(key);
+    if (placeOf(key, hash) != KeyIndex::kNone)
+        return false;
+    append(key, hash, std::move(value));
     return true;
 }
 
-PropertyBag::Place PropertyBag::placeFor(const QString& key) {
-    checkKey(key);
-    const qsizetype before = places_.size();
-    std::size_t& place = places_[upper(key)];
-    const bool isNew = places_.size() != before;
-    if (isNew)
-        place = entries_.size();
-    return {place, isNew};
+std::uint32_t PropertyBag::placeOf(QStringView key, std::uint32_t hash) const {
+    return places_.find(key, hash, [this](std::uint32_t place) { return QStringView(entries_[place].key); });
+}
+
+void PropertyBag::append(const QString& key, std::uint32_t hash, BagValue&& value) {
+    entries_.emplace_back(key, std::move(value));
+    places_.insert(hash, static_cast<std::uint32_t>(entries_.size() - 1));
 }
 
 BagValue PropertyBag::ReadProperty(QStringView key, const BagValue& fallback) const {
@@ -71,26 +72,24 @@ BagValue PropertyBag::ReadProperty(QStringView key, const BagValue& fallback) co
 }
 
 const BagValue* PropertyBag::find(QStringView key) const {
-    const auto known = places_.constFind(upper(key));
-    return known == places_.cend() ? nullptr : &entries_[*known].value;
+    const std::uint32_t place = placeOf(key, KeyIndex::hashOf(key));
+    return place == KeyIndex::kNone ? nullptr : &entries_[place].value;
 }
 
 void PropertyBag::reserve(std::size_t count) {
     entries_.reserve(count);
-    places_.reserve(static_cast<qsizetype>(count));
+    places_.reserve(count);
 }
 
-void PropertyBag::remove(const QString& key) {
-    const auto known = places_.constFind(upper(key));
-    if (known == places_.cend())
+void PropertyBag::remove(QStringView key) {
+    const std::uint32_t removed = placeOf(key, KeyIndex::hashOf(key));
+    if (removed == KeyIndex::kNone)
         return;
-    const std::size_t place = *known;
-    places_.erase(known);
-    entries_.erase(entries_.begin() + static_cast<std::ptrdiff_t>(place));
-    for (std::size_t& later : places_) {
-        if (later > place)
-            --later;
-    }
+    entries_.erase(entries_.begin() + removed);
+    places_.clear();
+    places_.reserve(entries_.size());
+    for (std::uint32_t place = 0; place < entries_.size(); ++place)
+        places_.insert(KeyIndex::hashOf(entries_[place].key), place);
 }
 
 QByteArray PropertyBag::Contents() const {

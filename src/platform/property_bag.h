@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/key_index.h"
 #include "platform/property_value.h"
 
 #include <QByteArray>
-#include <QHash>
 
 #include <memory>
 #include <vector>
@@ -57,17 +57,12 @@ public:
     static constexpr qsizetype kLongestKey = 0xFFFF;
 
 private:
-    struct Place {
-        std::size_t index;
-        bool isNew;
-    };
-
-    /// Where the key's entry stands, or will stand once the caller has put it at the end.
-    Place placeFor(const QString& key);
-    void remove(const QString& key);
+    std::uint32_t placeOf(QStringView key, std::uint32_t hash) const;
+    void append(const QString& key, std::uint32_t hash, BagValue&& value);
+    void remove(QStringView key);
 
     std::vector<Entry> entries_;
-    QHash<QString, std::size_t> places_; ///< by the key in capitals
+    KeyIndex places_; ///< of the entries
 };
 
 using PropertyBagPtr = std::shared_ptr<PropertyBag>;

@@ -109,12 +109,44 @@ void putEntry(ByteWriter& out, const PropertyBag::Entry& entry) {
         entry.value);
 }
 
-std::vector<const PropertyBag::Entry*> inOrder(const PropertyBag& bag) {
-    std::vector<const PropertyBag::Entry*> entries;
-    entries.reserve(bag.entries().size());
-    for (const PropertyBag::Entry& entry : bag.entries())
-        entries.push_back(&entry);
-    std::sort(entries.begin(), entries.end(), [](const auto* a, const auto* b) { return a->key < b->key; });
+constexpr std::uint64_t kBeyondAscii = 0x8080808080808080u;
+
+/// Eight units, the first one highest. Beyond ASCII they tell no more than that.
+std::uint64_t packed(QStringView units) {
+    std::uint64_t bytes = 0;
+    qsizetype shift = 56;
+    for (const QChar unit : units) {
+        if (unit.unicode() >= 0x80)
+            return bytes | std::uint64_t{0xFF} << shift;
+        bytes |= std::uint64_t{unit.unicode()} << shift;
+        shift -= 8;
+    }
+    return bytes;
+}
+
+/// An entry with the first sixteen units of its key, so that most are put in order without the key.
+struct Ordered {
+    std::uint64_t first = 0;
+    std::uint64_t second = 0;
+    const PropertyBag::Entry* entry;
+
+    explicit Ordered(const PropertyBag::Entry& from)
+        : entry(&from) {
+        const QStringView key(from.key);
+        first = packed(key.first(std::min<qsizetype>(key.size(), 8)));
+        if (key.size() > 8 && (first & kBeyondAscii) == 0)
+            second = packed(key.sliced(8, std::min<qsizetype>(key.size() - 8, 8)));
+    }
+    bool operator<(const Ordered& other) const {
+        if (first != other.first)
+            return first < other.first;
+        return second != other.second ? second < other.second : entry->key < other.entry->key;
+    }
+};
+
+std::vector<Ordered> inOrder(const PropertyBag& bag) {
+    std::vector<Ordered> entries(bag.entries().begin(), bag.entries().end());
+    std::sort(entries.begin(), entries.end());
     return entries;
 }
 
@@ -268,8 +300,8 @@ QByteArray bagBytes(const PropertyBag& bag) {
     out.put(kVersion);
     out.put(static_cast<std::uint32_t>(body));
     out.put(static_cast<std::uint32_t>(bag.entries().size()));
-    for (const PropertyBag::Entry* entry : inOrder(bag))
-        putEntry(out, *entry);
+    for (const Ordered& each : inOrder(bag))
+        putEntry(out, *each.entry);
     out.put(crc32(QByteArrayView(bytes).chopped(kChecksumSize)));
     return bytes;
 }

@@ -69,11 +69,11 @@ T heldBy(const BagValue& value, const QString& what) {
 } // namespace
 
 bool sameValue(const BagValue& a, const BagValue& b) {
+    if (a.index() == b.index())
+        return a == b;
     const std::optional<double> first = numberIn(a);
     const std::optional<double> second = numberIn(b);
-    if (first && second)
-        return *first == *second;
-    return !first && !second && a == b;
+    return first && second && *first == *second;
 }
 
 template <>
