@@ -74,6 +74,7 @@ void ColumnProperties::setColWidth(int index, double twips) {
 }
 
 void ColumnProperties::resize(int count) {
+    initial_ = false;
     while (columns_.Count() > count)
         columns_.Remove(columns_.Count());
     while (columns_.Count() < count) {
@@ -82,6 +83,16 @@ void ColumnProperties::resize(int count) {
             column.Alignment = static_cast<std::int16_t>(surface_.ColAlignment(columns_.Count() - 1));
         columns_.Add(std::move(column));
     }
+}
+
+void ColumnProperties::placeInitial(int count) {
+    resize(count);
+    initial_ = true;
+}
+
+void ColumnProperties::dropInitial() {
+    if (initial_)
+        resize(0);
 }
 
 } // namespace zkp

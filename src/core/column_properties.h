@@ -51,11 +51,16 @@ public:
     /// Brings the collection to a number of entries, from the end. A new one copies the surface's
     /// alignment of the column before it.
     void resize(int count);
+    /// The columns that a control shows before anybody gave it some. Any resize makes them the host's.
+    void placeInitial(int count);
+    /// Drops columns that nobody gave; a saved shape that is read brings its own.
+    void dropInitial();
 
 private:
     ColumnList& columns_;
     GridSurface& surface_;
     Events& events_;
+    bool initial_ = false;
 };
 
 } // namespace zkp

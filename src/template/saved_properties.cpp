@@ -1,0 +1,171 @@
+#include "template/saved_properties.h"
+
+#include "base/error_in_flight.h"
+#include "support/utility.h"
+#include "template/saved_reading.h"
+
+namespace zkp {
+
+namespace {
+
+constexpr int kHeadingAlignment = 3; // stored as 4; wanted
+
+/// The bag itself; Error kErrObjectNotSet without one.
+PropertyBag& given(const PropertyBagPtr& bag) {
+    if (!bag)
+        throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"));
+    return *bag;
+}
+
+bool isNone(const SavedDefault& fallback) {
+    return fallback.kind == SavedDefault::Kind::None;
+}
+
+/// What stands in the bag or else the default, in the column's own type.
+void readInto(Column& column, const PropertyBag& bag, const SavedColumnKey& key, const QString& spelling) {
+    const BagValue* held = bag.find(spelling);
+    key.target.set(column, held ? *held : key.readDefault.value, spelling);
+}
+
+} // namespace
+
+void SavedProperties::UserControl_WriteProperties(const PropertyBagPtr& bag) {
+    try {
+        PropertyBag& target = given(bag);
+        const auto cols = static_cast<std::size_t>(control_.surface.Cols());
+        target.reserve(savedKeysBeforeColumns().size() + savedKeysAfterColumns().size() +
+                       cols * savedColumnKeys().size());
+        write(target, savedKeysBeforeColumns());
+        writeColumns(target);
+        write(target, savedKeysAfterColumns());
+    } catch (...) {
+        ShowError(host_, errorInFlight());
+    }
+}
+
+void SavedProperties::write(PropertyBag& bag, const std::vector<SavedKey>& keys) const {
+    for (const SavedKey& key : keys) {
+        BagValue value = inSavedType(key.type, key.target.get(control_), key.written);
+        if (isNone(key.elidedAt))
+            bag.WriteProperty(key.written, std::move(value));
+        else
+            bag.WriteProperty(key.written, std::move(value), defaultOn(control_, key, key.elidedAt));
+    }
+}
+
+void SavedProperties::writeColumns(PropertyBag& bag) const {
+    const int count = control_.surface.Cols();
+    for (int i = 0; i < count; ++i) {
+        const Column& column = columns_.ofGridColumn(i);
+        const QString position = QString::number(i);
+        for (const SavedColumnKey& key : savedColumnKeys()) {
+            const QString spelling = key.written + position;
+            BagValue value = inSavedType(key.type, key.target.get(column), spelling);
+            if (isNone(key.elidedAt))
+                bag.WriteProperty(spelling, std::move(value));
+            else
+                bag.WriteProperty(spelling, std::move(value), key.elidedAt.value);
+        }
+    }
+}
+
+template <class Step>
+void SavedProperties::pass(Step step) const {
+    try {
+        step();
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
+    }
+    state_.throwIfDestroyed(); // a handler of what the step reported
+}
+
+template <class Keys>
+void SavedProperties::passEach(const PropertyBag& bag, const Keys& keys) const {
+    for (const char* spelling : keys)
+        pass([&] { readKey(bag, savedKeyReadAs(QString::fromLatin1(spelling))); });
+}
+
+void SavedProperties::readKey(const PropertyBag& bag, const SavedKey& key) const {
+    const BagValue* held = bag.find(key.read);
+    key.target.set(control_, held ? *held : defaultOn(control_, key, key.readDefault), key.read);
+}
+
+void SavedProperties::UserControl_ReadProperties(const PropertyBagPtr& given) {
+    const PropertyBagPtr bag = given; // a handler may let go of it
+    if (!readFirst(bag))
+        return;
+    columnProperties_.dropInitial();
+    const int count = control_.surface.Cols();
+    for (int i = 0; i < count; ++i)
+        readColumn(*bag, i);
+    readRest(*bag);
+    pass(hooks_.DrawInterface);
+}
+
+/// False when it ended in the error box.
+bool SavedProperties::readFirst(const PropertyBagPtr& bag) {
+    try {
+        const PropertyBag& source = given(bag);
+        for (const char* spelling : saved::kReadFirst)
+            readKey(source, savedKeyReadAs(QString::fromLatin1(spelling)));
+        return true;
+    } catch (...) {
+        ShowError(host_, errorInFlight());
+        return false;
+    }
+}
+
+/// The new column goes behind those that stand already, as wanted. Where there were some, the entry of this
+/// position is an older one, and only what bringUpToDate assigns reaches it.
+void SavedProperties::readColumn(const PropertyBag& bag, int index) {
+    const QString position = QString::number(index);
+    Column column;
+    for (const SavedColumnKey& key : savedColumnKeys())
+        if (!isNone(key.readDefault))
+            pass([&] { readInto(column, bag, key, key.read + position); });
+    pass([&] { control_.surface.setFixedAlignment(index, kHeadingAlignment); });
+    columns_.Add(column);
+    bringUpToDate(index, column);
+}
+
+void SavedProperties::bringUpToDate(int index, const Column& column) {
+    ColumnProperties& live = columnProperties_;
+    pass([&] { live.setColCaption(index, column.Caption); });
+    pass([&] { live.setColDataField(index, column.Datafield); });
+    pass([&] { live.setColWidth(index, column.Width); });
+    pass([&] { live.setColAlignment(index, column.Alignment); });
+    pass([&] { live.setColBalance(index, column.Balance); });
+    pass([&] { live.setColTotals(index, column.Totals); });
+    pass([&] { live.setColStatic(index, column.Stat_ic); });
+    pass([&] { live.setColLR(index, column.lR); });
+    pass([&] { live.setColForTot(index, column.ForTot); });
+    pass([&] { live.setColPercnt(index, column.PerCnt); });
+    pass([&] { live.setColIndexKey(index, column.Index_Key); });
+}
+
+void SavedProperties::readRest(const PropertyBag& bag) {
+    passEach(bag, saved::kReadLayout);
+    pass(hooks_.layOut);
+    passEach(bag, saved::kReadSections);
+    passEach(bag, saved::kReadTitle);
+    passEach(bag, saved::kReadRows);
+    readFonts(bag);
+    passEach(bag, saved::kReadStyles);
+    children_.lbltemplate.Caption = state_.PrintCaption;
+    children_.lblfilter.Caption = state_.PrintFilter;
+    passEach(bag, saved::kReadBehaviour);
+    passEach(bag, saved::kReadLast);
+}
+
+void SavedProperties::readFonts(const PropertyBag& bag) {
+    static const std::vector<SavedKey> keys = savedFontKeys();
+    for (const char* group : saved::kReadFontGroups) {
+        const QString prefix = QString::fromLatin1(group);
+        for (const SavedKey& key : keys)
+            if (key.read.startsWith(prefix))
+                pass([&] { readKey(bag, key); });
+    }
+}
+
+} // namespace zkp
