@@ -3,6 +3,7 @@
 #include "base/error.h"
 #include "base/number.h"
 #include "platform/scripted_host.h"
+#include "support/application_folder.h"
 #include "ui/menu_bands.h"
 #include "zkp_grid_parts.h"
 
@@ -54,11 +55,14 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
               {[this](int row) { setRow(row); }, [this] { driver.FillGrid(); }})
     , drawing(state, surface, events, fonts, marking, children.Picture1, *host)
     , lifecycle(state, children, events, [this] { drawing.DrawInterface(); })
+    , savedProperties(state, columns, columnProperties, children, *host,
+                      {[this] { lifecycle.resize(); }, [this] { drawing.DrawInterface(); }})
+    , templates(state, savedProperties, *host, applicationFolder)
     , selectionEvents(state, keyColumn, surface, events, marking, drawing, *host)
     , surfaceEvents(state, columnProperties, surface, events, dictionary, emptyReport, selectionEvents,
                     *host) {
     buildMenuBands(children.Picture1);
-    columnProperties.resize(surface.Cols());
+    columnProperties.placeInitial(surface.Cols());
     connectHooks();
     lifecycle.initProperties();
 }

@@ -8,6 +8,7 @@
 #include "core/events.h"
 #include "core/properties.def"
 #include "platform/host.h"
+#include "platform/property_bag.h"
 
 #include <QLocale>
 #include <QObject>
@@ -243,6 +244,31 @@ public:
     Q_INVOKABLE int UserControl_KeyDown(int KeyCode, int Shift);
     Q_INVOKABLE int UserControl_KeyPress(int KeyAscii);
     Q_INVOKABLE void UserControl_Terminate();
+
+    /// Fills the bag with the report's shape; the control stays as it is. A failure shows the error box.
+    Q_INVOKABLE void UserControl_WriteProperties(const zkp::PropertyBagPtr& bag);
+    /// Applies a bag and draws the interface; reads no data. Some values come back changed, and `Columns`
+    /// grows on a control that has been given columns: set `Cols` to itself afterwards. A failure in the
+    /// first keys shows the error box and ends it, one in later keys leaves that value as it was.
+    Q_INVOKABLE void UserControl_ReadProperties(const zkp::PropertyBagPtr& bag);
+
+    // Templates. What fails in the database, in a file or in a name is thrown.
+    /// The older template files: a `clsList` for each and an empty entry at the end, or nothing at all.
+    /// Empties `FileName`.
+    Q_INVOKABLE QVariantList FillTemplates(const QVariant& mFileNo = {});
+    /// Stores the shape under a name, in one transaction. A name whose characters from the fifth on are a
+    /// number above 0 is that row of `frms`, which must be there; any other name a row of `frms2`.
+    Q_INVOKABLE void SaveTemplate(const QVariant& mPath = {}, const QVariant& mfilename = {},
+                                  const QVariant& mFileNo = {});
+    /// Applies the template of a name, which an older file may still hold: that moves into the database then.
+    /// The connection becomes the control's `Cn`. Loads no data, and see UserControl_ReadProperties.
+    Q_INVOKABLE void opentemplate(const zkp::ado::ConnectionPtr& P_CN, const QVariant& mPath = {},
+                                  const QVariant& mfilename = {}, const QVariant& mFileNo = {});
+    // What the entries of a template menu do: each raises its event, and the host acts.
+    Q_INVOKABLE void mnuSave_Click();
+    Q_INVOKABLE void mnuSaveAs_Click();
+    Q_INVOKABLE void mnuLoad_Click();
+    Q_INVOKABLE void mnuTitle_Click();
 
 private:
     // Operations with no caller of their own; reached by name only.

@@ -21,6 +21,7 @@
 #include "sql/percentage_statement.h"
 #include "sql/statement_dispatch.h"
 #include "support/settings_store.h"
+#include "template/template_store.h"
 #include "ui/interface_drawing.h"
 #include "ui/lifecycle.h"
 #include "ui/selection_events.h"
@@ -77,6 +78,8 @@ struct ZkpGrid::Parts {
     RowSorting sorting;
     InterfaceDrawing drawing;
     Lifecycle lifecycle;
+    SavedProperties savedProperties;
+    TemplateStore templates;
     SelectionEvents selectionEvents;
     SurfaceEvents surfaceEvents;
 
