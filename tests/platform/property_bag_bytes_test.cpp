@@ -73,6 +73,16 @@ TEST(PropertyBagBytes, EachTypeHasItsOwnForm) {
                                          "8E64E10A"));
 }
 
+TEST(PropertyBagBytes, TheDocumentedExampleStandsAsItIs) {
+    PropertyBag bag;
+    bag.WriteProperty(u"B"_s, u"α"_s);
+    bag.WriteProperty(u"A"_s, true);
+    EXPECT_EQ(bagBytes(bag), hex("5A4B5042 0100 16000000 02000000"
+                                 "0100 4100 01 02000000 FFFF"
+                                 "0100 4200 06 02000000 B103"
+                                 "7D2D5E82"));
+}
+
 TEST(PropertyBagBytes, NoBytesAreAnEmptyBag) {
     EXPECT_TRUE(bagFromBytes({}).entries().empty());
     EXPECT_TRUE(bagFromBytes(QByteArray("")).entries().empty());
