@@ -52,6 +52,10 @@ public:
     Q_INVOKABLE Type Name(int index) const;                                                                  \
     Q_INVOKABLE void set##Name(int index, const Type& value);
 
+#define ZKP_BY_CELL(Type, Name)                                                                              \
+    Q_INVOKABLE Type Name(int row, int col) const;                                                           \
+    Q_INVOKABLE void set##Name(int row, int col, const Type& value);
+
     ZKP_SURFACE_PROPERTIES(ZKP_READ_WRITE)
     ZKP_LOOK_PROPERTIES(ZKP_READ_WRITE)
     ZKP_MEMBER_PROPERTIES(ZKP_KEYED)
@@ -60,13 +64,12 @@ public:
     ZKP_PLAIN_MEMBERS(ZKP_KEYED)
     ZKP_IDENTITY_PROPERTIES(ZKP_WRITE_ONLY)
     ZKP_SURFACE_INDEXED(ZKP_INDEXED)
+    ZKP_SURFACE_CELLS(ZKP_BY_CELL)
     ZKP_COLUMN_PROPERTIES(ZKP_INDEXED)
 
     ZKP_HAND_WRITTEN(ZKP_READ_WRITE)
     ZKP_HAND_WRITTEN_SILENT(ZKP_READ_WRITE)
     ZKP_HAND_WRITTEN_INDEXED(ZKP_INDEXED)
-    Q_INVOKABLE QString TextMatrix(int row, int col) const;
-    Q_INVOKABLE void setTextMatrix(int row, int col, const QString& text);
 
 #define ZKP_READ_ONLY(Type, Name)                                                                            \
     Q_PROPERTY(Type Name READ Name)                                                                          \
@@ -79,6 +82,7 @@ public:
 #undef ZKP_KEYED
 #undef ZKP_WRITE_ONLY
 #undef ZKP_INDEXED
+#undef ZKP_BY_CELL
 
     ColumnList& Columns();
     Events& events();

@@ -44,6 +44,17 @@ ZKP_LOOK_PROPERTIES(ZKP_LOOK)
     }
 ZKP_SURFACE_INDEXED(ZKP_SURFACE_BY_INDEX)
 
+#define ZKP_SURFACE_BY_CELL(Type, Name)                                                                      \
+    Type ZkpGrid::Name(int row, int col) const {                                                             \
+        return parts_->surface.Name(row, col);                                                               \
+    }                                                                                                        \
+    void ZkpGrid::set##Name(int row, int col, const Type& value) {                                           \
+        const auto parts = parts_;                                                                           \
+        parts->surface.set##Name(row, col, value);                                                           \
+        parts->events.notify(QStringLiteral(#Name));                                                         \
+    }
+ZKP_SURFACE_CELLS(ZKP_SURFACE_BY_CELL)
+
 #define ZKP_MEMBER(Type, Name, Key, ...)                                                                     \
     Type ZkpGrid::Name() const {                                                                             \
         return parts_->state.Name;                                                                           \
@@ -260,16 +271,6 @@ QLocale ZkpGrid::Locale() const {
 }
 void ZkpGrid::setLocale(const QLocale& value) {
     parts_->surface.setLocale(ReportLocale(value));
-}
-
-QString ZkpGrid::TextMatrix(int row, int col) const {
-    return parts_->surface.TextMatrix(row, col);
-}
-
-void ZkpGrid::setTextMatrix(int row, int col, const QString& text) {
-    const auto parts = parts_;
-    parts->surface.setTextMatrix(row, col, text);
-    parts->events.notify(QStringLiteral("TextMatrix"));
 }
 
 } // namespace zkp
