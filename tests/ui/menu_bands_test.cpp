@@ -117,7 +117,7 @@ TEST_F(MenuBandsTest, TheBandsThatCommandsNameHaveTheirTools) {
                 {u"BndTemplate", u"mnuCaption"},      {u"BndTemplate", u"txtRecs"}};
     for (const auto& row : told)
         EXPECT_EQ(&bar.Bands(row.band).Tools(row.tool), &bar.Tools(row.tool))
-            << qPrintable(QString(row.tool));
+            << qPrintable(QString::fromUtf16(row.tool));
     for (const auto& band : bar.bands())
         EXPECT_FALSE(band->tools.empty()) << qPrintable(band->Name);
 }
@@ -136,8 +136,9 @@ TEST_F(MenuBandsTest, EachToolThatOpensABandNamesOneThatIsThere) {
     for (const auto& band : bar.bands())
         for (const auto& tool : band->tools) {
             openers += tool->kind == ToolKind::SubMenu ? 1 : 0;
-            if (tool->kind == ToolKind::SubMenu || !tool->subBand.isEmpty())
+            if (tool->kind == ToolKind::SubMenu || !tool->subBand.isEmpty()) {
                 EXPECT_EQ(errorNumberOf([&] { bar.Bands(tool->subBand); }), 0u) << qPrintable(tool->Name);
+            }
         }
     EXPECT_EQ(openers, 7); // column, format, template (in two bands), two colours, fonts
 }
