@@ -30,17 +30,26 @@ FrontNumber frontNumber(QStringView text) {
     const bool isNegative = at < text.size() && text[at] == u'-';
     if (at < text.size() && (text[at] == u'-' || text[at] == u'+'))
         ++at;
-    QByteArray digits = "0";
+    double whole = 0;
+    double fraction = 0;
+    double place = 1; // of the fraction's last digit
     bool hasPoint = false;
     for (; at < text.size() && (isDigit(text[at]) || (text[at] == u'.' && !hasPoint)); ++at) {
-        hasPoint = hasPoint || text[at] == u'.';
-        number.hasDigits = number.hasDigits || isDigit(text[at]);
-        digits.append(static_cast<char>(text[at].unicode()));
+        if (text[at] == u'.') {
+            hasPoint = true;
+            continue;
+        }
+        const int digit = text[at].unicode() - u'0';
+        number.hasDigits = true;
+        if (!hasPoint) {
+            whole = whole * 10 + digit;
+        } else if (place < 1e300) {
+            fraction = fraction * 10 + digit;
+            place *= 10;
+        }
     }
-    if (hasPoint)
-        digits.append('0');
     number.end = at;
-    number.value = (isNegative ? -1 : 1) * digits.toDouble();
+    number.value = (isNegative ? -1 : 1) * (whole + fraction / place);
     return number;
 }
 
