@@ -82,32 +82,35 @@ struct Figures {
     double prepared = 0; ///< making the keys and sorting them
 };
 
-template <class Key, class MakeKey, class Less>
-void measureYardstick(const GridSurface& surface, int column, MakeKey makeKey, Less less, Figures& figures) {
-    const int rows = surface.Rows() - 1;
+std::vector<QString> textsOf(const GridSurface& surface, int column) {
     std::vector<QString> texts;
-    for (int r = 1; r <= rows; ++r)
+    for (int r = 1; r < surface.Rows(); ++r)
         texts.push_back(surface.TextMatrix(r, column));
+    return texts;
+}
+
+template <class Key, class MakeKey, class Less>
+void measureYardstick(const std::vector<QString>& texts, MakeKey makeKey, Less less, Figures& figures) {
     std::vector<std::pair<Key, int>> keys;
     keys.reserve(texts.size());
     const double making = seconds([&] {
-        for (int r = 0; r < rows; ++r)
-            keys.emplace_back(makeKey(texts[static_cast<std::size_t>(r)]), r);
+        for (const QString& text : texts)
+            keys.emplace_back(makeKey(text), static_cast<int>(keys.size()));
     });
     figures.sort = seconds([&] { std::stable_sort(keys.begin(), keys.end(), less); });
     figures.prepared = making + figures.sort;
 }
 
-void yardstick(const GridSurface& surface, int column, Figures& figures) {
+void yardstick(const std::vector<QString>& texts, int column, Figures& figures) {
     if (column == kNet) {
         const auto number = [](QString text) { return text.remove(u'.').replace(u',', u'.').toDouble(); };
-        measureYardstick<double>(
-            surface, column, number, [](const auto& a, const auto& b) { return a.first < b.first; }, figures);
+        const auto less = [](const auto& a, const auto& b) { return a.first < b.first; };
+        measureYardstick<double>(texts, number, less, figures);
         return;
     }
     QCollator collator(kGreek);
     measureYardstick<QCollatorSortKey>(
-        surface, column, [&](const QString& text) { return collator.sortKey(text); },
+        texts, [&](const QString& text) { return collator.sortKey(text); },
         [](const auto& a, const auto& b) { return a.first.compare(b.first) < 0; }, figures);
 }
 
@@ -118,15 +121,15 @@ Figures measure(Report& report, int column, int code, bool scattered, int runs) 
     for (int run = 0; run < runs; ++run) {
         report.grid.FillGrid();
         if (scattered) {
-            report.select(kBranch);
-            report.grid.SortGrid(kSortTextUp);
             report.select(column == kCustomer ? kNet : kCustomer);
             report.grid.SortGrid(column == kCustomer ? kSortNumericUp : kSortTextUp);
         }
         report.select(column);
+        const std::vector<QString> texts = textsOf(report.grid.MSFlexGrid1(), column);
         Figures figures;
-        yardstick(report.grid.MSFlexGrid1(), column, figures);
-        grid.push_back(seconds([&] { report.grid.SortGrid(code); }));
+        figures.grid = seconds([&] { report.grid.SortGrid(code); });
+        yardstick(texts, column, figures);
+        grid.push_back(figures.grid);
         sort.push_back(figures.sort);
         prepared.push_back(figures.prepared);
     }

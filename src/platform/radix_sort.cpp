@@ -29,10 +29,9 @@ bool areWhole(const std::vector<double>& keys, double scale) {
 /// Numbers without a sign in the order of the doubles. Places and amounts become small ones, so that
 /// few digits are left to sort by.
 std::vector<std::uint64_t> orderedBits(const std::vector<double>& keys) {
-    constexpr double kAmountScale = 10'000;
     std::vector<std::uint64_t> bits(keys.size());
     const auto fill = [&](auto bitsOf) { std::transform(keys.begin(), keys.end(), bits.begin(), bitsOf); };
-    for (const double scale : {1.0, kAmountScale})
+    for (const double scale : {1.0, 100.0, 10'000.0})
         if (areWhole(keys, scale)) {
             fill([scale](double key) { return static_cast<std::uint64_t>(nearest(key * scale)) ^ kSign; });
             return bits;
@@ -44,29 +43,60 @@ std::vector<std::uint64_t> orderedBits(const std::vector<double>& keys) {
     return bits;
 }
 
-/// The key beside its row, so that a pass reads and writes in one place.
-struct Keyed {
-    std::uint64_t key;
-    int row;
+/// A key beside its row, so that a pass reads and writes in one place.
+struct WideItem {
+    WideItem() = default;
+    WideItem(std::uint64_t key, int row)
+        : key_(key)
+        , row_(row) {}
+    std::uint64_t key() const { return key_; }
+    int row() const { return row_; }
+
+private:
+    std::uint64_t key_ = 0;
+    int row_ = 0;
+};
+
+/// The same for a key of 32 bits, in half the room.
+struct NarrowItem {
+    NarrowItem() = default;
+    NarrowItem(std::uint64_t key, int row)
+        : bits_(key << 32 | static_cast<std::uint32_t>(row)) {}
+    std::uint64_t key() const { return bits_ >> 32; }
+    int row() const { return static_cast<int>(bits_ & UINT32_MAX); }
+
+private:
+    std::uint64_t bits_ = 0;
 };
 
 /// From the last digit to the first, each pass stable.
-void sortDigits(std::vector<Keyed>& items, std::uint64_t largest) {
+template <class Item>
+void sortDigits(std::vector<Item>& items, std::uint64_t largest) {
     constexpr unsigned kDigitBits = 11;
     constexpr std::size_t kDigits = std::size_t{1} << kDigitBits;
-    std::vector<Keyed> sorted(items.size());
+    std::vector<Item> sorted(items.size());
     for (unsigned shift = 0; shift < 64 && largest >> shift != 0; shift += kDigitBits) {
-        const auto digit = [shift](const Keyed& item) { return item.key >> shift & (kDigits - 1); };
+        const auto digit = [shift](const Item& item) { return item.key() >> shift & (kDigits - 1); };
         std::array<std::size_t, kDigits> starts{};
-        for (const Keyed& item : items)
+        for (const Item& item : items)
             ++starts[digit(item)];
         std::size_t next = 0;
         for (std::size_t& start : starts)
             next += std::exchange(start, next);
-        for (const Keyed& item : items)
+        for (const Item& item : items)
             sorted[starts[digit(item)]++] = item;
         items.swap(sorted);
     }
+}
+
+template <class Item, class KeyOfRow>
+void sortRows(std::vector<int>& rows, std::uint64_t largest, KeyOfRow keyOfRow) {
+    std::vector<Item> items;
+    items.reserve(rows.size());
+    for (const int row : rows)
+        items.emplace_back(keyOfRow(row), row);
+    sortDigits(items, largest);
+    std::transform(items.begin(), items.end(), rows.begin(), [](const Item& item) { return item.row(); });
 }
 
 } // namespace
@@ -76,14 +106,15 @@ void sortByKey(std::vector<int>& rows, const std::vector<double>& keys, bool des
         return;
     const std::vector<std::uint64_t> bits = orderedBits(keys);
     const auto [low, high] = std::minmax_element(bits.begin(), bits.end());
-    std::vector<Keyed> items;
-    items.reserve(rows.size());
-    for (const int row : rows) {
+    const auto keyOfRow = [&, low = *low, high = *high](int row) {
         const std::uint64_t key = bits[static_cast<std::size_t>(row)];
-        items.push_back({descending ? *high - key : key - *low, row});
-    }
-    sortDigits(items, *high - *low);
-    std::transform(items.begin(), items.end(), rows.begin(), [](const Keyed& item) { return item.row; });
+        return descending ? high - key : key - low;
+    };
+    const std::uint64_t largest = *high - *low;
+    if (largest <= UINT32_MAX)
+        sortRows<NarrowItem>(rows, largest, keyOfRow);
+    else
+        sortRows<WideItem>(rows, largest, keyOfRow);
 }
 
 } // namespace zkp
