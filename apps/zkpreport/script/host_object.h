@@ -2,6 +2,7 @@
 
 #include "script/script_object.h"
 #include "script/scripts_host.h"
+#include "support/application_folder.h"
 
 #include <QLocale>
 
@@ -27,6 +28,7 @@ class HostObject : public ScriptObject {
     Q_PROPERTY(int beeps READ beeps WRITE setBeeps)
     Q_PROPERTY(int pointer READ pointer WRITE setPointer)
     Q_PROPERTY(QLocale locale READ locale WRITE setLocale)
+    Q_PROPERTY(QString applicationFolder READ applicationFolder WRITE setApplicationFolder)
 
 public:
     /// `localeChanged` passes a new locale on to the controls.
@@ -49,6 +51,13 @@ public:
     }
     void setOpened(const QJSValue& list) {
         setList(host_->openedList, list, "opened");
+    }
+    /// Where the folders of older template files stand.
+    QString applicationFolder() const {
+        return zkp::applicationFolder();
+    }
+    void setApplicationFolder(const QString& folder) {
+        zkp::setApplicationFolder(folder);
     }
     int beeps() const {
         return host_->beeps;

@@ -6,6 +6,7 @@
 #include "base/error.h"
 #include "script/ado_objects.h"
 #include "script/bridge.h"
+#include "script/template_objects.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -120,6 +121,8 @@ QJSValue ValueConversion::toScript(const QVariant& value) const {
     }
     if (holds<QJSValue>(value))
         return value.value<QJSValue>();
+    if (holds<QVariantList>(value))
+        return arrayOf(value.toList());
     if (holds<Currency>(value))
         return QJSValue(value.value<Currency>().toDouble());
     if (holds<ScriptObjectPtr>(value))
@@ -130,7 +133,16 @@ QJSValue ValueConversion::toScript(const QVariant& value) const {
         return bridge_.facade(RecordsetObject::of(bridge_, value.value<ado::RecordsetPtr>()));
     if (holds<ado::CommandPtr>(value))
         return bridge_.facade(CommandObject::of(bridge_, value.value<ado::CommandPtr>()));
+    if (holds<clsList>(value))
+        return bridge_.facade(std::make_shared<TemplateEntryObject>(value.value<clsList>()));
     return bridge_.engine().toScriptValue(value);
+}
+
+QJSValue ValueConversion::arrayOf(const QVariantList& values) const {
+    QJSValue array = bridge_.engine().newArray(static_cast<uint>(values.size()));
+    for (qsizetype i = 0; i < values.size(); ++i)
+        array.setProperty(static_cast<quint32>(i), toScript(values[i]));
+    return array;
 }
 
 QVariant ValueConversion::fromScript(const QJSValue& value, QMetaType wanted, const QString& what) const {

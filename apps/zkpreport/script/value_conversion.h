@@ -29,6 +29,7 @@ public:
     ScriptObjectPtr objectOf(const QJSValue& value) const;
 
 private:
+    QJSValue arrayOf(const QVariantList& values) const;
     QVariant anyFromScript(const QJSValue& value, const QString& what) const;
     QVariant sharedFromScript(const QJSValue& value, QMetaType wanted, const QString& what) const;
 
