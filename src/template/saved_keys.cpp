@@ -14,23 +14,6 @@ using namespace Qt::StringLiterals;
 /// Both sides spell it alike.
 const QString same = u"="_s;
 
-BagValue fontOf(const SavedControl& control) {
-    const GridSurface& s = control.surface;
-    return BagFont{s.FontName(),   s.FontSize(),      s.FontBold(),
-                   s.FontItalic(), s.FontUnderline(), s.FontStrikethru()};
-}
-
-void setFont(const SavedControl& control, const BagValue& value, const QString& key) {
-    const auto font = valueAs<BagFont>(value, key);
-    GridSurface& s = control.surface;
-    s.setFontName(font.name);
-    s.setFontSize(font.size);
-    s.setFontBold(font.bold);
-    s.setFontItalic(font.italic);
-    s.setFontUnderline(font.underline);
-    s.setFontStrikethru(font.strikethru);
-}
-
 /// The font of the place that holds the control.
 const SavedDefault ambientFont{BagValue(BagFont{u"Arial"_s, 8})};
 
@@ -69,7 +52,7 @@ std::vector<SavedKey> keysBeforeColumns() {
         {u"BackColor"_s,           same,                     Colour,  sys(5),      sys(5),      ZKP_GRID(BackColor)},
         {u"ForeColor"_s,           same,                     Colour,  sys(8),      sys(8),      ZKP_GRID(ForeColor)},
         {u"Enabled"_s,             same,                     Boolean, is(true),    is(true),    ZKP_LOOK(Enabled)},
-        {u"Font"_s,                same,                     Font,    ambientFont, current,     {fontOf, setFont}},
+        {u"Font"_s,                same,                     Font,    ambientFont, current,     ZKP_GRID(Font)},
         {u"BackStyle"_s,           same,                     Int16,   number(0),   current,     ZKP_MEMBER(BackStyle)},
         {u"BorderStyle"_s,         same,                     Int32,   always,      number(0),   ZKP_LOOK(BorderStyle)},
         {u"BackColorBkg"_s,        same,                     Colour,  always,      current,     ZKP_LOOK(BackColorBkg)},

@@ -4,6 +4,8 @@
 
 #include <QDateTime>
 
+#include <thread>
+
 using namespace Qt::StringLiterals;
 using namespace zkp;
 using namespace zkp::test;
@@ -261,6 +263,28 @@ TEST_F(TemplateStoreTest, TwoControlsThatSaveOneNameLeaveOneWholeTemplate) {
     saveAs(u"one"_s, u"A"_s);
     EXPECT_EQ(count(u"frms2"_s), 1);
     EXPECT_EQ(opened(u"A"_s)->KeyName(), u"one"_s);
+}
+
+// Each control with a connection of its own, both at once. Whoever finds the other writing gets an error.
+TEST_F(TemplateStoreTest, TwoControlsThatSaveOneNameAtOnceLeaveOneWholeTemplate) {
+    const auto saveOften = [this](const QString& keyName) {
+        const auto connection = std::make_shared<ado::Connection>();
+        connection->Open(u"sqlite:"_s + file);
+        ZkpGrid control;
+        control.setCn(connection);
+        control.setKeyName(keyName);
+        control.setFilter(keyName.repeated(5'000));
+        for (int i = 0; i < 10; ++i)
+            errorNumberOf([&] { control.SaveTemplate({}, u"A"_s); });
+    };
+    std::thread one(saveOften, u"one"_s);
+    std::thread two(saveOften, u"two"_s);
+    one.join();
+    two.join();
+    EXPECT_EQ(count(u"frms2"_s), 1);
+    const auto other = opened(u"A"_s);
+    EXPECT_TRUE(other->KeyName() == u"one"_s || other->KeyName() == u"two"_s);
+    EXPECT_EQ(other->Filter(), other->KeyName().repeated(5'000));
 }
 
 TEST_F(TemplateStoreTest, ASaveWhileAnotherWritesFailsAndLeavesTheOldTemplate) {
