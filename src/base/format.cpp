@@ -1,10 +1,13 @@
 #include "base/format.h"
 
+#include <QVarLengthArray>
+
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 
 namespace zkp {
 
@@ -25,20 +28,20 @@ QString assemble(bool negative, std::string_view digits, NumberFormat format, co
     const std::string_view fraction = digits.substr(whole.size());
     const bool isZero = digits.find_first_not_of('0') == std::string_view::npos;
 
-    QString text;
-    text.reserve(static_cast<qsizetype>(digits.size() * 2));
+    QVarLengthArray<QChar, 64> text;
+    const auto addSign = [&text](QStringView sign) { text.append(sign.data(), sign.size()); };
     if (negative && !isZero)
-        text += u'-';
+        text.append(u'-');
     for (std::size_t i = 0; i < whole.size(); ++i) {
         if (i > 0 && isGrouped(format) && (whole.size() - i) % 3 == 0)
-            text += locale.groupSign();
-        text += QLatin1Char(whole[i]);
+            addSign(locale.groupSign());
+        text.append(QLatin1Char(whole[i]));
     }
-    if (decimals > 0) {
-        text += locale.decimalSign();
-        text += QLatin1String(fraction.data(), static_cast<qsizetype>(fraction.size()));
-    }
-    return text;
+    if (decimals > 0)
+        addSign(locale.decimalSign());
+    for (const char digit : fraction)
+        text.append(QLatin1Char(digit));
+    return QString(text.data(), text.size());
 }
 
 QString formatScaled(std::uint64_t magnitude, bool negative, NumberFormat format,
@@ -94,6 +97,8 @@ QString formatNumber(const Decimal& value, NumberFormat format, const ReportLoca
     for (int i = decimalsOf(format); i < Decimal::kDecimals; ++i)
         unit *= 10;
     const Decimal::Int magnitude = ((*units < 0 ? -*units : *units) + unit / 2) / unit;
+    if (magnitude <= std::numeric_limits<std::int64_t>::max())
+        return formatScaled(static_cast<std::uint64_t>(magnitude), *units < 0, format, locale);
     return assemble(*units < 0, digitsOf(magnitude, static_cast<std::size_t>(decimalsOf(format)) + 1), format,
                     locale);
 }
