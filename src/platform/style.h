@@ -28,6 +28,7 @@ struct StylePatch {
     std::optional<bool> italic;
     std::optional<bool> underline;
     std::optional<bool> strikethru;
+    bool operator==(const StylePatch&) const = default;
 };
 
 /// What a cell looks like once all layers are taken together.

@@ -37,7 +37,9 @@ void StyleLayers::stampFor(Layer layer, bool meetsOtherLayer) {
 StyleSetId StyleLayers::patched(StyleSetId id, const StylePatch& patch) {
     ++writes_;
     collectWhenWasteful();
-    return pool_.patched(id, patch, stamp_);
+    if (last_.stamp != stamp_ || last_.from != id || last_.patch != patch)
+        last_ = {stamp_, id, patch, pool_.patched(id, patch, stamp_)};
+    return last_.to;
 }
 
 void StyleLayers::writeSurface(const StylePatch& patch) {
@@ -151,6 +153,7 @@ void StyleLayers::collectWhenWasteful() {
     cells_.forEach(markPlace);
     pool_.collect(used);
     resolved_ = {};
+    last_ = {};
     collectAt_ = std::max<std::size_t>({4096, pool_.size() * 2, pool_.size() + places});
 }
 

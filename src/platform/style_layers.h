@@ -48,6 +48,14 @@ private:
         CellStyle style;
     };
 
+    /// The write before, which block by block and row by row is mostly repeated.
+    struct Patched {
+        std::uint64_t stamp = 0; ///< 0: none
+        StyleSetId from = 0;
+        StylePatch patch;
+        StyleSetId to = 0;
+    };
+
     /// Numbers the next write: a new number when it could cover what was written under this one.
     void stampFor(Layer layer, bool meetsOtherLayer = false);
     StyleSetId patched(StyleSetId id, const StylePatch& patch);
@@ -61,6 +69,7 @@ private:
     std::vector<StyleSetId> columns_;
     CellPages<StyleSetId> rows_; // all in column 0
     CellPages<StyleSetId> cells_;
+    Patched last_;
     std::uint64_t stamp_ = 0;
     Layer lastLayer_ = Layer::None;
     std::size_t collectAt_ = 4096;
