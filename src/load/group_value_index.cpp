@@ -14,29 +14,15 @@ namespace {
 
 constexpr QChar kBetweenKeys(0x1F);
 
-enum class Match { Number, Date, Text };
-
-Match matchOf(int fieldType) {
-    switch (fieldType) {
-    case ado::adSmallInt:
-    case ado::adInteger:
-    case ado::adDouble:
-    case ado::adCurrency:
-    case ado::adBigInt:
-        return Match::Number;
-    case ado::adDBDate:
-        return Match::Date;
-    default:
-        return Match::Text;
-    }
-}
-
 QString numberPart(double number) {
     return QString::number(number + 0.0, 'g', 17);
 }
 
+} // namespace
+
 /// What a shown key is looked up by; nothing when no value can match it.
-std::optional<QString> partOfText(const QString& text, Match match, const ReportLocale& locale) {
+std::optional<QString> GroupValueIndex::partOfText(const QString& text, Match match,
+                                                   const ReportLocale& locale) {
     if (match == Match::Number) {
         const std::optional<double> number = toNumber(text, locale);
         return number ? std::optional(numberPart(*number)) : std::nullopt;
@@ -49,7 +35,8 @@ std::optional<QString> partOfText(const QString& text, Match match, const Report
 }
 
 /// What a record's value is found under; nothing for a null.
-std::optional<QString> partOfValue(const QVariant& value, Match match, const ReportLocale& locale) {
+std::optional<QString> GroupValueIndex::partOfValue(const QVariant& value, Match match,
+                                                    const ReportLocale& locale) {
     if (isNull(value))
         return std::nullopt;
     if (match == Match::Number && value.typeId() != QMetaType::QString)
@@ -61,64 +48,133 @@ std::optional<QString> partOfValue(const QVariant& value, Match match, const Rep
     return partOfText(valueText(value, locale), match, locale);
 }
 
-} // namespace
+/// What the values of one field are found under. A text that the records keep once is worked out once.
+class GroupValueIndex::KeyParts {
+public:
+    KeyParts(const store::Column& column, Match match, const ReportLocale& locale)
+        : column_(column)
+        , match_(match)
+        , locale_(locale) {}
+
+    std::optional<QString> at(std::size_t row) {
+        const std::uint32_t code = column_.textCode(row);
+        if (code == store::Column::kNoTextCode)
+            return partOfValue(column_.value(row), match_, locale_);
+        auto known = known_.constFind(code);
+        if (known == known_.cend())
+            known = known_.insert(code, partOfValue(column_.value(row), match_, locale_));
+        return *known;
+    }
+
+private:
+    const store::Column& column_;
+    Match match_;
+    const ReportLocale& locale_;
+    QHash<std::uint32_t, std::optional<QString>> known_;
+};
 
 void GroupValueIndex::use(const ado::RecordsetPtr& records, const ReportLocale& locale) {
     if (records == records_ && records->revision() == revision_ && locale.locale() == locale_.locale())
         return;
+    all_ = records->Clone();
     records_ = records;
     revision_ = records->revision();
     locale_ = locale;
-    known_.clear();
+    places_.clear();
+    groups_.clear();
+    asked_.clear();
 }
 
 Decimal GroupValueIndex::sum(const std::vector<Key>& keys, const QString& valueField) {
-    const ado::FieldList fields = records_->Fields();
-    std::vector<int> keyFields;
+    const Asked& asked = ask(keys);
+    const int value = place(valueField).position;
+    if (asked.group == kNone)
+        return {};
+    return sumsOf(*asked.groups, value)[static_cast<std::size_t>(asked.group)];
+}
+
+const GroupValueIndex::FieldPlace& GroupValueIndex::place(const QString& field) {
+    auto known = places_.constFind(field);
+    if (known != places_.cend())
+        return *known;
+    Match match = Match::Text;
+    switch (all_->Fields().Item(field).Type()) { // Error 3265
+    case ado::adSmallInt:
+    case ado::adInteger:
+    case ado::adDouble:
+    case ado::adCurrency:
+    case ado::adBigInt:
+        match = Match::Number;
+        break;
+    case ado::adDBDate:
+        match = Match::Date;
+        break;
+    default:
+        break;
+    }
+    return *places_.insert(field, {all_->Fields().indexOf(field), match});
+}
+
+const GroupValueIndex::Asked& GroupValueIndex::ask(const std::vector<Key>& keys) {
+    if (asked_.size() <= keys.size())
+        asked_.resize(keys.size() + 1);
+    Asked& asked = asked_[keys.size()];
+    if (asked.groups && asked.keys == keys)
+        return asked;
+    std::vector<FieldPlace> fields;
     QString wanted;
     bool matchable = true;
     for (const Key& key : keys) {
-        const ado::Field field = records_->Fields().Item(key.field);
-        keyFields.push_back(fields.indexOf(key.field));
-        const auto part = partOfText(key.text, matchOf(field.Type()), locale_);
+        fields.push_back(place(key.field));
+        const auto part = partOfText(key.text, fields.back().match, locale_);
         matchable = matchable && part;
         wanted += part.value_or(QString()) + kBetweenKeys;
     }
-    records_->Fields().Item(valueField); // Error 3265
-    return matchable ? sumsBy(keyFields, fields.indexOf(valueField)).value(wanted) : Decimal();
+    Groups& groups = groupsBy(fields);
+    asked = {keys, &groups, matchable ? groups.numbers.value(wanted, kNone) : kNone};
+    return asked;
 }
 
-const GroupValueIndex::Sums& GroupValueIndex::sumsBy(const std::vector<int>& keyFields, int valueField) {
-    QString place = QString::number(valueField);
-    for (const int field : keyFields)
-        place += u' ' + QString::number(field);
-    if (const auto known = known_.constFind(place); known != known_.cend())
-        return *known;
-
-    Sums sums;
-    const ado::RecordsetPtr all = records_->Clone();
-    std::vector<Match> matches;
-    for (const int field : keyFields)
-        matches.push_back(matchOf(all->Fields().Item(field).Type()));
-    for (std::int64_t i = 0; i < all->RecordCount(); ++i) {
-        const std::size_t row = all->tableRow(i);
+GroupValueIndex::Groups& GroupValueIndex::groupsBy(const std::vector<FieldPlace>& fields) {
+    for (Groups& known : groups_)
+        if (known.fields == fields)
+            return known;
+    Groups groups{fields, {}, {}, {}};
+    std::vector<KeyParts> parts;
+    for (const FieldPlace& field : fields)
+        parts.emplace_back(*all_->table().columns[static_cast<std::size_t>(field.position)], field.match,
+                           locale_);
+    for (std::int64_t i = 0; i < all_->RecordCount(); ++i) {
         QString keys;
         bool findable = true;
-        for (std::size_t k = 0; k < keyFields.size() && findable; ++k) {
-            const auto& column = all->table().columns[static_cast<std::size_t>(keyFields[k])];
-            const auto part = partOfValue(column->value(row), matches[k], locale_);
-            findable = part.has_value();
+        for (KeyParts& each : parts) {
+            const auto part = each.at(all_->tableRow(i));
+            findable = findable && part;
             keys += part.value_or(QString()) + kBetweenKeys;
         }
-        if (findable)
-            sums[keys] += numberAt(valueField, row);
+        if (findable && !groups.numbers.contains(keys))
+            groups.numbers.insert(keys, static_cast<int>(groups.numbers.size()));
+        groups.ofRecord.push_back(findable ? groups.numbers.value(keys) : kNone);
     }
-    return known_.insert(place, sums).value();
+    groups_.push_back(std::move(groups));
+    return groups_.back();
+}
+
+const std::vector<Decimal>& GroupValueIndex::sumsOf(Groups& groups, int valueField) {
+    const auto known = groups.sums.constFind(valueField);
+    if (known != groups.sums.cend())
+        return *known;
+    std::vector<Decimal> sums(static_cast<std::size_t>(groups.numbers.size()));
+    for (std::size_t i = 0; i < groups.ofRecord.size(); ++i)
+        if (const int group = groups.ofRecord[i]; group != kNone)
+            sums[static_cast<std::size_t>(group)] +=
+                numberAt(valueField, all_->tableRow(static_cast<std::int64_t>(i)));
+    return *groups.sums.insert(valueField, std::move(sums));
 }
 
 /// A null, and a text that is no number, count as 0.
 Decimal GroupValueIndex::numberAt(int field, std::size_t row) const {
-    const QVariant value = records_->table().columns[static_cast<std::size_t>(field)]->value(row);
+    const QVariant value = all_->table().columns[static_cast<std::size_t>(field)]->value(row);
     if (value.metaType() == QMetaType::fromType<Currency>())
         return Decimal(value.value<Currency>());
     if (value.typeId() == QMetaType::Double)
