@@ -44,14 +44,15 @@ GroupShape GroupRows::shapeOfReport() const {
     return shape;
 }
 
-bool GroupRows::InitTotalsGrid() {
+bool GroupRows::InitTotalsGrid(bool tagIsSeen) {
     sums_.clear(shapeOfReport(), surface_.locale());
     if (sums_.shape().summed.empty())
         return false;
     state_.TotalsNeeded = true; // only ever raised, as wanted
     sums_.start(SurfaceRow(surface_, kFirstRow));
     surface_.setRows(surface_.Rows() + 2);
-    surface_.setRowData(surface_.Rows() - 1, ZKPTotals);
+    if (tagIsSeen)
+        surface_.setRowData(surface_.Rows() - 1, ZKPTotals);
     return true;
 }
 
@@ -78,6 +79,8 @@ void GroupRows::closeGroups(const GroupRow& record, double& r) {
             if (!sums_.isKeyOpen(level, record)) {
                 EmitSubTotalRows(level, r);
                 sums_.reset(level, record);
+                if (!sums_.shape().sumsKeys())
+                    return;
                 break;
             }
 }
@@ -106,7 +109,7 @@ void GroupRows::writeSubtotalRow(int row, int level) {
         if (c == 0)
             named = !isBlank(surface_.TextMatrix(row, 0));
         const QString& field = columns_.ofGridColumn(c).Datafield;
-        if (named && upper(field).startsWith(u"POS_"))
+        if (named && field.startsWith(u"POS_", Qt::CaseInsensitive))
             // The share of the group in its parent: one level further out than for a record.
             surface_.setTextMatrix(row, c, percentages_.PercentOfParent(mid(field, 5), row, level - 1));
     }

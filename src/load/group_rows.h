@@ -20,8 +20,9 @@ public:
 
     /// With the first record in grid row 1: starts the sums and adds two rows at the end, a blank one
     /// that closes the last groups and one tagged as the totals. False without a summed column; then
-    /// nothing is added, and `TotalsNeeded` stays as it was.
-    bool InitTotalsGrid();
+    /// nothing is added, and `TotalsNeeded` stays as it was. Where nobody can see that tag it is better
+    /// left out: it makes rows of all the blank ones before it, and `FinishTotals` removes it.
+    bool InitTotalsGrid(bool tagIsSeen = true);
     /// Takes in the record that stands in row `r`; `r` moves down with it past inserted rows.
     void AccumulateRow(double& r);
     /// Inserts the subtotal rows of the levels from the innermost out to `level` before row `r`.

@@ -12,7 +12,11 @@ const GroupSums::Cell& GroupSums::at(int row, int column) const {
 }
 
 GroupSums::Cell GroupSums::taken(const GroupRow& record, int column, bool withNumber) {
-    return {record.text(column), withNumber ? record.number(column) : Decimal(), false};
+    if (!withNumber)
+        return {record.text(column), Decimal()};
+    if (const auto format = record.format(column))
+        return {{}, record.number(column), false, format};
+    return {record.text(column), record.number(column)};
 }
 
 void GroupSums::add(Cell& cell, const Decimal& number) {
@@ -63,7 +67,13 @@ void GroupSums::addRun(int column, const Decimal& sum) {
             add(at(k + 1, column), sum);
 }
 
+/// Where one key differs the joined texts differ too; only several can make up for each other.
 bool GroupSums::breaksAt(const GroupRow& record) const {
+    int differing = 0;
+    for (int k = 0; k <= shape_.lastLevel(); ++k)
+        differing += isKeyOpen(k, record) ? 0 : 1;
+    if (differing < 2)
+        return differing == 1;
     QString now;
     QString open;
     for (int k = 0; k <= shape_.lastLevel(); ++k) {
@@ -93,7 +103,9 @@ void GroupSums::reset(int level, const GroupRow& record) {
 
 QString GroupSums::text(int row, int column) const {
     const Cell& cell = at(row, column);
-    return cell.isSum ? cell.number.plainText(locale_) : cell.text;
+    if (cell.isSum)
+        return cell.number.plainText(locale_);
+    return cell.format ? formatNumber(cell.number, *cell.format, locale_) : cell.text;
 }
 
 } // namespace zkp

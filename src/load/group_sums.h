@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/decimal.h"
+#include "base/format.h"
 
 #include <QString>
 
@@ -16,6 +17,8 @@ public:
     virtual ~GroupRow() = default;
     virtual QString text(int column) const = 0;
     virtual Decimal number(int column) const = 0;
+    /// The format whose text of the number is the cell's text, where that is known without making it.
+    virtual std::optional<NumberFormat> format(int) const { return std::nullopt; }
 };
 
 /// The shape of a grouped report: which columns are factors and which are summed.
@@ -77,6 +80,7 @@ private:
         QString text;
         Decimal number;
         bool isSum = false;
+        std::optional<NumberFormat> format = {}; ///< makes the text, until it is a sum
     };
 
     Cell& at(int row, int column);

@@ -8,7 +8,26 @@ using store::Column;
 using store::ValueKind;
 
 QString RecordRuns::Record::text(int column) const {
-    return boundText(runs_.cell(column), row_, runs_.locale_);
+    if (texts_.size() <= column)
+        texts_.resize(column + 1);
+    std::optional<QString>& text = texts_[column];
+    if (!text)
+        text = boundText(runs_.cell(column), row_, runs_.locale_);
+    return *text;
+}
+
+std::optional<NumberFormat> RecordRuns::Record::format(int column) const {
+    const CellBinding& cell = runs_.cell(column);
+    if (!boundAmount(cell, row_))
+        return std::nullopt;
+    switch (cell.format) {
+    case CellFormat::Grouped2:
+        return NumberFormat::Grouped2;
+    case CellFormat::Grouped0:
+        return NumberFormat::Grouped0;
+    default:
+        return std::nullopt;
+    }
 }
 
 Decimal RecordRuns::Record::number(int column) const {
@@ -22,9 +41,6 @@ bool RecordRuns::isSameValue(int column, std::uint32_t a, std::uint32_t b) const
     const Column* values = cell(column).column.get();
     if (!values)
         return true;
-    const std::uint32_t code = values->textCode(a);
-    if (code != Column::kNoTextCode)
-        return code == values->textCode(b);
     const ValueKind kind = values->kind(a);
     if (kind != values->kind(b))
         return false;
@@ -49,11 +65,17 @@ bool RecordRuns::isSameValue(int column, std::uint32_t a, std::uint32_t b) const
 
 std::int64_t RecordRuns::endOfRun(std::int64_t open, std::int64_t from) const {
     const std::uint32_t first = records_.tableRow(open);
+    QVarLengthArray<std::uint32_t, 4> codes;
+    for (int k = 0; k <= shape_.lastLevel(); ++k)
+        codes.append(cell(k).column ? cell(k).column->textCode(first) : Column::kNoTextCode);
     for (std::int64_t position = from; position < count_; ++position) {
         const std::uint32_t row = records_.tableRow(position);
-        for (int k = 0; k <= shape_.lastLevel(); ++k)
-            if (!isSameValue(k, first, row))
+        for (int k = 0; k <= shape_.lastLevel(); ++k) {
+            const bool same = codes[k] == Column::kNoTextCode ? isSameValue(k, first, row)
+                                                              : cell(k).column->textCode(row) == codes[k];
+            if (!same)
                 return position;
+        }
     }
     return count_;
 }

@@ -4,6 +4,9 @@
 #include "load/group_sums.h"
 #include "platform/cell_binding.h"
 
+#include <QVarLengthArray>
+
+#include <optional>
 #include <vector>
 
 namespace zkp {
@@ -20,7 +23,7 @@ public:
         , locale_(locale)
         , count_(records.RecordCount()) {}
 
-    /// The record at a position (from 0).
+    /// The record at a position (from 0). Texts are made once: those of keys are asked for repeatedly.
     class Record : public GroupRow {
     public:
         Record(const RecordRuns& runs, std::int64_t position)
@@ -28,10 +31,12 @@ public:
             , row_(runs.records_.tableRow(position)) {}
         QString text(int column) const override;
         Decimal number(int column) const override;
+        std::optional<NumberFormat> format(int column) const override;
 
     private:
         const RecordRuns& runs_;
         std::uint32_t row_;
+        mutable QVarLengthArray<std::optional<QString>, 8> texts_; // of the first columns
     };
 
     /// The first position from `from` on whose record has other values than the one at `open` in a column

@@ -80,7 +80,8 @@ void RowReader::readRecord(const ado::RecordsetPtr& records, double& r) {
 void RowReader::sumRecord(ado::Recordset& records, double& r) {
     if (r == 1) {
         state_.LoadFinished = false;
-        sums_ = groups_.InitTotalsGrid();
+        unseen_ = !events_.isRetrieveRowHeard();
+        sums_ = groups_.InitTotalsGrid(!unseen_);
     } else if (sums_ && records.AbsolutePosition() <= records.RecordCount()) {
         groups_.AccumulateRow(r);
     }
@@ -141,7 +142,7 @@ void RowReader::bindRun(const ado::Recordset& records, std::int64_t from, std::i
 void RowReader::finishTotals(double r) {
     r += 1;
     groups_.AccumulateRow(r);
-    totals_.FinishTotals();
+    totals_.FinishTotals(unseen_);
     state_.LoadFinished = true;
 }
 

@@ -58,7 +58,8 @@ private:
     TotalsRows& totals_;
     Percentages& percentages_;
     std::optional<CellPlan> plan_;
-    bool sums_ = false; ///< this load has rows for its totals
+    bool sums_ = false;   ///< this load has rows for its totals
+    bool unseen_ = false; ///< and nobody sees a row before its end
 };
 
 } // namespace zkp

@@ -16,18 +16,18 @@ constexpr int kNobodysTag = 90;
 
 } // namespace
 
-void TotalsRows::FinishTotals() {
+void TotalsRows::FinishTotals(bool rowsAreAsCounted) {
     surface_.RemoveItem(surface_.Rows() - 1);
     state_.RowCapacity -= 1;
     const int last = surface_.Rows() - 1;
     for (int c = 0; c < sums_.shape().columns; ++c)
-        surface_.setTextMatrix(last, c, totalText(c));
+        surface_.setTextMatrix(last, c, totalText(c, rowsAreAsCounted));
     surface_.setRowData(last, ZKPTotals);
     LoadHooks::run(hooks_.DrawInterface);
     PaintTotalsRows();
 }
 
-QString TotalsRows::totalText(int c) const {
+QString TotalsRows::totalText(int c, bool rowsAreAsCounted) const {
     const Column& column = columns_.ofGridColumn(c);
     const int grandSums = sums_.rows() - 1;
     if (!column.Totals)
@@ -35,8 +35,8 @@ QString TotalsRows::totalText(int c) const {
     const Decimal grand = sums_.number(grandSums, c);
     if (column.Balance)
         return formatNumber(grand, NumberFormat::Grouped2, surface_.locale());
-    // Summed again from the grid, where handlers may have changed what was read.
-    return formatNumber(grand.isZero() ? grand : sumOfRecords(c),
+    const bool stands = grand.isZero() || (rowsAreAsCounted && grand.units());
+    return formatNumber(stands ? grand : sumOfRecords(c),
                         state_.EuroVer ? NumberFormat::Grouped2 : NumberFormat::Grouped0, surface_.locale());
 }
 

@@ -20,7 +20,9 @@ public:
         , hooks_(hooks) {}
 
     /// Ends a load with sums: the spare row goes, the one before it shows the totals, and all is painted.
-    void FinishTotals();
+    /// Totals are summed again from the grid, since handlers may have changed what was read, unless the
+    /// rows show what was counted.
+    void FinishTotals(bool rowsAreAsCounted = false);
     /// Gives all subtotal rows, shown or not, and the last row their colours and fonts.
     void PaintTotalsRows();
     /// Adds a row in the colours of totals, tagged -1, at the end.
@@ -32,7 +34,7 @@ public:
     int FindTotalsRow() const;
 
 private:
-    QString totalText(int c) const;
+    QString totalText(int c, bool rowsAreAsCounted) const;
     Decimal sumOfRecords(int c) const;
     void seekContent();
 
