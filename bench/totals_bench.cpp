@@ -41,6 +41,7 @@ QLocale greek() {
 
 ado::ConnectionPtr connect(const QString& file) {
     auto connection = std::make_shared<ado::Connection>();
+    connection->setCommandTimeout(0);
     connection->Open(u"sqlite:"_s + file);
     return connection;
 }
