@@ -128,6 +128,21 @@ TEST_F(CommandLine, ShowWithoutADisplayDrawsTheWindowAndPrintsTheFirstRows) {
     EXPECT_EQ(picture.size(), QSize(1280, 800));
 }
 
+TEST_F(CommandLine, ShowGroupsAReport) {
+    ASSERT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("demo.db"), QStringLiteral("--rows"),
+                     QStringLiteral("40")}),
+              0);
+    const QString category = QStringLiteral("--group=CATEGORY");
+    EXPECT_EQ(start({QStringLiteral("show"), category}), 0) << qPrintable(errors);
+    EXPECT_TRUE(output.startsWith(QStringLiteral("Κλάδος"))) << qPrintable(output);
+    EXPECT_EQ(start({QStringLiteral("show"), category, QStringLiteral("--totals")}), 0) << qPrintable(errors);
+    EXPECT_TRUE(output.contains(QStringLiteral("Πλήθος"))) << qPrintable(output);
+    EXPECT_EQ(start({QStringLiteral("show"), QStringLiteral("--group=PREMIUM")}), 1);
+    EXPECT_TRUE(errors.contains(QStringLiteral("PREMIUM"))) << qPrintable(errors);
+    EXPECT_EQ(start({QStringLiteral("show"), QStringLiteral("--totals")}), 2);
+    EXPECT_TRUE(errors.contains(QStringLiteral("--group"))) << qPrintable(errors);
+}
+
 TEST_F(CommandLine, WithoutACommandTheWindowIsShown) {
     ASSERT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("demo.db"), QStringLiteral("--rows"),
                      QStringLiteral("5")}),

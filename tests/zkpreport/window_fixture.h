@@ -3,9 +3,12 @@
 #include "demo/demo_database.h"
 #include "platform/scripted_host.h"
 #include "print_qt.h"
+#include "support/utility.h"
+#include "widgets/grid_view.h"
 #include "window/report_window.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFile>
 #include <QLabel>
@@ -80,6 +83,36 @@ protected:
         settle();
     }
 
+    QComboBox& groupList(int place) {
+        return part<QComboBox>(qPrintable(QStringLiteral("group%1").arg(place)));
+    }
+    QCheckBox& totals() { return part<QCheckBox>("totals"); }
+    /// Chooses a factor in one of the lists, counted from 1; an empty key takes it away.
+    void chooseGroup(int place, const QString& key) {
+        QComboBox& list = groupList(place);
+        const int index = list.findData(key);
+        ASSERT_GE(index, 0) << qPrintable(key);
+        list.setCurrentIndex(index);
+        Q_EMIT list.activated(index);
+        settle();
+    }
+    void toggleTotals() {
+        QTest::keyClick(&totals(), Qt::Key_Space);
+        settle();
+    }
+
+    zkp::GridView& view() { return *window->findChild<zkp::GridView*>(); }
+    /// The middle of a column's heading.
+    QPoint heading(int column) {
+        const zkp::PageLayout& page = view().page();
+        const zkp::Span* span = zkp::spanOf(page.cols, column);
+        return span ? QPoint(span->start + span->size / 2, page.bodyTop() / 2) : QPoint(-1, -1);
+    }
+    void clickHeading(int column) {
+        QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, heading(column));
+        settle();
+    }
+
     zkp::ZkpGrid& grid() { return window->grid(); }
     int recordCount() { return static_cast<int>(grid().RecCount()); }
     /// Each row's cells, joined; sorted, for comparison.
@@ -95,6 +128,23 @@ protected:
         all.sort();
         return all;
     }
+    int columnOf(const QString& field) {
+        for (int col = 0; col < grid().Cols(); ++col)
+            if (grid().ColDataField(col) == field)
+                return col;
+        ADD_FAILURE() << "no column " << qPrintable(field);
+        return 0;
+    }
+    /// The rows of a kind, from the top.
+    std::vector<int> rowsOfKind(int kind) {
+        std::vector<int> found;
+        const zkp::GridSurface& surface = grid().MSFlexGrid1();
+        for (int row = surface.FixedRows(); row < surface.Rows(); ++row)
+            if (surface.RowData(row) == kind)
+                found.push_back(row);
+        return found;
+    }
+    QString cell(int row, const QString& field) { return grid().TextMatrix(row, columnOf(field)); }
     QStringList captions() {
         QStringList all;
         for (int col = 0; col < grid().Cols(); ++col)
@@ -110,6 +160,36 @@ protected:
         return connection->Execute(query)->Fields().Item(0).Value().toLongLong();
     }
 
+    static double amount(const QString& query) {
+        const auto connection = std::make_shared<zkp::ado::Connection>();
+        connection->setMode(zkp::ado::adModeRead);
+        connection->Open(QStringLiteral("sqlite:") + demoFile());
+        const QVariant value = connection->Execute(query)->Fields().Item(0).Value();
+        return zkp::ToDouble(value, zkp::ReportLocale(QLocale::c())).toDouble();
+    }
+    /// As a Greek office writes it.
+    static QString greek(double amount, int decimals = 2) {
+        return QLocale(QLocale::Greek, QLocale::Greece).toString(amount, 'f', decimals);
+    }
+
     std::shared_ptr<zkp::ScriptedHost> host;
     std::unique_ptr<zkp::app::ReportWindow> window;
+};
+
+/// Databases other than the demonstration one.
+class OtherDatabase : public WindowTest {
+protected:
+    bool openWith(const QStringList& statements) {
+        const QString file = folder.filePath(QStringLiteral("other.db"));
+        EXPECT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+        {
+            const auto connection = std::make_shared<zkp::ado::Connection>();
+            connection->Open(QStringLiteral("sqlite:") + file);
+            connection->Execute(QStringLiteral("CREATE TABLE OTHER (A TEXT, B TEXT, C TEXT, D TEXT)"));
+            for (const QString& statement : statements)
+                connection->Execute(statement);
+        }
+        return window->showDatabase(file);
+    }
+    QTemporaryDir folder;
 };

@@ -19,6 +19,18 @@ protected:
         QDir().mkpath(folder);
         EXPECT_TRUE(image.save(QStringLiteral("%1/%2.png").arg(folder, QLatin1String(name))));
     }
+    void makeDark() {
+        QPalette dark;
+        dark.setColor(QPalette::Window, QColor(45, 45, 48));
+        dark.setColor(QPalette::WindowText, QColor(220, 220, 220));
+        dark.setColor(QPalette::Base, QColor(30, 30, 30));
+        dark.setColor(QPalette::Text, QColor(220, 220, 220));
+        dark.setColor(QPalette::PlaceholderText, QColor(140, 140, 140));
+        dark.setColor(QPalette::Button, QColor(53, 53, 56));
+        dark.setColor(QPalette::ButtonText, QColor(220, 220, 220));
+        dark.setColor(QPalette::Mid, QColor(75, 75, 80));
+        window->setPalette(dark);
+    }
     void openPanel() { QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier); }
 };
 
@@ -43,19 +55,39 @@ TEST_F(WindowPictures, ARefusedFilter) {
 }
 
 TEST_F(WindowPictures, DarkPalette) {
-    QPalette dark;
-    dark.setColor(QPalette::Window, QColor(45, 45, 48));
-    dark.setColor(QPalette::WindowText, QColor(220, 220, 220));
-    dark.setColor(QPalette::Base, QColor(30, 30, 30));
-    dark.setColor(QPalette::Text, QColor(220, 220, 220));
-    dark.setColor(QPalette::PlaceholderText, QColor(140, 140, 140));
-    dark.setColor(QPalette::Button, QColor(53, 53, 56));
-    dark.setColor(QPalette::ButtonText, QColor(220, 220, 220));
-    dark.setColor(QPalette::Mid, QColor(75, 75, 80));
-    window->setPalette(dark);
+    makeDark();
     ASSERT_TRUE(open());
     openPanel();
     paint("window_dark");
+}
+
+TEST_F(WindowPictures, AGroupedReport) {
+    ASSERT_TRUE(open({{}, {}, {}, {QStringLiteral("REGION"), QStringLiteral("BRANCH")}}));
+    grid().MSFlexGrid1().setCol(columnOf(QStringLiteral("PREMIUM")));
+    QTest::keyClick(window.get(), Qt::Key_T, Qt::ControlModifier | Qt::ShiftModifier);
+    paint("window_groups");
+    paint("window_groups_200", 2);
+    makeDark();
+    paint("window_groups_dark");
+    grid().MSFlexGrid1().setTopRow(grid().Rows() - 30);
+    paint("window_groups_end_dark");
+    window->setPalette(QPalette());
+    paint("window_groups_end");
+}
+
+TEST_F(WindowPictures, ATotalsReport) {
+    ASSERT_TRUE(open({{}, {}, {}, {QStringLiteral("CATEGORY"), QStringLiteral("PRODUCTNAME")}, true}));
+    paint("window_totals");
+    paint("window_totals_200", 2);
+    makeDark();
+    paint("window_totals_dark");
+    ASSERT_TRUE(open({QStringLiteral("LOSSRATIODATA"),
+                      {},
+                      {},
+                      {QStringLiteral("REGION"), QStringLiteral("BRANCH"), QStringLiteral("CATEGORY")},
+                      true}));
+    window->setPalette(QPalette());
+    paint("window_ratios");
 }
 
 TEST_F(WindowPictures, NoReports) {

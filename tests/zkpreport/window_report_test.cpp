@@ -196,24 +196,6 @@ TEST_F(WindowTest, UnknownReportsAndUsersAreTold) {
     EXPECT_EQ(recordCount(), 0);
 }
 
-/// Databases other than the demonstration one.
-class OtherDatabase : public WindowTest {
-protected:
-    bool openWith(const QStringList& statements) {
-        const QString file = folder.filePath(QStringLiteral("other.db"));
-        EXPECT_TRUE(QFile(file).open(QIODevice::WriteOnly));
-        {
-            const auto connection = std::make_shared<zkp::ado::Connection>();
-            connection->Open(QStringLiteral("sqlite:") + file);
-            connection->Execute(QStringLiteral("CREATE TABLE OTHER (A TEXT, B TEXT, C TEXT, D TEXT)"));
-            for (const QString& statement : statements)
-                connection->Execute(statement);
-        }
-        return window->showDatabase(file);
-    }
-    QTemporaryDir folder;
-};
-
 TEST_F(OtherDatabase, WithoutTheTableReportsThereIsAMessage) {
     EXPECT_FALSE(openWith({}));
     EXPECT_EQ(window->message(), texts::noReportsTable());

@@ -68,13 +68,7 @@ int drawPicture(const QString& database, const FirstReport& first, const QString
     return kExitDone;
 }
 
-} // namespace
-
-int runShow(Start start, const QStringList& arguments) {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral(
-        "Shows the reports of a database in a window. Without a display it draws the window into a\n"
-        "picture and prints the first rows as text."));
+void addOptions(QCommandLineParser& parser) {
     parser.addPositionalArgument(QStringLiteral("DB"), QStringLiteral("The same as --database."),
                                  QStringLiteral("[DB]"));
     parser.addOption({QStringLiteral("database"), QStringLiteral("SQLite file (demo.db)."),
@@ -89,6 +83,20 @@ int runShow(Start start, const QStringList& arguments) {
     parser.addOption({QStringLiteral("filter"),
                       QStringLiteral("Condition in keys of the report's dictionary, as PREMIUM>1000."),
                       QStringLiteral("TEXT")});
+    parser.addOption({QStringLiteral("group"),
+                      QStringLiteral("Up to four keys to group by, outermost first, as REGION,BRANCH."),
+                      QStringLiteral("KEYS")});
+    parser.addOption({QStringLiteral("totals"), QStringLiteral("One row for each group.")});
+}
+
+} // namespace
+
+int runShow(Start start, const QStringList& arguments) {
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral(
+        "Shows the reports of a database in a window. Without a display it draws the window into a\n"
+        "picture and prints the first rows as text."));
+    addOptions(parser);
     // The parser's help asks for an application, which a wrong option must not need.
     chooseOffscreenWithoutDisplay();
     const QApplication application(start.argc, start.argv);
@@ -100,6 +108,10 @@ int runShow(Start start, const QStringList& arguments) {
         printError(QStringLiteral("zkpreport show: name one database"));
         return kExitUsage;
     }
+    if (parser.isSet(QStringLiteral("totals")) && parser.value(QStringLiteral("group")).isEmpty()) {
+        printError(QStringLiteral("zkpreport show: --totals needs --group"));
+        return kExitUsage;
+    }
     const QString database = named.isEmpty() ? parser.value(QStringLiteral("database")) : named.front();
     if (!QFileInfo::exists(database)) {
         printError(QStringLiteral("zkpreport show: there is no file %1; zkpreport demo-db %1 makes a "
@@ -108,7 +120,9 @@ int runShow(Start start, const QStringList& arguments) {
         return kExitUsage;
     }
     const FirstReport first{parser.value(QStringLiteral("report")), parser.value(QStringLiteral("user")),
-                            parser.value(QStringLiteral("filter"))};
+                            parser.value(QStringLiteral("filter")),
+                            parser.value(QStringLiteral("group")).split(u',', Qt::SkipEmptyParts),
+                            parser.isSet(QStringLiteral("totals"))};
     return hasDisplay() ? showWindow(database, first)
                         : drawPicture(database, first, parser.value(QStringLiteral("picture")));
 }

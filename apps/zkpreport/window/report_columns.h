@@ -1,33 +1,36 @@
 #pragma once
 
-#include "ado/connection.h"
+#include "window/dictionary_fields.h"
+#include "window/report_shape.h"
 #include "zkp_grid.h"
 
 #include <vector>
 
 namespace zkp::app {
 
-/// A field that a dictionary offers.
-struct DictionaryField {
-    QString key;
+/// A column as a report starts with it.
+struct ReportColumn {
+    QString field; ///< dictionary key, or the alias of an aggregate
     QString caption;
-    QString table;    ///< the table it comes from; empty for a calculated one that names none
     double width = 0; ///< twips
     int alignment = 0;
-    bool isGroup = false;
-    bool isTotal = false;
+    bool isFactor = false;
+    bool isSummed = false;
 };
 
-/// The fields that a dictionary offers, in the order of its table: the visible ones, and of them only
-/// those for everybody when a user with restricted rights is looking. Failures are Error.
-std::vector<DictionaryField> readFields(const ado::ConnectionPtr& connection, const QString& dictionary,
-                                        bool isRestricted);
+/// The columns of a report in its shape, the group factors in front. Factors that the fields lack are
+/// left out.
+///
+/// A detail report goes on with ten fields at most, in the order of the dictionary: what tells a row from
+/// the others, one name of each thing that it belongs to, and amounts; with factors they are fewer. A totals
+/// report goes on with the count and, for three amounts at most, the sum and its share; the first has its
+/// other aggregates too, and a loss-ratio report the ratios.
+std::vector<ReportColumn> reportColumns(const std::vector<DictionaryField>& fields, const ReportShape& shape);
 
-/// The fields that a report starts with, ten at most, in the order of the dictionary: what tells a row from
-/// the others, one name of each thing that it belongs to, and amounts.
-std::vector<DictionaryField> startingFields(const std::vector<DictionaryField>& fields);
+/// Whether a report has the two fields that loss ratios are made of.
+bool hasLossRatio(const std::vector<DictionaryField>& fields);
 
-/// Makes the columns of a control: a field, caption, width and alignment each.
-void layColumns(ZkpGrid& grid, const std::vector<DictionaryField>& fields);
+/// Makes the columns of a control.
+void layColumns(ZkpGrid& grid, const std::vector<ReportColumn>& columns);
 
 } // namespace zkp::app

@@ -4,46 +4,45 @@
 #include "support/utility.h"
 #include "widgets/qt_host.h"
 #include "window/filter_line.h"
+#include "window/group_choice.h"
+#include "window/report_colours.h"
 #include "window/report_filter.h"
-#include "window/report_loader.h"
 #include "window/statement_panel.h"
 #include "window/texts.h"
 
 #include <QAction>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QFileInfo>
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QListView>
 #include <QSignalBlocker>
-#include <QSplitter>
-#include <QToolButton>
+#include <QVBoxLayout>
 
 namespace zkp::app {
 
 namespace {
 
 constexpr QSize kUsualSize{1280, 800};
-constexpr int kListWidth = 118;
-constexpr int kUserWidth = 210;
-constexpr int kPanelHeight = 150;
-constexpr int kMargin = 4;
 
-QLabel* makeLabel(const QString& text, QWidget* buddy) {
-    auto* label = new QLabel(text);
-    label->setBuddy(buddy);
-    return label;
-}
+/// While a report loads, keys and clicks wait: one of them might take its control away.
+class WindowHost : public QtHost {
+public:
+    using QtHost::QtHost;
+    void runPendingEvents() override { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); }
+};
 
 } // namespace
 
 ReportWindow::ReportWindow(std::shared_ptr<Host> host)
-    : host_(std::make_shared<LoadWatch>(host ? std::move(host) : std::make_shared<QtHost>(this)))
+    : host_(std::make_shared<LoadWatch>(host ? std::move(host) : std::make_shared<WindowHost>(this)))
     , reports_(new ReportListModel(this))
     , reportList_(new QListView)
     , userList_(new QComboBox)
     , rights_(new QLabel)
     , filter_(new FilterLine)
+    , groups_(new GroupChoice)
+    , sortAction_(new QAction(texts::sortAction(), this))
     , panelToggle_(new QAction(texts::statementToggle(), this))
     , message_(new QLabel)
     , place_(new QVBoxLayout)
@@ -60,81 +59,12 @@ ReportWindow::~ReportWindow() {
     delete report_;
 }
 
-void ReportWindow::buildWidgets() {
-    reportList_->setModel(reports_);
-    reportList_->setObjectName(QStringLiteral("reports"));
-    reportList_->setAccessibleName(texts::reports());
-    reportList_->setFrameShape(QFrame::NoFrame);
-    reportList_->setTextElideMode(Qt::ElideRight);
-    reportList_->setSpacing(1);
-    message_->setObjectName(QStringLiteral("message"));
-    message_->setContentsMargins(kMargin, 0, kMargin, kMargin);
-    message_->setWordWrap(true);
-    message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    QFont bold = message_->font();
-    bold.setBold(true);
-    message_->setFont(bold);
-    auto* place = new QWidget;
-    place->setLayout(place_);
-    place_->setContentsMargins({});
-
-    auto* report = new QWidget;
-    auto* column = new QVBoxLayout(report);
-    column->setContentsMargins({});
-    column->setSpacing(0);
-    column->addWidget(makeChoices());
-    column->addWidget(message_);
-    column->addWidget(place, 1);
-
-    auto* rows = new QSplitter(Qt::Vertical);
-    rows->addWidget(report);
-    rows->addWidget(panel_);
-    rows->setStretchFactor(0, 1);
-    rows->setSizes({kUsualSize.height() - kPanelHeight, kPanelHeight});
-    auto* columns = new QSplitter(Qt::Horizontal);
-    columns->addWidget(reportList_);
-    columns->addWidget(rows);
-    columns->setStretchFactor(1, 1);
-    columns->setSizes({kListWidth, kUsualSize.width() - kListWidth});
-    for (QSplitter* splitter : {rows, columns})
-        splitter->setHandleWidth(3);
-    setCentralWidget(columns);
-    panel_->hide();
-    message_->hide();
-}
-
-QWidget* ReportWindow::makeChoices() {
-    userList_->setObjectName(QStringLiteral("users"));
-    userList_->setFixedWidth(kUserWidth);
-    rights_->setObjectName(QStringLiteral("rights"));
-    filter_->setObjectName(QStringLiteral("filter"));
-    panelToggle_->setCheckable(true);
-    panelToggle_->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
-    panelToggle_->setToolTip(texts::statementToggleTip());
-    addAction(panelToggle_); // the keys work wherever the focus is
-    auto* toggle = new QToolButton;
-    toggle->setDefaultAction(panelToggle_);
-    toggle->setAutoRaise(true);
-    toggle->setFocusPolicy(Qt::TabFocus);
-
-    auto* choices = new QWidget;
-    auto* row = new QHBoxLayout(choices);
-    row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-    row->setSpacing(kMargin);
-    row->addWidget(makeLabel(texts::userLabel(), userList_));
-    row->addWidget(userList_);
-    row->addWidget(rights_);
-    row->addSpacing(2 * kMargin);
-    row->addWidget(makeLabel(texts::filterLabel(), filter_));
-    row->addWidget(filter_, 1);
-    row->addWidget(toggle);
-    return choices;
-}
-
 void ReportWindow::connectWidgets() {
     connect(reportList_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
         replaceControl();
         widths_.clear();
+        sort_ = {};
+        groups_->choose({}, false);
         openReport({});
     });
     connect(userList_, &QComboBox::currentIndexChanged, this, [this] {
@@ -142,6 +72,8 @@ void ReportWindow::connectWidgets() {
         openReport(filter_->inForce());
     });
     connect(filter_, &FilterLine::applied, this, [this](const QString& filter) { openReport(filter); });
+    connect(groups_, &GroupChoice::changed, this, [this] { openReport(filter_->inForce()); });
+    connect(sortAction_, &QAction::triggered, this, &ReportWindow::sortByCurrentColumn);
     connect(panelToggle_, &QAction::toggled, panel_, &QWidget::setVisible);
 }
 
@@ -203,7 +135,13 @@ bool ReportWindow::choose(const FirstReport& first) {
         reportList_->setCurrentIndex(reports_->index(row));
     }
     reportList_->setFocus();
-    return openReport(first.filter);
+    groups_->choose(first.groups, first.isTotals);
+    if (!openReport(first.filter))
+        return false;
+    if (groups_->factors().size() == first.groups.size())
+        return true;
+    setMessage(texts::noSuchGroup(first.groups.join(u',')));
+    return false;
 }
 
 const ReportEntry* ReportWindow::chosenReport() const {
@@ -237,6 +175,16 @@ bool ReportWindow::openReport(const QString& filter) {
 bool ReportWindow::load(const ReportEntry& report, const QString& filter) {
     replaceControl();
     const QString user = chosenUser();
+    if (!readReport(report, user))
+        return false;
+    prepareReport(grid(), connection_, report, fields_, shape(), user);
+    restoreWidths();
+    report_->show();
+    rights_->setText(rightsText(connection_, user));
+    return tell(loadReport(grid(), *host_, filter));
+}
+
+bool ReportWindow::readReport(const ReportEntry& report, const QString& user) {
     if (user.contains(u'\'')) { // identities go into statements as they are
         setMessage(texts::badIdentity(user));
         return false;
@@ -248,26 +196,68 @@ bool ReportWindow::load(const ReportEntry& report, const QString& filter) {
         setMessage(texts::noDictionary(report.title));
         return false;
     }
+    markCounts(fields_, connection_, report.source);
+    groups_->setFields(fields_);
     showFilterKeys();
-    prepareReport(grid(), connection_, report, fields_, user);
-    restoreWidths();
-    report_->show();
-    rights_->setText(rightsText(connection_, user));
-    const LoadRecord record = loadReport(grid(), *host_, filter);
+    return true;
+}
+
+bool ReportWindow::tell(const LoadRecord& record) {
     panel_->setRecord(record);
-    if (!record.isLoaded)
+    isLoaded_ = record.isLoaded;
+    if (!isLoaded_)
         setMessage(texts::loadFailed());
-    return record.isLoaded;
+    else if (!groups_->isTotals())
+        showSort(grid(), sort_);
+    return isLoaded_;
+}
+
+ReportShape ReportWindow::shape() const {
+    return {groups_->factors(), groups_->isTotals(), sort_};
+}
+
+void ReportWindow::sortIfHeading() {
+    const GridSurface& surface = grid().MSFlexGrid1();
+    if (surface.MouseRow() >= 0 && surface.MouseRow() < surface.FixedRows())
+        sortByCurrentColumn();
+}
+
+/// The statement of a totals report has no order of its own.
+void ReportWindow::sortByCurrentColumn() {
+    const ReportEntry* report = chosenReport();
+    if (!isLoaded_ || !report)
+        return;
+    setMessage({});
+    if (groups_->isTotals()) {
+        setMessage(texts::totalsKeepOrder());
+        return;
+    }
+    guarded([&] {
+        const UserFilter filter = reportFilter(*report, connection_, filter_->inForce());
+        return tell(sortReport(grid(), *host_, filter.text, sort_));
+    });
 }
 
 void ReportWindow::replaceControl() {
     keepWidths();
     delete report_;
+    isLoaded_ = false;
     report_ = new ZkpGridWidget(host_);
     report_->hide(); // until it has columns
     place_->addWidget(report_);
+    setReportColours(grid(), palette());
+    connect(&grid().events(), &Events::Click, this, &ReportWindow::sortIfHeading);
+    connect(&grid().events(), &Events::DblClick, this, &ReportWindow::sortIfHeading);
     panel_->clear();
     rights_->clear();
+}
+
+void ReportWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange || !report_)
+        return;
+    setReportColours(grid(), palette());
+    grid().DrawInterface();
 }
 
 void ReportWindow::keepWidths() {

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "window/load_watch.h"
-#include "window/report_columns.h"
 #include "window/report_list.h"
+#include "window/report_loader.h"
 #include "window/user_list.h"
 
 // The widget is used whole by who uses the window.
@@ -23,17 +23,20 @@ class QVBoxLayout;
 namespace zkp::app {
 
 class FilterLine;
+class GroupChoice;
 class StatementPanel;
 
 /// What to open first.
 struct FirstReport {
-    QString report; ///< source or title; empty for the first of the database
-    QString user;   ///< empty for all rows
-    QString filter; ///< in dictionary keys
+    QString report;          ///< source or title; empty for the first of the database
+    QString user;            ///< empty for all rows
+    QString filter;          ///< in dictionary keys
+    QStringList groups = {}; ///< keys of the group factors, outermost first
+    bool isTotals = false;   ///< a row for each group
 };
 
 /// The program's window, a small report browser: the reports of a database, one of them open, the user
-/// whose rights hold, a filter, and on demand the statement behind the rows.
+/// whose rights hold, a filter, group factors, and on demand the statement behind the rows.
 class ReportWindow : public QMainWindow {
     Q_OBJECT
 
@@ -51,8 +54,11 @@ public:
     bool showDatabase(const QString& file, const FirstReport& first = {});
 
 private:
+    void changeEvent(QEvent* event) override;
+
     void buildWidgets();
     QWidget* makeChoices();
+    QWidget* makeShapeChoices();
     void connectWidgets();
     void readDatabase(const QString& file);
     bool choose(const FirstReport& first);
@@ -60,12 +66,17 @@ private:
     /// Opens the chosen report for the chosen user with a filter. A refused filter leaves the rows.
     bool openReport(const QString& filter);
     bool load(const ReportEntry& report, const QString& filter);
+    bool readReport(const ReportEntry& report, const QString& user);
+    bool tell(const LoadRecord& record);
+    void sortIfHeading();
+    void sortByCurrentColumn();
     /// An empty control: neither rows nor rights of the last one are left.
     void replaceControl();
     void keepWidths();
     void restoreWidths();
     void showFilterKeys();
     void setMessage(const QString& text);
+    ReportShape shape() const;
     const ReportEntry* chosenReport() const;
     QString chosenUser() const;
     template <class F>
@@ -77,12 +88,16 @@ private:
     std::vector<UserEntry> users_;
     std::vector<DictionaryField> fields_; // of the open report, for the user
     std::map<QString, double> widths_;    // of the report's columns, as the user has left them
+    ColumnSort sort_;                     // of the report, as the user has left it
+    bool isLoaded_ = false;
 
     ReportListModel* reports_;
     QListView* reportList_;
     QComboBox* userList_;
     QLabel* rights_;
     FilterLine* filter_;
+    GroupChoice* groups_;
+    QAction* sortAction_;
     QAction* panelToggle_;
     QLabel* message_;
     QVBoxLayout* place_; // where the control stands

@@ -31,6 +31,56 @@ inline QString windowTitle(const QString& report, const QString& database) {
     return report.isEmpty() ? database : QStringLiteral("%1 – %2").arg(report, database);
 }
 
+// The shape of a report.
+inline QString groupsLabel() {
+    return QStringLiteral("&Ομάδες");
+}
+inline QString groupName(int place) {
+    return QStringLiteral("Ομάδα %1").arg(place);
+}
+inline QString noGroup() {
+    return QStringLiteral("(καμία)");
+}
+inline QString totalsLabel() {
+    return QStringLiteral("&Σύνολα");
+}
+inline QString totalsTip() {
+    return QStringLiteral("Μία γραμμή για κάθε ομάδα αντί για κάθε εγγραφή");
+}
+inline QString noSuchGroup(const QString& keys) {
+    return QStringLiteral("Η αναφορά δεν ομαδοποιείται κατά %1.").arg(keys);
+}
+inline QString sortAction() {
+    return QStringLiteral("Ταξινόμηση");
+}
+inline QString sortTip() {
+    return QStringLiteral(
+        "Κατά την τρέχουσα στήλη, όπως το κλικ στην επικεφαλίδα· πάλι, αντίστροφα (Ctrl+Shift+T)");
+}
+inline QString totalsKeepOrder() {
+    return QStringLiteral("Οι γραμμές συνόλων μένουν στη σειρά των ομάδων τους.");
+}
+inline QString sortedHeading(const QString& caption, bool isDescending) {
+    return caption + (isDescending ? QStringLiteral(" ▼") : QStringLiteral(" ▲"));
+}
+
+// Headings of a totals report.
+inline QString countHeading() {
+    return QStringLiteral("Πλήθος");
+}
+inline QString shareHeading() {
+    return QStringLiteral("%");
+}
+inline QString averageHeading() {
+    return QStringLiteral("Μέσος Όρος");
+}
+inline QString minimumHeading() {
+    return QStringLiteral("Ελάχιστο");
+}
+inline QString maximumHeading() {
+    return QStringLiteral("Μέγιστο");
+}
+
 // Messages in place of a report.
 inline QString noReportsTable() {
     return QStringLiteral("Η βάση δεν έχει πίνακα Reports, άρα ούτε αναφορές.");
