@@ -38,6 +38,8 @@ void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
     on.click = guarded([this] { click(); });
     on.dblClick = guarded([this] { Q_EMIT events_.DblClick(); });
     on.keyDown = guarded([this](int& code, int shift) { keyDown(code, shift); });
+    // A dropped heading goes back: no column would follow it, and it would stand over another field.
+    on.headingDropped = [](int, int) { return false; };
     on.columnResized = guarded([this](int col) { properties_.setColWidth(col, surface_.ColWidth(col)); });
     on.currentCellChanged = guarded([this] { selection_.currentCellChanged(); });
     on.selectionChanged = guarded([this] { selection_.selectionChanged(); });
