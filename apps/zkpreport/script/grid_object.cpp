@@ -21,6 +21,16 @@ ScriptObjectPtr GridObject::Picture1() const {
     return control_->bridge().shared<MenuBarObject>(&control_->grid().Picture1(), control_.get(), control_);
 }
 
+QVariant GridObject::Font() const {
+    const ScriptObjectPtr font = control_->bridge().shared<FontObject>(
+        &control_->grid().MSFlexGrid1(), control_.get(), control_, &ZkpGrid::MSFlexGrid1);
+    return QVariant::fromValue(font);
+}
+
+void GridObject::setFont(const QVariant& font) {
+    control_->grid().setFont(FontObject::fontIn(font));
+}
+
 ScriptObjectPtr GridObject::cmdHide() const {
     return control_->bridge().shared<ButtonObject>(&control_->grid().cmdHide(), control_.get(), control_);
 }

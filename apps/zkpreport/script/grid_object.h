@@ -14,6 +14,8 @@ class GridObject : public ScriptObject {
     Q_PROPERTY(zkp::script::ScriptObjectPtr MSFlexGrid2 READ MSFlexGrid2)
     Q_PROPERTY(zkp::script::ScriptObjectPtr MSFlexGrid3 READ MSFlexGrid3)
     Q_PROPERTY(zkp::script::ScriptObjectPtr Picture1 READ Picture1)
+    /// An object to read and to write through; another font that is given to it is copied.
+    Q_PROPERTY(QVariant Font READ Font WRITE setFont)
     Q_PROPERTY(zkp::script::ScriptObjectPtr cmdHide READ cmdHide)
     Q_PROPERTY(zkp::script::ScriptObjectPtr lbltemplate READ lbltemplate)
     Q_PROPERTY(zkp::script::ScriptObjectPtr lblfilter READ lblfilter)
@@ -32,6 +34,8 @@ public:
     ScriptObjectPtr MSFlexGrid2() const { return surface(&ZkpGrid::MSFlexGrid2); }
     ScriptObjectPtr MSFlexGrid3() const { return surface(&ZkpGrid::MSFlexGrid3); }
     ScriptObjectPtr Picture1() const;
+    QVariant Font() const;
+    void setFont(const QVariant& font);
     ScriptObjectPtr cmdHide() const;
     ScriptObjectPtr lbltemplate() const { return label(&ZkpGrid::lbltemplate); }
     ScriptObjectPtr lblfilter() const { return label(&ZkpGrid::lblfilter); }

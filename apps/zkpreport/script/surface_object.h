@@ -1,5 +1,7 @@
 #pragma once
 
+#include "script/bridge.h"
+#include "script/child_objects.h"
 #include "script/script_control.h"
 #include "script/script_object.h"
 
@@ -103,6 +105,15 @@ public:
     ZKP_SCRIPT_VALUE(bool, FontItalic)
     ZKP_SCRIPT_VALUE(bool, FontUnderline)
     ZKP_SCRIPT_VALUE(bool, FontStrikethru)
+    Q_PROPERTY(QVariant Font READ Font WRITE setFont)
+    QVariant Font() const {
+        const ScriptObjectPtr font =
+            control_->bridge().shared<FontObject>(&surface(), control_.get(), control_, which_);
+        return QVariant::fromValue(font);
+    }
+    void setFont(const QVariant& font) {
+        surface().setFont(FontObject::fontIn(font));
+    }
 
     ZKP_SCRIPT_LOOK(uint, BackColorBkg)
     ZKP_SCRIPT_LOOK(uint, BackColorSel)
@@ -120,6 +131,7 @@ public:
     ZKP_SCRIPT_LOOK(bool, AllowBigSelection)
     ZKP_SCRIPT_LOOK(bool, Enabled)
     ZKP_SCRIPT_LOOK(QString, Tag)
+    ZKP_SCRIPT_LOOK(QVariant, Panel)
 
     ZKP_SCRIPT_PLACE(double, Left)
     ZKP_SCRIPT_PLACE(double, Top)
