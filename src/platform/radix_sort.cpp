@@ -26,23 +26,6 @@ bool areWhole(const std::vector<double>& keys, double scale) {
     });
 }
 
-/// Numbers without a sign in the order of the doubles. Places and amounts become small ones, so that
-/// few digits are left to sort by.
-std::vector<std::uint64_t> orderedBits(const std::vector<double>& keys) {
-    std::vector<std::uint64_t> bits(keys.size());
-    const auto fill = [&](auto bitsOf) { std::transform(keys.begin(), keys.end(), bits.begin(), bitsOf); };
-    for (const double scale : {1.0, 100.0, 10'000.0})
-        if (areWhole(keys, scale)) {
-            fill([scale](double key) { return static_cast<std::uint64_t>(nearest(key * scale)) ^ kSign; });
-            return bits;
-        }
-    fill([](double key) {
-        const auto raw = std::bit_cast<std::uint64_t>(key + 0.0); // -0 becomes 0
-        return (raw & kSign) != 0 ? ~raw : raw | kSign;
-    });
-    return bits;
-}
-
 /// A key beside its row, so that a pass reads and writes in one place.
 struct WideItem {
     WideItem() = default;
@@ -99,22 +82,40 @@ void sortRows(std::vector<int>& rows, std::uint64_t largest, KeyOfRow keyOfRow) 
     std::transform(items.begin(), items.end(), rows.begin(), [](const Item& item) { return item.row(); });
 }
 
+/// `bitsOf` gives a number without a sign for each key, in the order of the keys.
+template <class BitsOf>
+void sortByBits(std::vector<int>& rows, const std::vector<double>& keys, bool descending, BitsOf bitsOf) {
+    const auto [least, greatest] = std::minmax_element(keys.begin(), keys.end());
+    const std::uint64_t low = bitsOf(*least);
+    const std::uint64_t high = bitsOf(*greatest);
+    const auto keyOfRow = [&](int row) {
+        const std::uint64_t bits = bitsOf(keys[static_cast<std::size_t>(row)]);
+        return descending ? high - bits : bits - low;
+    };
+    if (high - low <= UINT32_MAX)
+        sortRows<NarrowItem>(rows, high - low, keyOfRow);
+    else
+        sortRows<WideItem>(rows, high - low, keyOfRow);
+}
+
+/// The bits of doubles stand in their order, but for the sign.
+std::uint64_t orderedBits(double key) {
+    const auto raw = std::bit_cast<std::uint64_t>(key + 0.0); // -0 becomes 0
+    return (raw & kSign) != 0 ? ~raw : raw | kSign;
+}
+
 } // namespace
 
+/// Places and amounts become small whole numbers first, so that few digits are left to sort by.
 void sortByKey(std::vector<int>& rows, const std::vector<double>& keys, bool descending) {
     if (rows.empty())
         return;
-    const std::vector<std::uint64_t> bits = orderedBits(keys);
-    const auto [low, high] = std::minmax_element(bits.begin(), bits.end());
-    const auto keyOfRow = [&, low = *low, high = *high](int row) {
-        const std::uint64_t key = bits[static_cast<std::size_t>(row)];
-        return descending ? high - key : key - low;
-    };
-    const std::uint64_t largest = *high - *low;
-    if (largest <= UINT32_MAX)
-        sortRows<NarrowItem>(rows, largest, keyOfRow);
-    else
-        sortRows<WideItem>(rows, largest, keyOfRow);
+    for (const double scale : {1.0, 100.0, 10'000.0})
+        if (areWhole(keys, scale))
+            return sortByBits(rows, keys, descending, [scale](double key) {
+                return static_cast<std::uint64_t>(nearest(key * scale)) ^ kSign;
+            });
+    sortByBits(rows, keys, descending, orderedBits);
 }
 
 } // namespace zkp
