@@ -155,6 +155,13 @@ std::vector<SavedKey> keysOnlyRead() {
 }
 // clang-format on
 
+template <class T>
+BagValue inType(BagValue value, const QString& key) {
+    if (!std::holds_alternative<T>(value))
+        value = valueAs<T>(value, key);
+    return value;
+}
+
 std::vector<SavedKey> spelt(std::vector<SavedKey> keys) {
     for (SavedKey& key : keys)
         if (key.read == same)
@@ -197,26 +204,26 @@ const SavedKey& savedKeyReadAs(const QString& spelling) {
     return *key;
 }
 
-BagValue inSavedType(SavedType type, const BagValue& value, const QString& key) {
+BagValue inSavedType(SavedType type, BagValue value, const QString& key) {
     switch (type) {
     case Boolean:
-        return valueAs<bool>(value, key);
+        return inType<bool>(std::move(value), key);
     case Int16:
-        return valueAs<std::int16_t>(value, key);
+        return inType<std::int16_t>(std::move(value), key);
     case Int32:
-        return valueAs<std::int32_t>(value, key);
+        return inType<std::int32_t>(std::move(value), key);
     case Single:
-        return valueAs<float>(value, key);
+        return inType<float>(std::move(value), key);
     case Double:
-        return valueAs<double>(value, key);
+        return inType<double>(std::move(value), key);
     case Text:
-        return valueAs<QString>(value, key);
+        return inType<QString>(std::move(value), key);
     case Colour:
-        return valueAs<Color>(value, key);
+        return inType<Color>(std::move(value), key);
     case Font:
         break;
     }
-    return valueAs<BagFont>(value, key);
+    return inType<BagFont>(std::move(value), key);
 }
 
 BagValue defaultOn(const SavedControl& control, const SavedKey& key, const SavedDefault& fallback) {

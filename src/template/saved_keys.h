@@ -58,7 +58,7 @@ std::vector<SavedKey> savedFontKeys();
 const SavedKey& savedKeyReadAs(const QString& spelling);
 
 /// The value in the type that it is stored in.
-BagValue inSavedType(SavedType type, const BagValue& value, const QString& key);
+BagValue inSavedType(SavedType type, BagValue value, const QString& key);
 /// What the default is on this control; the key must have one.
 BagValue defaultOn(const SavedControl& control, const SavedKey& key, const SavedDefault& fallback);
 

@@ -21,6 +21,22 @@ bool isNone(const SavedDefault& fallback) {
     return fallback.kind == SavedDefault::Kind::None;
 }
 
+/// Spells the keys of one column, one after the other in the same piece of memory.
+class ColumnSpelling {
+public:
+    explicit ColumnSpelling(int index)
+        : position_(QString::number(index)) {}
+
+    const QString& of(const QString& stem) {
+        key_.resize(0);
+        return key_.append(stem).append(position_);
+    }
+
+private:
+    QString position_;
+    QString key_;
+};
+
 /// What stands in the bag or else the default, in the column's own type.
 void readInto(Column& column, const PropertyBag& bag, const SavedColumnKey& key, const QString& spelling) {
     const BagValue* held = bag.find(spelling);
@@ -57,14 +73,14 @@ void SavedProperties::writeColumns(PropertyBag& bag) const {
     const int count = control_.surface.Cols();
     for (int i = 0; i < count; ++i) {
         const Column& column = columns_.ofGridColumn(i);
-        const QString position = QString::number(i);
+        ColumnSpelling spelling(i);
         for (const SavedColumnKey& key : savedColumnKeys()) {
-            const QString spelling = key.written + position;
-            BagValue value = inSavedType(key.type, key.target.get(column), spelling);
+            const QString& spelt = spelling.of(key.written);
+            BagValue value = inSavedType(key.type, key.target.get(column), spelt);
             if (isNone(key.elidedAt))
-                bag.WriteProperty(spelling, std::move(value));
+                bag.WriteProperty(spelt, std::move(value));
             else
-                bag.WriteProperty(spelling, std::move(value), key.elidedAt.value);
+                bag.WriteProperty(spelt, std::move(value), key.elidedAt.value);
         }
     }
 }
@@ -119,11 +135,11 @@ bool SavedProperties::readFirst(const PropertyBagPtr& bag) {
 /// The new column goes behind those that stand already, as wanted. Where there were some, the entry of this
 /// position is an older one, and only what bringUpToDate assigns reaches it.
 void SavedProperties::readColumn(const PropertyBag& bag, int index) {
-    const QString position = QString::number(index);
+    ColumnSpelling spelling(index);
     Column column;
     for (const SavedColumnKey& key : savedColumnKeys())
         if (!isNone(key.readDefault))
-            pass([&] { readInto(column, bag, key, key.read + position); });
+            pass([&] { readInto(column, bag, key, spelling.of(key.read)); });
     pass([&] { control_.surface.setFixedAlignment(index, kHeadingAlignment); });
     columns_.Add(column);
     bringUpToDate(index, column);
