@@ -118,8 +118,43 @@ void InterfaceDrawing::paintGroupCells(const CellRange& page) {
 void InterfaceDrawing::paintRows(const CellRange& page) {
     if (surface_.Cols() <= state_.GroupFactorCount)
         return;
-    markBlankFactors(page);
-    paintDetailRows(page);
+    std::vector<int> kinds; // from the page's first row on
+    for (int row = page.top; row <= page.bottom; ++row)
+        kinds.push_back(surface_.RowData(row));
+    markBlankFactors(page, kinds);
+    paintDetailRows(page, kinds);
+    paintSumRows(page, kinds);
+}
+
+/// A blank factor cell that shows takes the mark of a repeated value; sums and rows out of sight don't.
+void InterfaceDrawing::markBlankFactors(const CellRange& page, const std::vector<int>& kinds) {
+    const int count = groupColumns();
+    for (int row = page.top; count > 0 && row <= page.bottom; ++row) {
+        if (isSumRow(kinds[static_cast<std::size_t>(row - page.top)]))
+            continue;
+        for (int c = 0; c < count; ++c)
+            if (isBlank(surface_.TextMatrix(row, c)))
+                surface_.setTextMatrix(row, c, texts::repeatedValue());
+    }
+}
+
+/// Rows that stand together are one write; the sums among them are painted over it afterwards.
+void InterfaceDrawing::paintDetailRows(const CellRange& page, const std::vector<int>& kinds) {
+    StylePatch colours;
+    colours.backColor = surface_.BackColor();
+    colours.foreColor = surface_.ForeColor();
+    int first = page.top;
+    for (int row = page.top; row <= page.bottom + 1; ++row) {
+        const int kind = row <= page.bottom ? kinds[static_cast<std::size_t>(row - page.top)] : 0;
+        if (kind == ZKPSingleRow || isSumRow(kind))
+            continue;
+        if (first < row)
+            surface_.applyStyle({first, groupColumns(), row - 1, page.right}, colours);
+        first = row + 1;
+    }
+}
+
+void InterfaceDrawing::paintSumRows(const CellRange& page, const std::vector<int>& kinds) {
     const StylePatch subTotals =
         sectionStyle(state_.SubTotalsBackColor, state_.SubTotalsForeColor,
                      {state_.SubTotalsFontName, state_.SubTotalsFontSize, state_.SubTotalsFontBold,
@@ -129,37 +164,8 @@ void InterfaceDrawing::paintRows(const CellRange& page) {
                      {state_.TotalsFontName, state_.TotalsFontSize, state_.TotalsFontBold,
                       state_.TotalsFontItalic, state_.TotalsFontUnderline});
     for (int row = page.top; row <= page.bottom; ++row)
-        if (const int kind = surface_.RowData(row); isSumRow(kind))
+        if (const int kind = kinds[static_cast<std::size_t>(row - page.top)]; isSumRow(kind))
             surface_.applyStyle({row, 0, row, page.right}, kind == ZKPTotals ? totals : subTotals);
-}
-
-/// A blank factor cell that shows takes the mark of a repeated value; sums and rows out of sight don't.
-void InterfaceDrawing::markBlankFactors(const CellRange& page) {
-    if (groupColumns() == 0)
-        return;
-    for (int row = page.top; row <= page.bottom; ++row) {
-        if (isSumRow(surface_.RowData(row)))
-            continue;
-        for (int c = 0; c < groupColumns(); ++c)
-            if (isBlank(surface_.TextMatrix(row, c)))
-                surface_.setTextMatrix(row, c, texts::repeatedValue());
-    }
-}
-
-/// Rows that stand together are one write; the sums among them are painted over it afterwards.
-void InterfaceDrawing::paintDetailRows(const CellRange& page) {
-    StylePatch colours;
-    colours.backColor = surface_.BackColor();
-    colours.foreColor = surface_.ForeColor();
-    int first = page.top;
-    for (int row = page.top; row <= page.bottom + 1; ++row) {
-        const int kind = row <= page.bottom ? surface_.RowData(row) : 0;
-        if (kind == ZKPSingleRow || isSumRow(kind))
-            continue;
-        if (first < row)
-            surface_.applyStyle({first, groupColumns(), row - 1, page.right}, colours);
-        first = row + 1;
-    }
 }
 
 void InterfaceDrawing::RefreshInterface(int what) {

@@ -8,6 +8,8 @@
 #include "platform/host.h"
 #include "platform/menu_bar.h"
 
+#include <vector>
+
 namespace zkp {
 
 /// Paints the report's sections: heading, group factor cells, detail rows, subtotals and totals take
@@ -37,8 +39,9 @@ private:
     void paintFonts();
     void paintGroupCells(const CellRange& page);
     void paintRows(const CellRange& page);
-    void markBlankFactors(const CellRange& page);
-    void paintDetailRows(const CellRange& page);
+    void markBlankFactors(const CellRange& page, const std::vector<int>& kinds);
+    void paintDetailRows(const CellRange& page, const std::vector<int>& kinds);
+    void paintSumRows(const CellRange& page, const std::vector<int>& kinds);
     void refreshTotals();
     int groupColumns() const;
     StylePatch groupStyle() const;

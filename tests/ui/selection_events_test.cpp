@@ -125,6 +125,15 @@ TEST_F(SelectionEventsTest, AHandlerMayDestroyTheControl) {
     EXPECT_EQ(told(), u"Selecting"_s);
 }
 
+TEST_F(SelectionEventsTest, AFrozenRowIsPaintedWithoutAWord) {
+    grid->setFrozenRow(true);
+    surface().Select(3, 1);
+    told();
+    grid->setFreezeBackColor(kMark);
+    EXPECT_EQ(cells(1), u"MMMM"_s);
+    EXPECT_EQ(told(), QString());
+}
+
 // --- Scrolling
 
 TEST_F(SelectionEventsTest, AMoveDownwardsPaintsWhatComesIntoSight) {
