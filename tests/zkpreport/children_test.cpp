@@ -188,6 +188,38 @@ TEST_F(Children, TheBandsHeightCanBeSetAndTheSurfaceStandsBelowIt) {
                            QStringLiteral("false false")}));
 }
 
+TEST_F(Children, AFontIsAnObjectOfItsSurfaceAndACopyWhenItIsGivenAway) {
+    EXPECT_EQ(linesOf(QStringLiteral(
+                  "var font = grid.Font; font.Name = 'Serif'; font.Size = 9.5; font.Bold = true;"
+                  "font.Italic = true; font.Underline = true; font.Strikethrough = true;"
+                  "print(grid.FontName, grid.FontSize, grid.FontBold, grid.FontItalic, grid.FontUnderline,"
+                  "grid.FontStrikethru, grid.MSFlexGrid1.FontName, grid.Font === font);"
+                  "var other = new ZkpGrid(); other.Font = grid.Font; font.Size = 20;"
+                  "print(other.FontName, other.Font.Size, other.Font.Strikethrough);"
+                  "other.MSFlexGrid1.Font = grid.MSFlexGrid1.Font; print(other.FontSize);")),
+              (QStringList{QStringLiteral("Serif 9.5 true true true true Serif true"),
+                           QStringLiteral("Serif 9.5 true"), QStringLiteral("20")}));
+    EXPECT_EQ(errorNumberOf(QStringLiteral("grid.Font = 'Arial'")), 13);
+    EXPECT_EQ(errorNumberOf(QStringLiteral("grid.Font.Weight")), 438);
+}
+
+TEST_F(Children, ThePanelPassesThroughToTheSurface) {
+    EXPECT_EQ(linesOf(QStringLiteral("grid.Panel = 'α'; print(grid.MSFlexGrid1.Panel);"
+                                     "grid.MSFlexGrid1.Panel = 3; print(grid.Panel);")),
+              (QStringList{QStringLiteral("α"), QStringLiteral("3")}));
+}
+
+TEST_F(Children, TheBandsHaveTheirTools) {
+    EXPECT_EQ(linesOf(QStringLiteral("grid.TemplateMenuVisible = true; grid.RefreshOnChange = false;"
+                                     "var save = grid.Picture1.Bands('mnuTemplate').Tools('mnuSaveTemplate');"
+                                     "print(save.Visible, save.Caption, save.Category);"
+                                     "print(grid.Picture1.Bands('BndTemplate').Tools('mnuPrint').Enabled,"
+                                     "grid.Picture1.Bands('mnuTemplate').Tools('mnuPrint').Enabled);"
+                                     "save.Visible = false; print(grid.TemplateMenuVisible);")),
+              (QStringList{QStringLiteral("true Καταχώρηση Υποδείγματος CatTemplate"),
+                           QStringLiteral("false false"), QStringLiteral("false")}));
+}
+
 TEST_F(Children, ButtonAndLabelsAreThere) {
     EXPECT_EQ(
         linesOf(QStringLiteral(

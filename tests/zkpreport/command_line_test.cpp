@@ -45,7 +45,7 @@ protected:
 
 TEST_F(CommandLine, HelpTellsEveryCommandWithALineOfItsOwn) {
     EXPECT_EQ(start({QStringLiteral("--help")}), 0);
-    for (const char* name : {"\n  show ", "\n  run ", "\n  demo-db ", "--help", "--version"})
+    for (const char* name : {"\n  show ", "\n  run ", "\n  demo-db ", "\n  template ", "--help", "--version"})
         EXPECT_TRUE(output.contains(QLatin1String(name))) << name << qPrintable(output);
     EXPECT_EQ(errors, QString());
 }
@@ -56,7 +56,7 @@ TEST_F(CommandLine, VersionTellsTheProgramAndItsVersion) {
 }
 
 TEST_F(CommandLine, EachCommandHasAHelpOfItsOwn) {
-    for (const char* name : {"show", "run", "demo-db"}) {
+    for (const char* name : {"show", "run", "demo-db", "template"}) {
         EXPECT_EQ(start({QLatin1String(name), QStringLiteral("--help")}), 0) << name;
         EXPECT_TRUE(output.contains(QLatin1String(name))) << qPrintable(output);
     }
@@ -163,6 +163,55 @@ TEST_F(CommandLine, ShowTellsADamagedDatabaseAndOneWithoutTheReport) {
     EXPECT_EQ(start({QStringLiteral("show"), QStringLiteral("empty.db")}), 1);
     EXPECT_NE(errors.trimmed(), QString());
     EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("plain_report.png"))));
+}
+
+TEST_F(CommandLine, ATemplateGoesThroughItsTextExactly) {
+    const QString database = QStringLiteral("--database=t.db");
+    EXPECT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("t.db"), QStringLiteral("--rows=5")}), 0);
+    write(QStringLiteral("save.js"), "const cn = new Connection(); cn.Open('sqlite:t.db');"
+                                     "cn.Execute(\"insert into frms (lstCode) values (12)\");"
+                                     "const grid = new ZkpGrid(); grid.Cn = cn; grid.Cols = 3;"
+                                     "grid.setColCaption(1, 'Ασφάλιστρα'); grid.OrderBy = 'a = \"b\"\\n';"
+                                     "grid.SaveTemplate(undefined, 'Μηνιαία');"
+                                     "grid.SaveTemplate(undefined, 'ABCD12');");
+    EXPECT_EQ(start({QStringLiteral("run"), QStringLiteral("save.js")}), 0) << qPrintable(errors);
+    EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("list"), database}), 0);
+    EXPECT_EQ(output, QStringLiteral("frms12\nΜηνιαία\n"));
+
+    const auto exported = [&](const char* name, const char* file) {
+        EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("export"), QString::fromUtf8(name),
+                         QString::fromUtf8(file), database}),
+                  0)
+            << qPrintable(errors);
+        QFile text(folder.filePath(QString::fromUtf8(file)));
+        EXPECT_TRUE(text.open(QIODevice::ReadOnly));
+        return text.readAll();
+    };
+    const QByteArray first = exported("Μηνιαία", "first.txt");
+    EXPECT_TRUE(first.contains("Ασφάλιστρα"));
+    EXPECT_EQ(exported("frms12", "second.txt"), first);
+    EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("import"), QStringLiteral("Αντίγραφο"),
+                     QStringLiteral("first.txt"), database}),
+              0);
+    EXPECT_EQ(exported("Αντίγραφο", "third.txt"), first);
+}
+
+TEST_F(CommandLine, ATemplateThatCannotBeReadOrWrittenIsToldAndNothingChanges) {
+    const QString database = QStringLiteral("--database=t.db");
+    EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("list"), database}), 1);
+    EXPECT_TRUE(errors.startsWith(QStringLiteral("zkpreport template: there is no file t.db")));
+    EXPECT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("t.db"), QStringLiteral("--rows=5")}), 0);
+    EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("export"), QStringLiteral("Καμία"),
+                     QStringLiteral("none.txt"), database}),
+              1);
+    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("none.txt"))));
+    write(QStringLiteral("bad.txt"), "this is no template\n");
+    EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("import"), QStringLiteral("Κακή"),
+                     QStringLiteral("bad.txt"), database}),
+              1);
+    EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("list"), database}), 0);
+    EXPECT_EQ(output, QString());
+    EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("export"), QStringLiteral("Καμία")}), 2);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "core/properties.def"
 #include "script_fixture.h"
 
 // The public names of the control, written by hand: each must be there for a script, under exactly
@@ -152,9 +153,23 @@ constexpr const char* kStoredProperties[] = {"FrameBackColor",
                                              "VisibleMetafora",
                                              "WriteTot"};
 
-constexpr const char* kOtherProperties[] = {
-    "Cols",     "MinRows",   "RefreshOnChange", "FreezeBackColor", "Cn",     "CommandTimeout", "DesignMode",
-    "RowByRow", "TotalForm", "SourceType",      "Width",           "Height", "MousePointer"};
+constexpr const char* kOtherProperties[] = {"Cols",
+                                            "MinRows",
+                                            "RefreshOnChange",
+                                            "FreezeBackColor",
+                                            "Cn",
+                                            "CommandTimeout",
+                                            "DesignMode",
+                                            "RowByRow",
+                                            "TotalForm",
+                                            "SourceType",
+                                            "Width",
+                                            "Height",
+                                            "MousePointer",
+                                            "Font",
+                                            "Panel",
+                                            "Locale",
+                                            "TemplateMenuVisible"};
 
 constexpr const char* kReadOnly[] = {"HasTotals",   "RecordsourceSTR", "Columns",     "events",
                                      "MSFlexGrid1", "MSFlexGrid2",     "MSFlexGrid3", "Picture1",
@@ -232,6 +247,24 @@ TEST_F(PublicNames, PropertiesThatDoMoreAreReadAndWritten) {
     for (const char* name : kOtherProperties)
         expectReadableAndWritable(name);
     expectRuns(QStringLiteral("grid.RecordSource; grid.RecordSource = 'SELECT 1'"));
+}
+
+TEST_F(PublicNames, NothingOfThePropertyListIsMissing) {
+#define READ_AND_WRITE(Type, Name, ...) expectReadableAndWritable(#Name);
+    ZKP_SURFACE_PROPERTIES(READ_AND_WRITE)
+    ZKP_LOOK_PROPERTIES(READ_AND_WRITE)
+    ZKP_MEMBER_PROPERTIES(READ_AND_WRITE)
+    ZKP_KEPT_MEMBERS(READ_AND_WRITE)
+    ZKP_HAND_WRITTEN(READ_AND_WRITE)
+    ZKP_SILENT_PROPERTIES(READ_AND_WRITE)
+    ZKP_PLAIN_MEMBERS(READ_AND_WRITE)
+#define BOTH_METHODS(Type, Name, ...) expectRuns(QStringLiteral("grid.set" #Name "(1, grid." #Name "(1))"));
+    ZKP_SURFACE_INDEXED(BOTH_METHODS)
+    ZKP_COLUMN_PROPERTIES(BOTH_METHODS)
+    ZKP_HAND_WRITTEN_INDEXED(BOTH_METHODS)
+#define READ_ALONE(Type, Name, ...) expectRuns(QStringLiteral("grid." #Name));
+    ZKP_READ_ONLY_MEMBERS(READ_ALONE)
+    ZKP_READ_ONLY_ANSWERS(READ_ALONE)
 }
 
 TEST_F(PublicNames, ReadOnlyOnesAreReadAndRefuseAValue) {

@@ -14,6 +14,8 @@ constexpr std::array kCommands{
             runShow},
     Command{"run", "FILE.js [ARGUMENT...]", "runs a script, with no window and no display", runRun},
     Command{"demo-db", "FILE [--rows N] [--seed S]", "makes the demonstration database", runDemoDb},
+    Command{"template", "list | export NAME FILE | import NAME FILE", "saved report shapes as text",
+            runTemplate},
 };
 
 void printHelp() {

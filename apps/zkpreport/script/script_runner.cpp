@@ -2,6 +2,7 @@
 
 #include "core/enums.h"
 #include "script/ado_objects.h"
+#include "script/bag_objects.h"
 #include "script/grid_object.h"
 #include "script/host_object.h"
 
@@ -65,6 +66,9 @@ void ScriptRunner::addGlobals() {
     });
     bridge_->addConstructor(QStringLiteral("Command"),
                             [this] { return CommandObject::of(*bridge_, std::make_shared<ado::Command>()); });
+    bridge_->addConstructor(QStringLiteral("PropertyBag"), [] {
+        return std::make_shared<PropertyBagObject>(std::make_shared<PropertyBag>());
+    });
     bridge_->addGlobal(QStringLiteral("host"),
                        bridge_->facade(std::make_shared<HostObject>(
                            host_, [this](const QLocale& locale) { setLocale(locale); })));

@@ -225,6 +225,8 @@ QVariant ValueConversion::sharedFromScript(const QJSValue& value, QMetaType want
         mismatch(what, "a Connection");
     if (typeName.contains(QLatin1String("Recordset")))
         mismatch(what, "a Recordset");
+    if (typeName.contains(QLatin1String("PropertyBag")))
+        mismatch(what, "a PropertyBag");
     mismatch(what, "an object of another kind");
 }
 

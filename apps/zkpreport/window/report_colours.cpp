@@ -8,6 +8,7 @@ namespace {
 
 constexpr double kGroupShade = 0.05;
 constexpr double kSubTotalsShade = 0.10;
+constexpr double kLineShade = 0.14; // seen between two groups too
 constexpr double kTotalsShade = 0.20;
 
 Color shade(const QPalette& palette, double strength) {
@@ -24,6 +25,7 @@ void setReportColours(ZkpGrid& grid, const QPalette& palette) {
     grid.setGroupedFontBold(false); // what is bold is a sum
     grid.setGroupedBackColor(shade(palette, kGroupShade));
     grid.setSubTotalsBackColor(shade(palette, kSubTotalsShade));
+    grid.setGridColor(shade(palette, kLineShade));
     grid.setTotalsBackcolor(shade(palette, kTotalsShade));
 }
 
