@@ -36,6 +36,7 @@ int refreshReport(const std::string& file, const std::string& statement) {
     ZkpGrid grid;
     grid.setLocale(QLocale(QLocale::Greek, QLocale::Greece));
     grid.setCommandTimeout(0);
+    grid.MSFlexGrid1().setVisibleRows(41); // as in a window
     grid.setCols(kColumns);
     for (int c = 0; c < kColumns; ++c)
         grid.setColDataField(c, QLatin1String(kFields[c]));
