@@ -146,7 +146,8 @@ struct Ordered {
 
 std::vector<Ordered> inOrder(const PropertyBag& bag) {
     std::vector<Ordered> entries(bag.entries().begin(), bag.entries().end());
-    std::sort(entries.begin(), entries.end());
+    // By merging: a control writes its keys column by column, in runs that are nearly in order.
+    std::stable_sort(entries.begin(), entries.end());
     return entries;
 }
 
