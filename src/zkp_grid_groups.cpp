@@ -40,7 +40,7 @@ void ZkpGrid::PercentOfParent(const QString& field, int r, const QVariant& level
     result = run([&](Parts& p) {
         p.percentShares.tellFailuresAgain();
         return p.percentShares.PercentOfParent(
-            field, r, level.isValid() ? std::optional(toInt32(level)) : std::nullopt);
+            field, r, level.isValid() ? std::optional<int>(toInt16(level)) : std::nullopt);
     });
 }
 double ZkpGrid::GroupValueSum(int level, const QString& name, int r) {

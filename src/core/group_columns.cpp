@@ -1,6 +1,7 @@
 #include "core/group_columns.h"
 
 #include "base/error_in_flight.h"
+#include "base/number.h"
 #include "base/text.h"
 #include "support/utility.h"
 
@@ -13,7 +14,10 @@ void GroupColumns::InsertColumn(int whereisit) {
     } catch (const ControlDestroyed&) {
         throw;
     } catch (...) {
-        ShowError(host_, errorInFlight());
+        const Error error = errorInFlight();
+        state_.throwIfDestroyed();
+        ShowError(host_, error);
+        return;
     }
     host_.setPointer(kPointerDefault);
 }
@@ -61,9 +65,10 @@ void GroupColumns::MakeFixedForGroup() {
     if (state_.Groupby.isEmpty())
         return;
     state_.GroupFactors = state_.Groupby.split(u',');
-    state_.GroupFactorCount = static_cast<short>(state_.GroupFactors.size());
+    state_.GroupFactorCount = toInt16(state_.GroupFactors.size());
     for (int i = 0; i < state_.GroupFactorCount; ++i)
         placeFactor(i, state_.GroupFactors[i]);
+    state_.givenGroupby.reset(); // from here on the flags tell
     surface_.setMergeCells(1);
     for (int i = 0; i < state_.GroupFactorCount; ++i)
         surface_.setMergeCol(i, true);

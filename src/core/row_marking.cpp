@@ -38,7 +38,8 @@ void RowMarking::RememberRowColours() {
 }
 
 /// A row beyond the bound, which with several fixed rows is short of the last row, is not chosen: the
-/// selection that stands is painted instead. Wanted. No fixed row carries a band.
+/// selection that stands is painted instead. Wanted. So is a row that is gone. Row 0 means that no row has
+/// the band.
 void RowMarking::RedrawRow(double given) {
     const int row = toInt32(given);
     if (row < surface_.FixedRows())
@@ -46,7 +47,7 @@ void RowMarking::RedrawRow(double given) {
     const RedrawOff still(surface_);
     const ScopeGuard ready([this] { state_.PaintReady = true; });
     state_.PaintReady = false;
-    const bool chosen = row <= surface_.Rows() - surface_.FixedRows();
+    const bool chosen = row <= surface_.Rows() - surface_.FixedRows() && row < surface_.Rows();
     paint(chosen ? bandOf(row) : surface_.selection(), {state_.PreBackColor, state_.PreForeColor});
     if (surface_.ColSel() == 0) // a corner in the first column does not come back, as wanted
         surface_.setColSel(surface_.Col());

@@ -1,8 +1,13 @@
 #include "load/group_sums.h"
 
+#include "base/error.h"
+
 namespace zkp {
 
+/// A handler may have started the sums anew for another shape while a row was written.
 GroupSums::Cell& GroupSums::at(int row, int column) {
+    if (row < 0 || row >= rows() || column < 0 || column >= shape_.columns || cells_.empty())
+        throw Error(kErrInvalidArrayIndex, QStringLiteral("There is no sum at %1, %2").arg(row).arg(column));
     return cells_[static_cast<std::size_t>(row) * static_cast<std::size_t>(shape_.columns) +
                   static_cast<std::size_t>(column)];
 }

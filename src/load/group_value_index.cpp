@@ -15,7 +15,7 @@ namespace {
 constexpr QChar kBetweenKeys(0x1F);
 
 QString numberPart(double number) {
-    return QString::number(number + 0.0, 'g', 17);
+    return QString::number(number + 0.0, 'g', 15);
 }
 
 } // namespace

@@ -47,11 +47,11 @@ public:
 
 private:
     bool isSameValue(int column, std::uint32_t a, std::uint32_t b) const;
-    const CellBinding& cell(int column) const { return cells_[static_cast<std::size_t>(column)]; }
+    const CellBinding& cell(int column) const { return cells_.at(static_cast<std::size_t>(column)); }
 
     const ado::Recordset& records_;
     const std::vector<CellBinding>& cells_;
-    const GroupShape& shape_;
+    GroupShape shape_;
     const ReportLocale& locale_;
     std::int64_t count_;
 };

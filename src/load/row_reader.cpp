@@ -13,10 +13,14 @@ namespace zkp {
 void RowReader::LoadRows() {
     if (!state_.ReportRecordset || state_.ReportRecordset->State() == ado::adStateClosed)
         return;
+    if (reading_)
+        throw Error(kErrIllegalOperation, QStringLiteral("Rows are being read already."),
+                    QStringLiteral("LoadRows"));
+    reading_ = true;
 
     const ScopeGuard restore([this] {
         plan_.reset();
-        sums_ = false;
+        sums_ = reading_ = false;
         state_.PaintReady = state_.ContentSeen = true;
         surface_.setRedraw(true);
         host_.setPointer(kPointerDefault);

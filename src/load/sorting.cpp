@@ -5,6 +5,7 @@
 #include "base/text.h"
 #include "core/enums.h"
 #include "core/keep_alive.h"
+#include "core/paint_scopes.h"
 #include "support/utility.h"
 
 #include <algorithm>
@@ -45,8 +46,18 @@ void RowSorting::Sort(int mv) {
     const ScopeGuard restore([&] { surface_.setRedraw(redraw); });
     surface_.setRedraw(false); // a view hears once of all that happens here
     passOverErrors([this] { LoadHooks::run(hooks_.RedrawRow, state_.PreRow); });
-    passOverErrors([this] { control_.setRow(1); });
     state_.sortOut = true; // for good, as wanted
+    {
+        const SelectionQuiet quiet(state_); // the mark goes on once the rows stand
+        sortAllButLast(mv);
+    }
+    surface_.Refresh();
+    passOverErrors([this] { LoadHooks::run(hooks_.Selectrow); });
+    passOverErrors([this] { numberRows(); });
+}
+
+void RowSorting::sortAllButLast(int mv) {
+    passOverErrors([this] { control_.setRow(1); });
     passOverErrors([this] {
         if (state_.SortColumn)
             surface_.setCol(*state_.SortColumn);
@@ -56,8 +67,6 @@ void RowSorting::Sort(int mv) {
     // With one row selected the surface would take the whole body, the last row with it.
     if (surface_.RowSel() != surface_.Row())
         passOverErrors([&] { surface_.setSort(mv); });
-    surface_.Refresh();
-    passOverErrors([this] { numberRows(); });
 }
 
 /// A row without any text keeps its old number.
@@ -121,14 +130,14 @@ void RowSorting::orderDetailReport(int column, const QString& previous) {
 }
 
 /// The small letters of " desc" belong to this road, as wanted. An aggregate that no statement can be
-/// sorted by leaves the report as it was, as wanted; and the load undoes a custom sort, unless
-/// `RefreshOnChange` holds the rows.
+/// sorted by leaves the report as it was, as wanted; only a field of no text at all is sorted here; and the
+/// load undoes a custom sort, unless `RefreshOnChange` holds the rows.
 void RowSorting::orderOtherReport(int column, const QString& previous) {
     const QString field = properties_.ColDataField(column);
     state_.OrderByAlias = field;
     state_.OrderByPhysical = field.size() >= 6 ? mid(field, 5) : QString();
     const QString expr = state_.SqlOnRunTime && isAggregate(field) ? field : expressionOf(field);
-    if (isBlank(field))
+    if (field.isEmpty())
         surface_.setSort(kSortCustom);
     else if (isBlank(expr))
         inputs_.setOrderBy({});

@@ -27,10 +27,12 @@ bool SummaryColumns::isSummary(int row) const {
     return kind == ZKPSubTotals || kind == ZKPTotals;
 }
 
-/// A subtotal's keys end at its level; the totals row is outside all levels.
+/// A subtotal's keys end at its level; a record is inside all levels, the totals row outside.
 int SummaryColumns::levelOf(int row) const {
     if (surface_.RowData(row) == ZKPTotals)
         return -1;
+    if (surface_.RowData(row) == ZKPSingleRow) // in a totals report it is a group of the innermost factor
+        return state_.GroupFactorCount - (state_.TotalForm ? 1 : 0);
     int level = -1;
     for (int k = 0; k < std::min<int>(state_.GroupFactorCount, surface_.Cols()); ++k)
         if (!isBlank(surface_.TextMatrix(row, k)))

@@ -43,7 +43,7 @@ void keepGroupsTogether(ado::Recordset& records, const QStringList& factors) {
         if (field < 0)
             return; // the load marks the column; there is nothing to sort by
         fields.push_back(field);
-        names << name;
+        names << u'[' + name + u']';
     }
     if (!fields.empty() && !standTogether(records, fields))
         records.setSort(names.join(u','));

@@ -285,6 +285,37 @@ TEST_F(HandlersTest, APropertyHandlerMayDestroyTheControlInTheMiddleOfAnOperatio
     EXPECT_EQ(grid, nullptr);
 }
 
+// The rows are read once; who asks again meanwhile is refused, and the report is whole.
+TEST_F(HandlersTest, ReadingRowsWhileRowsAreReadIsRefused) {
+    columns({u"POLICYID"_s});
+    grid->setColTotals(0, true);
+    std::uint32_t refused = 0;
+    QObject::connect(&grid->events(), &Events::RetrieveRow,
+                     [&](RetrieveRowArgs&) { refused = errorNumberOf([&] { grid->LoadRows(); }); });
+    fill();
+    grid->refresh();
+    EXPECT_EQ(refused, std::uint32_t{kErrIllegalOperation});
+    EXPECT_EQ(report(), (QStringList{u"1: 1,00"_s, u"1: 2,00"_s, u"1: 3,00"_s, u"10: 6,00"_s}));
+}
+
+// Sums that are started anew for another shape under a load end it with a box.
+TEST_F(HandlersTest, SumsStartedAnewUnderALoadDoNoHarm) {
+    columns({u"AGENTNAME"_s, u"POLICYID"_s});
+    grid->setColForTot(0, true);
+    grid->setColTotals(1, true);
+    QObject::connect(&grid->events(), &Events::RetrieveRow, [&](RetrieveRowArgs& e) {
+        if (e.rw != 2)
+            return;
+        grid->setColForTot(0, false);
+        grid->CheckGroupBy();
+        grid->setCols(1);
+        grid->InitTotalsGrid();
+    });
+    fill();
+    grid->refresh();
+    EXPECT_LE(boxes().size(), 1);
+}
+
 TEST_F(HandlersTest, AnErrorSinkMayReplaceItself) {
     int calls = 0;
     grid->setCn(nullptr);

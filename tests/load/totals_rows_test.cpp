@@ -147,6 +147,35 @@ TEST_F(TotalsRowsTest, PercentagesOfSummaryRowsAreSharesOfTheNextOuterRow) {
     EXPECT_EQ(parent, -1);
 }
 
+TEST_F(TotalsRowsTest, TheParentOfARecordIsTheSubtotalOfItsOwnGroup) {
+    columns({u"BRANCH"_s, u"SUM_PREMIUM"_s, u"X"_s});
+    grid->setColForTot(0, true);
+    grid->CheckGroupBy();
+    row(ZKPSingleRow, u"N"_s, u"1"_s);
+    row(ZKPSubTotals, u"N"_s, u"1"_s);
+    row(ZKPTotals, u" "_s, u"1"_s);
+    int parent = 0;
+    QMetaObject::invokeMethod(grid.get(), "FindParentRow", Q_RETURN_ARG(int, parent), Q_ARG(int, 1));
+    EXPECT_EQ(parent, 2);
+}
+
+// Once its columns are made, a text that a host gave has done its work: the flags tell.
+TEST_F(TotalsRowsTest, AGivenGroupbyEndsWithTheFlagOfItsColumn) {
+    connection->Execute(u"create table SALES (A text, N money)"_s);
+    connection->Execute(u"insert into SALES values ('a', 1), ('b', 2)"_s);
+    columns({u"A"_s, u"N"_s});
+    grid->setColTotals(1, true);
+    grid->setGroupby(u"A"_s);
+    fill(u"select * from SALES"_s);
+    grid->refresh();
+    EXPECT_EQ(report(), (QStringList{u"1: a | 1,00"_s, u"9: a | 1,00"_s, u"1: b | 2,00"_s, u"9: b | 2,00"_s,
+                                     u"10:   | 3,00"_s}));
+    grid->setColForTot(0, false);
+    grid->refresh();
+    EXPECT_EQ(grid->Groupby(), u""_s);
+    EXPECT_EQ(report(), (QStringList{u"1: a | 1,00"_s, u"1: b | 2,00"_s, u"10:   | 3,00"_s}));
+}
+
 TEST_F(TotalsRowsTest, AColumnIsFoundByItsTrimmedFieldInCapitals) {
     columns({u"BRANCH"_s, u" sum_premium "_s});
     int found = 0;
