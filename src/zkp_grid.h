@@ -90,6 +90,7 @@ public:
 
     // Child controls under their own names.
     GridSurface& MSFlexGrid1();
+    /// The sums of a load's groups, written at each call: ask again after a load, and write nothing there.
     GridSurface& MSFlexGrid2();
     GridSurface& MSFlexGrid3();
     MenuBar& Picture1();
@@ -240,6 +241,31 @@ public:
                                   bool underline, const QVariant& col = {}, const QVariant& rowEnd = {},
                                   const QVariant& colEnd = {});
 
+    // Menus. What a tool does is reached through `Picture1`; these bring its state up to date.
+    /// Brings the tools in line with the current column. Nothing without `MenusVisible`.
+    Q_INVOKABLE void MenuRefresh();
+    /// Fills the list of fields and the caption's text for the current column.
+    Q_INVOKABLE void fillBandField();
+    /// Both fill the field list anew.
+    Q_INVOKABLE void fillcombos();
+    Q_INVOKABLE void fillTotalcombos();
+    /// Asks for a colour and gives it to a section: 0 headings, 1 group factors, 2 details, 3 subtotals,
+    /// 4 totals, 5 title, 6 company block. `what`: 0 its background, 1 its text.
+    Q_INVOKABLE void ChooseSectionStyle(int section, int what);
+    /// Asks for a font and gives it to a section, 0 to 4. `what` is always 2.
+    Q_INVOKABLE void ChooseSectionFont(int section, int what);
+
+    // What the user does to columns. None of them reads data, but for the one that says so.
+    /// Removes the entry at a position (from 0), which comes back inside the range, and the surface's
+    /// current column, which is another one when the position isn't the current column's, as wanted.
+    /// Asks before it loads again, and only for a group factor with a field. A failure shows the error box.
+    Q_INVOKABLE void deletecolumn(int& columnclicked);
+    Q_INVOKABLE void mnuAddColumn_Click();
+    Q_INVOKABLE void mnuInsert_Click();
+    Q_INVOKABLE void mnuAddOmadopoihsh_Click();
+    Q_INVOKABLE void mnuInsertOmadopoihsh_Click();
+    Q_INVOKABLE void mnuDelete_Click();
+
     // What the place that holds the control tells it.
     Q_INVOKABLE void UserControl_Resize();
     Q_INVOKABLE void UserControl_EnterFocus();
@@ -282,6 +308,9 @@ private:
     Q_INVOKABLE void RecalcPercentColumns();
     Q_INVOKABLE int FindColumnByField(const QString& name) const;
     Q_INVOKABLE int FindParentRow(int r) const;
+    Q_INVOKABLE void LockMenus();
+    Q_INVOKABLE void UnlockMenus();
+    Q_INVOKABLE double FindKeyColumn() const;
 
     struct Parts;
 

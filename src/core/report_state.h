@@ -10,6 +10,7 @@
 #include <QVariant>
 
 #include <optional>
+#include <vector>
 
 namespace zkp {
 
@@ -72,7 +73,10 @@ struct ReportState {
     int MousePointer = 0;
 
     int LastClickedCol = 0;
-    bool destroyed = false; ///< the control is gone; whoever still runs unwinds
+    bool MenusLocked = false;      ///< tools stay as they are, and no heading is dragged
+    bool ExportRunning = false;    ///< selection handlers and drops wait while a spreadsheet is written
+    std::vector<short> FieldIndex; ///< position in the list of `mnuField` to index in the dictionary
+    bool destroyed = false;        ///< the control is gone; whoever still runs unwinds
 
     void throwIfDestroyed() const {
         if (destroyed)

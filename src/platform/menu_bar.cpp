@@ -9,19 +9,8 @@ namespace zkp {
 
 namespace {
 
-std::shared_ptr<Tool> findTool(const std::vector<std::shared_ptr<Tool>>& tools, QStringView name) {
-    const QString key = nameKey(name);
-    const auto found = std::find_if(tools.begin(), tools.end(), [&](const std::shared_ptr<Tool>& tool) {
-        return nameKey(tool->Name) == key;
-    });
-    return found == tools.end() ? nullptr : *found;
-}
-
-std::shared_ptr<Tool> needTool(const std::vector<std::shared_ptr<Tool>>& tools, QStringView name) {
-    std::shared_ptr<Tool> tool = findTool(tools, name);
-    if (!tool)
-        throw Error(kErrItemNotFound, QStringLiteral("There is no tool \"%1\"").arg(name));
-    return tool;
+[[noreturn]] void failTool(QStringView name) {
+    throw Error(kErrItemNotFound, QStringLiteral("There is no tool \"%1\"").arg(name));
 }
 
 /// Calls a copy, since the function may put another one in its place while it runs.
@@ -34,7 +23,18 @@ void call(std::function<void(Args...)> function, Args... args) {
 } // namespace
 
 Tool& Band::Tools(QStringView name) const {
-    return *needTool(tools, name);
+    const QString key = nameKey(name);
+    for (const auto& tool : tools)
+        if (nameKey(tool->Name) == key)
+            return *tool;
+    failTool(name);
+}
+
+std::shared_ptr<Tool> MenuBar::needTool(QStringView name) const {
+    std::shared_ptr<Tool> tool = tools_.value(nameKey(name));
+    if (!tool)
+        failTool(name);
+    return tool;
 }
 
 Band& MenuBar::addBand(const QString& name) {
@@ -47,12 +47,11 @@ Band& MenuBar::addBand(const QString& name) {
 }
 
 Tool& MenuBar::addTool(Band& band, const Tool& tool) {
-    std::shared_ptr<Tool> shared = findTool(tools_, tool.Name);
-    if (!shared) {
+    std::shared_ptr<Tool>& shared = tools_[nameKey(tool.Name)];
+    if (!shared)
         shared = std::make_shared<Tool>(tool);
-        tools_.push_back(shared);
-    }
-    if (tool.kind == ToolKind::Separator || !findTool(band.tools, tool.Name))
+    const bool stands = std::find(band.tools.begin(), band.tools.end(), shared) != band.tools.end();
+    if (!stands || tool.kind == ToolKind::Separator)
         band.tools.push_back(shared);
     return *shared;
 }
@@ -65,11 +64,11 @@ Band& MenuBar::Bands(QStringView name) const {
 }
 
 Tool& MenuBar::Tools(QStringView name) const {
-    return *needTool(tools_, name);
+    return *needTool(name);
 }
 
 bool MenuBar::hasTool(QStringView name) const {
-    return findTool(tools_, name) != nullptr;
+    return tools_.contains(nameKey(name));
 }
 
 bool MenuBar::isHeard(const Tool& tool) const {
@@ -96,13 +95,13 @@ void MenuBar::popup(QStringView band) {
 }
 
 void MenuBar::click(QStringView tool) {
-    const std::shared_ptr<Tool> clicked = needTool(tools_, tool);
+    const std::shared_ptr<Tool> clicked = needTool(tool);
     if (clicked->Enabled)
         call<Tool&>(toolClicked, *clicked);
 }
 
 void MenuBar::changeList(QStringView tool, int index) {
-    const std::shared_ptr<Tool> list = needTool(tools_, tool);
+    const std::shared_ptr<Tool> list = needTool(tool);
     if (index < -1 || index >= list->ListCount())
         throw Error(kErrSubscript, QStringLiteral("The list has no entry %1").arg(index));
     if (!list->Enabled)
@@ -113,7 +112,7 @@ void MenuBar::changeList(QStringView tool, int index) {
 }
 
 void MenuBar::changeText(QStringView tool, const QString& text) {
-    const std::shared_ptr<Tool> box = needTool(tools_, tool);
+    const std::shared_ptr<Tool> box = needTool(tool);
     if (!box->Enabled)
         return;
     box->Text = text;

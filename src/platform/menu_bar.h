@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -75,8 +76,10 @@ public:
     void changeText(QStringView tool, const QString& text);
 
 private:
+    std::shared_ptr<Tool> needTool(QStringView name) const;
+
     std::vector<std::unique_ptr<Band>> bands_;
-    std::vector<std::shared_ptr<Tool>> tools_;
+    QHash<QString, std::shared_ptr<Tool>> tools_; ///< by the key of the name
     QString lastPopup_;
 };
 
