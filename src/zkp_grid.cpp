@@ -58,6 +58,10 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , savedProperties(state, columns, columnProperties, children, *host,
                       {[this] { lifecycle.resize(); }, [this] { drawing.DrawInterface(); }})
     , templates(state, savedProperties, *host, applicationFolder)
+    , columnCommands(state, columns, columnProperties, groupFactors, groupColumns, surface, fonts, events,
+                     *host,
+                     {[this](int count) { setCols(count); }, [this](bool on) { setRefreshOnChange(on); },
+                      [this] { driver.FillGrid(); }})
     , selectionEvents(state, keyColumn, surface, events, marking, drawing, *host)
     , surfaceEvents(state, columnProperties, surface, events, dictionary, emptyReport, selectionEvents,
                     *host) {
@@ -102,6 +106,15 @@ void ZkpGrid::Parts::setRow(int row) {
     } catch (const Error&) {
     }
     events.notify(QStringLiteral("Row"));
+}
+
+/// A report whose data has not been read is not printed.
+void ZkpGrid::Parts::setRefreshOnChange(bool on) {
+    MenuBar& bar = children.Picture1;
+    state.RefreshOnChange = on;
+    bar.Tools(u"mnuPrint").Enabled = on; // in all its bands
+    bar.Refresh();
+    events.notify(QStringLiteral("Refreshonchange"));
 }
 
 ZkpGrid::ZkpGrid(std::shared_ptr<Host> host, QObject* parent)

@@ -22,6 +22,7 @@
 #include "sql/statement_dispatch.h"
 #include "support/settings_store.h"
 #include "template/template_store.h"
+#include "ui/column_commands.h"
 #include "ui/interface_drawing.h"
 #include "ui/lifecycle.h"
 #include "ui/selection_events.h"
@@ -80,11 +81,13 @@ struct ZkpGrid::Parts {
     Lifecycle lifecycle;
     SavedProperties savedProperties;
     TemplateStore templates;
+    ColumnCommands columnCommands;
     SelectionEvents selectionEvents;
     SurfaceEvents surfaceEvents;
 
     void setCols(int count);
     void setRow(int row);
+    void setRefreshOnChange(bool on);
 
 private:
     void connectHooks();

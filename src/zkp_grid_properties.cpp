@@ -155,14 +155,9 @@ void ZkpGrid::setMinRows(const double& value) {
     parts->events.notify(QStringLiteral("MinRows"));
 }
 
-/// A report whose data has not been read is not printed.
 void ZkpGrid::setRefreshOnChange(const bool& value) {
     const auto parts = parts_;
-    MenuBar& bar = parts->children.Picture1;
-    parts->state.RefreshOnChange = value;
-    bar.Tools(u"mnuPrint").Enabled = value; // in all its bands
-    bar.Refresh();
-    parts->events.notify(QStringLiteral("Refreshonchange"));
+    parts->setRefreshOnChange(value);
 }
 
 bool ZkpGrid::TemplateMenuVisible() const {

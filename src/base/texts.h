@@ -284,6 +284,21 @@ inline QString menuPyramidGraph() {
     return QStringLiteral("Γράφημα Πυραμίδων");
 }
 
+// What the column menu and a dragged heading say.
+inline QString onlyColumn() {
+    return QStringLiteral("Δεν μπορώ να διαγράψω την μοναδική στήλη");
+}
+inline QString lastFactor() {
+    return QStringLiteral("Δεν μπορώ να διαγράψω τον τελευταίο Παράγοντα");
+}
+/// The question mark is the Greek one's stand-in, a semicolon; so in the next.
+inline QString refreshNow() {
+    return QStringLiteral("Να ανανεώσω τώρα τη λίστα;");
+}
+inline QString moveFactors() {
+    return QStringLiteral("Να αλλάξω τη σειρά των Παραγόντων;");
+}
+
 // The sections of a report, as what follows a colour's name; also the captions of the font tools.
 inline QString ofHeadings() {
     return QStringLiteral("Επικεφαλίδων");
