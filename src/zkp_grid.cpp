@@ -62,6 +62,8 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
                      *host,
                      {[this](int count) { setCols(count); }, [this](bool on) { setRefreshOnChange(on); },
                       [this] { driver.FillGrid(); }})
+    , menuState(state, columns, columnProperties, surface, children.Picture1, dictionary)
+    , sectionStyles(state, drawing, *host)
     , selectionEvents(state, keyColumn, surface, events, marking, drawing, *host)
     , surfaceEvents(state, columnProperties, surface, events, dictionary, emptyReport, selectionEvents,
                     *host) {
@@ -73,6 +75,12 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
 
 /// What a load asks of the other parts.
 void ZkpGrid::Parts::connectHooks() {
+    hooks.FieldListChanged = [this] {
+        if (state.TotalForm)
+            menuState.fillTotalcombos();
+        else
+            menuState.fillcombos();
+    };
     hooks.FindMaster = [this] { masterTable.FindMaster(); };
     hooks.DetailStatement = [this] { return dispatch.DetailStatement(); };
     hooks.OpenTotalRecordset = [this] { dispatch.OpenTotalRecordset(); };
@@ -122,6 +130,9 @@ ZkpGrid::ZkpGrid(std::shared_ptr<Host> host, QObject* parent)
     , parts_(std::make_shared<Parts>(std::move(host))) {
     parts_->surfaceEvents.connect(parts_);
     parts_->sorting.connect(parts_);
+    parts_->sectionStyles.connect(
+        {[this](const QString& name) { return getMember(name); },
+         [this](const QString& name, const QVariant& value) { setMember(name, value); }});
 }
 
 ZkpGrid::~ZkpGrid() {

@@ -25,6 +25,8 @@
 #include "ui/column_commands.h"
 #include "ui/interface_drawing.h"
 #include "ui/lifecycle.h"
+#include "ui/menu_state.h"
+#include "ui/section_styles.h"
 #include "ui/selection_events.h"
 #include "ui/surface_events.h"
 #include "zkp_grid.h"
@@ -82,6 +84,8 @@ struct ZkpGrid::Parts {
     SavedProperties savedProperties;
     TemplateStore templates;
     ColumnCommands columnCommands;
+    MenuState menuState;
+    SectionStyles sectionStyles;
     SelectionEvents selectionEvents;
     SurfaceEvents surfaceEvents;
 
