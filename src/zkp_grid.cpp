@@ -64,7 +64,11 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
                       [this] { driver.FillGrid(); }})
     , menuState(state, columns, columnProperties, surface, children.Picture1, dictionary)
     , sectionStyles(state, drawing, *host)
-    , selectionEvents(state, keyColumn, surface, events, marking, drawing, *host)
+    , menuCommands(state, columns, columnProperties, surface, events, sorting, columnCommands, sectionStyles,
+                   menuState, *host,
+                   {[this] { driver.refresh(errorSink); }, [this](bool on) { setRefreshOnChange(on); },
+                    [this](const QString& title) { setPrintCaption(title); }})
+    , selectionEvents(state, keyColumn, surface, events, marking, drawing, menuState, *host, {})
     , surfaceEvents(state, columnProperties, surface, events, dictionary, emptyReport, selectionEvents,
                     *host) {
     buildMenuBands(children.Picture1);
@@ -125,11 +129,18 @@ void ZkpGrid::Parts::setRefreshOnChange(bool on) {
     events.notify(QStringLiteral("Refreshonchange"));
 }
 
+void ZkpGrid::Parts::setPrintCaption(const QString& title) {
+    state.PrintCaption = title;
+    children.lbltemplate.Caption = title;
+    events.notify(QStringLiteral("PrintCaption"));
+}
+
 ZkpGrid::ZkpGrid(std::shared_ptr<Host> host, QObject* parent)
     : QObject(parent)
     , parts_(std::make_shared<Parts>(std::move(host))) {
     parts_->surfaceEvents.connect(parts_);
     parts_->sorting.connect(parts_);
+    parts_->menuCommands.connect(parts_->children.Picture1, parts_);
     parts_->sectionStyles.connect(
         {[this](const QString& name) { return getMember(name); },
          [this](const QString& name, const QVariant& value) { setMember(name, value); }});
@@ -250,10 +261,10 @@ QString ZkpGrid::RecordsourceSTR() const {
     return parts_->source.text();
 }
 bool ZkpGrid::HasTotals() const {
-    return parts_->groupFactors.HasTotals();
+    return parts_->groupFactors.HasTotals(parts_->surface.Cols());
 }
 short ZkpGrid::FindGroupNum() const {
-    return parts_->groupFactors.FindGroupNum();
+    return parts_->groupFactors.FindGroupNum(parts_->surface.Cols());
 }
 
 void ZkpGrid::CheckGroupBy() {

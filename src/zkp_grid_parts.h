@@ -25,6 +25,7 @@
 #include "ui/column_commands.h"
 #include "ui/interface_drawing.h"
 #include "ui/lifecycle.h"
+#include "ui/menu_commands.h"
 #include "ui/menu_state.h"
 #include "ui/section_styles.h"
 #include "ui/selection_events.h"
@@ -86,12 +87,14 @@ struct ZkpGrid::Parts {
     ColumnCommands columnCommands;
     MenuState menuState;
     SectionStyles sectionStyles;
+    MenuCommands menuCommands;
     SelectionEvents selectionEvents;
     SurfaceEvents surfaceEvents;
 
     void setCols(int count);
     void setRow(int row);
     void setRefreshOnChange(bool on);
+    void setPrintCaption(const QString& title);
 
 private:
     void connectHooks();

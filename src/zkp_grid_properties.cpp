@@ -174,9 +174,7 @@ void ZkpGrid::setTemplateMenuVisible(const bool& value) {
 
 void ZkpGrid::setPrintCaption(const QString& value) {
     const auto parts = parts_;
-    parts->state.PrintCaption = value;
-    parts->children.lbltemplate.Caption = value;
-    parts->events.notify(QStringLiteral("PrintCaption"));
+    parts->setPrintCaption(value);
 }
 
 /// Stays False whatever is given, and reports a change; hosts bind to it. Wanted.

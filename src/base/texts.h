@@ -299,6 +299,17 @@ inline QString moveFactors() {
     return QStringLiteral("Να αλλάξω τη σειρά των Παραγόντων;");
 }
 
+inline QString titlePrompt() {
+    return QStringLiteral("Τίτλος Υποδείγματος:");
+}
+inline QString titleHeading() {
+    return QStringLiteral("Αλλαγή Τίτλου Υποδείγματος");
+}
+/// A tool whose command is not built.
+inline QString notThereYet(const QString& caption) {
+    return QStringLiteral("Δεν υπάρχει ακόμη: ") + caption;
+}
+
 // The sections of a report, as what follows a colour's name; also the captions of the font tools.
 inline QString ofHeadings() {
     return QStringLiteral("Επικεφαλίδων");
@@ -320,6 +331,32 @@ inline QString ofTitle() {
 }
 inline QString ofCompanyBlock() {
     return QStringLiteral("Στοιχείων");
+}
+
+// What a screen reader says: the kinds of rows and cells, and the parts of the control.
+inline QString spokenHeading() {
+    return QStringLiteral("Επικεφαλίδα");
+}
+inline QString spokenGroup() {
+    return QStringLiteral("Ομάδα");
+}
+inline QString spokenDetail() {
+    return QStringLiteral("Λεπτομέρεια");
+}
+inline QString spokenSubtotal() {
+    return QStringLiteral("Υποσύνολο");
+}
+inline QString spokenTotal() {
+    return QStringLiteral("Σύνολο");
+}
+inline QString spokenBlank() {
+    return QStringLiteral("κενό");
+}
+inline QString spokenReport() {
+    return QStringLiteral("Αναφορά");
+}
+inline QString spokenTools() {
+    return QStringLiteral("Εργαλεία");
 }
 
 } // namespace zkp::texts

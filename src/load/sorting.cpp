@@ -91,9 +91,17 @@ bool RowSorting::showsText(int row, int butColumn) const {
 // --- By the database
 
 void RowSorting::SortByColumn(const QString& previous) {
+    sortAndTell([&](const QString& expr) { return expr == previous; });
+}
+
+void RowSorting::SortByDirection() {
+    sortAndTell([descending = state_.SortDescending == -1](const QString&) { return descending; });
+}
+
+void RowSorting::sortAndTell(const IsDescending& isDescending) {
     const ScopeGuard restore([this] { host_.setPointer(kPointerDefault); });
     try {
-        sortAndLoad(previous);
+        sortAndLoad(isDescending);
     } catch (const ControlDestroyed&) {
         throw;
     } catch (...) {
@@ -103,7 +111,7 @@ void RowSorting::SortByColumn(const QString& previous) {
     }
 }
 
-void RowSorting::sortAndLoad(const QString& previous) {
+void RowSorting::sortAndLoad(const IsDescending& isDescending) {
     const int column = surface_.Col();
     state_.SortColumn = column;
     Q_EMIT events_.StartSorting();
@@ -111,9 +119,9 @@ void RowSorting::sortAndLoad(const QString& previous) {
     host_.setPointer(kPointerHourglass);
     LoadHooks::run(hooks_.RedrawRow, state_.PreRow);
     if (!state_.TotalForm && state_.SqlOnRunTime)
-        orderDetailReport(column, previous);
+        orderDetailReport(column, isDescending);
     else
-        orderOtherReport(column, previous);
+        orderOtherReport(column, isDescending);
     control_.FillGrid();
     state_.throwIfDestroyed();
     control_.setRow(1);
@@ -123,16 +131,16 @@ void RowSorting::sortAndLoad(const QString& previous) {
     state_.throwIfDestroyed();
 }
 
-void RowSorting::orderDetailReport(int column, const QString& previous) {
+void RowSorting::orderDetailReport(int column, const IsDescending& isDescending) {
     const QString expr = expressionOf(properties_.ColDataField(column));
     if (!isBlank(expr))
-        inputs_.setOrderBy(expr + (expr == previous ? QStringLiteral(" DESC") : QStringLiteral(" ASC")));
+        inputs_.setOrderBy(expr + (isDescending(expr) ? QStringLiteral(" DESC") : QStringLiteral(" ASC")));
 }
 
 /// The small letters of " desc" belong to this road, as wanted. An aggregate that no statement can be
 /// sorted by leaves the report as it was, as wanted; only a field of no text at all is sorted here; and the
 /// load undoes a custom sort, unless `RefreshOnChange` holds the rows.
-void RowSorting::orderOtherReport(int column, const QString& previous) {
+void RowSorting::orderOtherReport(int column, const IsDescending& isDescending) {
     const QString field = properties_.ColDataField(column);
     state_.OrderByAlias = field;
     state_.OrderByPhysical = field.size() >= 6 ? mid(field, 5) : QString();
@@ -142,7 +150,7 @@ void RowSorting::orderOtherReport(int column, const QString& previous) {
     else if (isBlank(expr))
         inputs_.setOrderBy({});
     else
-        inputs_.setOrderBy(expr + (expr == previous ? QStringLiteral(" desc") : QStringLiteral(" ASC")));
+        inputs_.setOrderBy(expr + (isDescending(expr) ? QStringLiteral(" desc") : QStringLiteral(" ASC")));
     state_.throwIfDestroyed();
     if (state_.SourceType == ZKP_RecordSet) {
         if (!state_.ReportRecordset)

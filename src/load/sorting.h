@@ -47,17 +47,23 @@ public:
     /// Sorts by the current column and loads again, descending when `previous` is the column's own
     /// expression. A failure shows the error box.
     void SortByColumn(const QString& previous);
+    /// The same in the direction of `SortDescending`: descending when it is -1.
+    void SortByDirection();
 
 private:
+    /// Whether the order by an expression is descending.
+    using IsDescending = std::function<bool(const QString& expr)>;
+
     template <class Step>
     void passOverErrors(Step step);
     void sortAllButLast(int mv);
     void numberRows();
     bool showsText(int row, int butColumn) const;
 
-    void sortAndLoad(const QString& previous);
-    void orderDetailReport(int column, const QString& previous);
-    void orderOtherReport(int column, const QString& previous);
+    void sortAndTell(const IsDescending& isDescending);
+    void sortAndLoad(const IsDescending& isDescending);
+    void orderDetailReport(int column, const IsDescending& isDescending);
+    void orderOtherReport(int column, const IsDescending& isDescending);
     QString expressionOf(const QString& field);
 
     int askHost(int row1, int row2);

@@ -1,9 +1,11 @@
 #include "ui/selection_events.h"
 
+#include "load/load_hooks.h"
+
 namespace zkp {
 
 void SelectionEvents::currentCellChanged() {
-    if (!state_.PaintReady)
+    if (isQuiet())
         return;
     if (state_.ContentSeen)
         key_.takeKey();
@@ -13,11 +15,16 @@ void SelectionEvents::currentCellChanged() {
 }
 
 void SelectionEvents::selectionChanged() {
-    if (!state_.PaintReady)
+    if (isQuiet())
         return;
     state_.LastClickedCol = surface_.Col();
     if (state_.ContentSeen)
         key_.takeKey();
+    menus_.MenuRefresh();
+    // An open chart follows the group that the user has reached.
+    if (state_.GraphVisible && surface_.Col() <= state_.GroupFactorCount - 1)
+        LoadHooks::run(showChart_);
+    state_.throwIfDestroyed();
     Q_EMIT events_.Selecting();
 }
 
