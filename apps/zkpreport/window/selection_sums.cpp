@@ -1,0 +1,105 @@
+#include "window/selection_sums.h"
+
+#include "base/format.h"
+#include "window/selected_block.h"
+#include "window/texts.h"
+
+#include <QLocale>
+
+namespace zkp::app {
+
+namespace {
+
+constexpr int kFewestDecimals = 2;
+
+/// How many decimals a number in units of 10^-10 has.
+int decimalsOf(Decimal::Int units) {
+    int decimals = Decimal::kDecimals;
+    for (; decimals > 0 && units % 10 == 0; --decimals)
+        units /= 10;
+    return decimals;
+}
+
+Decimal::Int powerOfTen(int exponent) {
+    Decimal::Int power = 1;
+    for (; exponent > 0; --exponent)
+        power *= 10;
+    return power;
+}
+
+/// A number in units of 10^-decimals, grouped.
+QString fixedText(Decimal::Int scaled, int decimals, const ReportLocale& locale) {
+    const bool negative = scaled < 0;
+    const std::string digits = digitsOf(negative ? -scaled : scaled, static_cast<std::size_t>(decimals) + 1);
+    const auto whole = static_cast<qsizetype>(digits.size()) - decimals;
+    QString text = QString::fromLatin1(digits.data(), whole);
+    for (qsizetype place = whole - 3; place > 0; place -= 3)
+        text.insert(place, locale.groupSign());
+    if (decimals > 0)
+        text += locale.decimalSign() + QString::fromLatin1(digits.data() + whole, decimals);
+    return negative ? u'-' + text : text;
+}
+
+} // namespace
+
+QString exactText(const Decimal& number, const ReportLocale& locale) {
+    const auto units = number.units();
+    if (!units)
+        return formatNumber(number, NumberFormat::Grouped2, locale);
+    const int needed = decimalsOf(*units);
+    const int decimals = needed == 0 ? 0 : std::max(needed, kFewestDecimals);
+    return fixedText(*units / powerOfTen(Decimal::kDecimals - decimals), decimals, locale);
+}
+
+QString averageText(const Decimal& sum, std::int64_t count, const ReportLocale& locale) {
+    const auto units = sum.units();
+    if (!units)
+        return formatNumber(sum.toDouble() / static_cast<double>(count), NumberFormat::Grouped2, locale);
+    const int decimals = std::max(decimalsOf(*units), kFewestDecimals);
+    const Decimal::Int divisor = powerOfTen(Decimal::kDecimals - decimals) * count;
+    const Decimal::Int half = *units < 0 ? -(divisor / 2) : divisor / 2;
+    return fixedText((*units + half) / divisor, decimals, locale);
+}
+
+void SelectionSums::start(const CellRange& block) {
+    block_ = block;
+    cols_ = isEmpty(block) ? std::vector<int>() : shownColumns(surface_, block.left, block.right);
+    total_ = left_ =
+        static_cast<std::int64_t>(cols_.size()) * (isEmpty(block) ? 0 : block.bottom - block.top + 1);
+    numbers_ = 0;
+    sum_ = {};
+}
+
+bool SelectionSums::walk(int cells) {
+    const auto width = static_cast<std::int64_t>(cols_.size());
+    for (; cells > 0 && left_ > 0; --cells) {
+        const std::int64_t place = total_ - left_--;
+        const int row = block_.top + static_cast<int>(place / width);
+        const int col = cols_[static_cast<std::size_t>(place % width)];
+        if (row >= surface_.Rows() || col >= surface_.Cols()) {
+            left_ = 0;
+            break;
+        }
+        if (const std::optional<Decimal> number = surface_.shownNumber(row, col)) {
+            sum_ += *number;
+            ++numbers_;
+        }
+    }
+    return isDone();
+}
+
+int SelectionSums::percent() const {
+    return total_ == 0 ? 100 : static_cast<int>((total_ - left_) * 100 / total_);
+}
+
+QString SelectionSums::text() const {
+    if (numbers_ == 0)
+        return {};
+    const ReportLocale& locale = surface_.locale();
+    const QString numbers = fixedText(numbers_, 0, locale);
+    const QString count =
+        numbers_ == total_ ? numbers : texts::countOfCells(numbers, fixedText(total_, 0, locale));
+    return texts::sums(exactText(sum_, locale), count, averageText(sum_, numbers_, locale));
+}
+
+} // namespace zkp::app
