@@ -62,6 +62,10 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
                      *host,
                      {[this](int count) { setCols(count); }, [this](bool on) { setRefreshOnChange(on); },
                       [this] { driver.FillGrid(); }})
+    , headingDrag(state, columns, columnProperties, groupFactors, surface, *host,
+                  [this] { driver.refresh(errorSink); })
+    , fieldTools(state, columns, columnProperties, groupColumns, surface, children.Picture1,
+                 [this] { driver.FillGrid(); })
     , menuState(state, columns, columnProperties, surface, children.Picture1, dictionary)
     , sectionStyles(state, drawing, *host)
     , menuCommands(state, columns, columnProperties, surface, events, sorting, columnCommands, sectionStyles,
@@ -69,8 +73,8 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
                    {[this] { driver.refresh(errorSink); }, [this](bool on) { setRefreshOnChange(on); },
                     [this](const QString& title) { setPrintCaption(title); }})
     , selectionEvents(state, keyColumn, surface, events, marking, drawing, menuState, *host, {})
-    , surfaceEvents(state, columnProperties, surface, events, dictionary, emptyReport, selectionEvents,
-                    *host) {
+    , surfaceEvents(state, columnProperties, surface, children.Picture1, events, dictionary, emptyReport,
+                    menuState, headingDrag, selectionEvents, *host, {}) {
     buildMenuBands(children.Picture1);
     columnProperties.placeInitial(surface.Cols());
     connectHooks();
@@ -139,6 +143,7 @@ ZkpGrid::ZkpGrid(std::shared_ptr<Host> host, QObject* parent)
     : QObject(parent)
     , parts_(std::make_shared<Parts>(std::move(host))) {
     parts_->surfaceEvents.connect(parts_);
+    parts_->fieldTools.connect(parts_);
     parts_->sorting.connect(parts_);
     parts_->menuCommands.connect(parts_->children.Picture1, parts_);
     parts_->sectionStyles.connect(

@@ -23,6 +23,8 @@
 #include "support/settings_store.h"
 #include "template/template_store.h"
 #include "ui/column_commands.h"
+#include "ui/field_tools.h"
+#include "ui/heading_drag.h"
 #include "ui/interface_drawing.h"
 #include "ui/lifecycle.h"
 #include "ui/menu_commands.h"
@@ -85,6 +87,8 @@ struct ZkpGrid::Parts {
     SavedProperties savedProperties;
     TemplateStore templates;
     ColumnCommands columnCommands;
+    HeadingDrag headingDrag;
+    FieldTools fieldTools;
     MenuState menuState;
     SectionStyles sectionStyles;
     MenuCommands menuCommands;

@@ -2,6 +2,8 @@
 
 #include "base/error.h"
 
+#include <algorithm>
+
 namespace zkp {
 
 namespace {
@@ -33,6 +35,17 @@ Column& ColumnList::Add(Column column, int before) {
 void ColumnList::Remove(int number) {
     checkNumber(number, Count());
     items_.erase(items_.begin() + (number - 1));
+}
+
+void ColumnList::Move(int number, int place) {
+    checkNumber(number, Count());
+    checkNumber(place, Count());
+    const auto item = items_.begin() + (number - 1);
+    const auto target = items_.begin() + (place - 1);
+    if (item < target)
+        std::rotate(item, item + 1, target + 1);
+    else
+        std::rotate(target, item, item + 1);
 }
 
 } // namespace zkp

@@ -24,6 +24,8 @@ public:
     /// Adds a record at the end, or before item `before` (from 1).
     Column& Add(Column column = {}, int before = 0);
     void Remove(int number);
+    /// Puts an item at another place among the rest; it stays the same record.
+    void Move(int number, int place);
 
 private:
     std::vector<std::unique_ptr<Column>> items_;

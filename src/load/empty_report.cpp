@@ -21,8 +21,9 @@ void EmptyReport::prepare() {
     buildFieldList(*dictionary_.recordset(), state_.TotalForm, statFields());
     if (state_.TotalForm)
         appendLossRatioFields(statFields());
+    if (surface_.Cols() > 0)
+        surface_.setCol(0);
     LoadHooks::run(hooks_.FieldListChanged);
-    surface_.setCol(0);
     menu_.Refresh();
     if (!state_.TotalForm)
         host_.setPointer(kPointerDefault);

@@ -19,6 +19,7 @@ void appendLossRatioFields(StatFieldList& fields) {
         entry.Caption = caption;
         entry.Width = Currency::fromWhole(1050);
         entry.Align = 7;
+        entry.IsTot = true;
     };
     append(QStringLiteral("LR"), texts::lossRatio());
     append(QStringLiteral("LR1"), texts::lossRatioInverse());

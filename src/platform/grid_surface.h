@@ -61,8 +61,8 @@ struct SurfaceNotifications {
     std::function<void()> selectedAgain;      ///< a user chose the cell that was current already
     std::function<void()> scrolled;           ///< `TopRow` or `LeftCol` moved
     std::function<void()> visibleRowsGrew;    ///< more rows show, with `TopRow` where it was
-    std::function<void(int col)> columnResized;
-    /// A heading was dropped; false refuses, true lets the surface move the column.
+    std::function<void(int col)> columnResized; ///< -1: all of them
+    /// A heading was dropped; true lets the surface move the column, false leaves it where it is by then.
     std::function<bool(int from, int to)> headingDropped;
     /// A custom sort of these rows begins: gives what compares them until it has ended. With nothing
     /// given the rows stay as they are.
@@ -310,8 +310,9 @@ public:
     /// The current cell moves (notified), then the selection (notified); or the cell is selected again.
     void userSelect(int row, int col);
     void userScroll(int topRow, int leftCol);
+    /// -1 as the column gives that width to all that are not hidden.
     void userResizeColumn(int col, int twips);
-    /// An accepted drop moves the column.
+    /// An accepted drop moves the column; one outside the columns is nothing.
     void userDrop(int from, int to);
 
     /// What the structures were asked to do since the last call, for the tests of their cost.

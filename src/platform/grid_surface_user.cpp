@@ -77,13 +77,21 @@ void GridSurface::userScroll(int topRow, int leftCol) {
 }
 
 void GridSurface::userResizeColumn(int col, int twips) {
-    setColWidth(col, std::max(0, twips));
+    if (col == -1) {
+        for (int c = 0; c < Cols(); ++c)
+            if (!d->columns.at(c).hidden)
+                d->columns.at(c).width = std::max(0, twips);
+        d->changed();
+    } else {
+        setColWidth(col, std::max(0, twips));
+    }
     Data::raise(notifications.columnResized, col);
 }
 
 void GridSurface::userDrop(int from, int to) {
-    d->checkCol(from);
-    d->checkCol(to);
+    const auto isOutside = [this](int col) { return col < 0 || col >= Cols(); };
+    if (isOutside(from) || isOutside(to))
+        return;
     const auto accepts = notifications.headingDropped;
     if (accepts && !accepts(from, to))
         return;

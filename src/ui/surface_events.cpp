@@ -2,10 +2,10 @@
 
 #include "base/error_in_flight.h"
 #include "base/number.h"
-#include "base/scope_guard.h"
 #include "base/texts.h"
-#include "core/keep_alive.h"
 #include "support/utility.h"
+#include "ui/menu_table.h"
+#include "ui/owner_guard.h"
 
 namespace zkp {
 
@@ -18,29 +18,20 @@ constexpr int kCtrl = 2;
 } // namespace
 
 void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
-    const auto guarded = [this, owner](auto handler) {
-        return [this, owner, handler](auto&&... arguments) {
-            const std::shared_ptr<void> alive = owner.lock();
-            if (!alive || state_.destroyed)
-                return;
-            const ScopeGuard release([&] {
-                if (state_.destroyed)
-                    releaseLater(alive); // the surface itself is still at work below
-            });
-            try {
-                handler(arguments...);
-            } catch (const ControlDestroyed&) { // whoever moved the surface finds out by itself
-            }
-        };
-    };
+    const auto guarded = [&](auto handler) { return guardedBy(owner, state_, handler); };
     SurfaceNotifications& on = surface_.notifications;
-    on.mouseDown = guarded([this](const SurfaceMouse& mouse) { mouseDown(mouse); });
+    on.mouseDown = guarded([this](const SurfaceMouse& mouse) { reporting([&] { mouseDown(mouse); }); });
+    on.mouseMove =
+        guarded([this](const SurfaceMouse& mouse) { reporting([&] { drag_.showPointer(mouse); }); });
     on.click = guarded([this] { click(); });
     on.dblClick = guarded([this] { Q_EMIT events_.DblClick(); });
     on.keyDown = guarded([this](int& code, int shift) { keyDown(code, shift); });
-    // A dropped heading goes back: no column would follow it, and it would stand over another field.
-    on.headingDropped = [](int, int) { return false; };
-    on.columnResized = guarded([this](int col) { properties_.setColWidth(col, surface_.ColWidth(col)); });
+    on.headingDropped = [drop = guarded([this](int from, int to) { drag_.drop(from, to); })](int from,
+                                                                                             int to) {
+        drop(from, to);
+        return false; // what was to be moved has been moved
+    };
+    on.columnResized = guarded([this](int col) { columnResized(col); });
     on.currentCellChanged = guarded([this] { selection_.currentCellChanged(); });
     on.selectionChanged = guarded([this] { selection_.selectionChanged(); });
     on.selectedAgain = guarded([this] { selection_.selectedAgain(); });
@@ -48,52 +39,58 @@ void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
     on.visibleRowsGrew = guarded([this] { selection_.visibleRowsGrew(); });
 }
 
-void SurfaceEvents::mouseDown(const SurfaceMouse& mouse) {
+template <class Handler>
+void SurfaceEvents::reporting(Handler handler) {
     try {
-        if (mouse.col >= 0) {
-            state_.LastClickedCol = mouse.col;
-            surface_.setCol(mouse.col);
-        }
-        if ((mouse.button & kRightButton) == 0 && !preparesHeadingDrag())
-            return;
-        MouseArgs args{toInt16(mouse.button), toInt16(mouse.shift), mouse.x, mouse.y};
-        Q_EMIT events_.MouseDown(args);
+        handler();
     } catch (const ControlDestroyed&) {
         throw;
     } catch (...) {
-        ShowError(host_, errorInFlight());
+        const Error error = errorInFlight();
+        state_.throwIfDestroyed();
+        ShowError(host_, error);
     }
 }
 
-/// A left press on a data row, on the heading of a group factor or of the first column after them is
-/// not told to the host, as wanted.
-bool SurfaceEvents::preparesHeadingDrag() {
-    GridSurface::Look look = surface_.look();
-    look.Tag.clear();
-    const int pressed = state_.LastClickedCol;
-    if (state_.TotalForm && surface_.MouseRow() == 0) {
-        if (properties_.Colcnt(pressed)) {
-            state_.MousePointer = kPointerNoDrop;
-            surface_.setLook(look);
-            return true;
-        }
-    } else if (surface_.MouseRow() != 0 || pressed <= state_.GroupFactorCount) {
-        surface_.setLook(look);
-        return false;
+void SurfaceEvents::mouseDown(const SurfaceMouse& mouse) {
+    if (mouse.col >= 0) {
+        state_.LastClickedCol = mouse.col;
+        surface_.setCol(mouse.col);
+        state_.throwIfDestroyed();
     }
-    look.Tag = QString::number(pressed);
-    surface_.setLook(look);
+    if (!isPressTold(mouse))
+        return;
+    state_.throwIfDestroyed();
+    MouseArgs args{toInt16(mouse.button), toInt16(mouse.shift), mouse.x, mouse.y};
+    Q_EMIT events_.MouseDown(args);
+}
+
+/// Whether the host is to hear of the press, after it has opened the menu or prepared a drag.
+bool SurfaceEvents::isPressTold(const SurfaceMouse& mouse) {
+    if ((mouse.button & kRightButton) != 0) {
+        menuState_.MenuRefresh();
+        menu_.popup(QStringView(bands::kContext));
+        return true;
+    }
+    if (!state_.MenusLocked)
+        return drag_.prepare();
+    state_.MousePointer = kPointerNoDrop;
     return true;
 }
 
-/// The first click on a control that has loaded nothing shows the report's shape.
+/// The first click on a control that has loaded nothing shows the report's shape. The chart follows a
+/// click on a group factor, or on the first column after them.
 void SurfaceEvents::click() {
     if (!dictionary_.isOpen())
-        emptyReport_.prepare();
+        reporting([this] { emptyReport_.prepare(); });
     state_.throwIfDestroyed();
-    if (surface_.Col() < 0)
+    const int col = surface_.Col();
+    if (col < 0)
         return;
-    state_.LastClickedCol = surface_.Col();
+    state_.LastClickedCol = col;
+    if (state_.GraphVisible && col <= state_.GroupFactorCount && showChart_)
+        showChart_();
+    state_.throwIfDestroyed();
     Q_EMIT events_.Click();
 }
 
@@ -101,6 +98,13 @@ void SurfaceEvents::click() {
 void SurfaceEvents::keyDown(int code, int shift) {
     if (code == kEndKey && (shift & kCtrl) != 0)
         host_.msgBox(texts::hitBottom());
+}
+
+void SurfaceEvents::columnResized(int col) {
+    if (col < 0)
+        drag_.saveWidths();
+    else
+        properties_.setColWidth(col, surface_.ColWidth(col));
 }
 
 } // namespace zkp

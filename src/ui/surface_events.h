@@ -6,9 +6,13 @@
 #include "load/empty_report.h"
 #include "platform/grid_surface.h"
 #include "platform/host.h"
+#include "platform/menu_bar.h"
 #include "sql/dictionary.h"
+#include "ui/heading_drag.h"
+#include "ui/menu_state.h"
 #include "ui/selection_events.h"
 
+#include <functional>
 #include <memory>
 
 namespace zkp {
@@ -16,36 +20,51 @@ namespace zkp {
 /// What the control does with the mouse and keys of the visible surface; takes all its notifications.
 class SurfaceEvents {
 public:
-    SurfaceEvents(ReportState& state, ColumnProperties& properties, GridSurface& surface, Events& events,
-                  const Dictionary& dictionary, EmptyReport& emptyReport, SelectionEvents& selection,
-                  Host& host)
+    /// `showChart` draws the chart anew.
+    SurfaceEvents(ReportState& state, ColumnProperties& properties, GridSurface& surface, MenuBar& menu,
+                  Events& events, const Dictionary& dictionary, EmptyReport& emptyReport,
+                  MenuState& menuState, HeadingDrag& drag, SelectionEvents& selection, Host& host,
+                  std::function<void()> showChart)
         : state_(state)
         , properties_(properties)
         , surface_(surface)
+        , menu_(menu)
         , events_(events)
         , dictionary_(dictionary)
         , emptyReport_(emptyReport)
+        , menuState_(menuState)
+        , drag_(drag)
         , selection_(selection)
-        , host_(host) {}
+        , host_(host)
+        , showChart_(std::move(showChart)) {}
 
     /// Takes the surface's notifications. `owner` keeps everything here alive while one of them runs,
     /// since a handler may destroy the control.
     void connect(const std::weak_ptr<void>& owner);
 
 private:
+    /// Runs a handler of the mouse; a failure shows the error box.
+    template <class Handler>
+    void reporting(Handler handler);
     void mouseDown(const SurfaceMouse& mouse);
-    bool preparesHeadingDrag();
+    bool isPressTold(const SurfaceMouse& mouse);
+    void showShape();
+    void columnResized(int col);
     void click();
     void keyDown(int code, int shift);
 
     ReportState& state_;
     ColumnProperties& properties_;
     GridSurface& surface_;
+    MenuBar& menu_;
     Events& events_;
     const Dictionary& dictionary_;
     EmptyReport& emptyReport_;
+    MenuState& menuState_;
+    HeadingDrag& drag_;
     SelectionEvents& selection_;
     Host& host_;
+    std::function<void()> showChart_;
 };
 
 } // namespace zkp
