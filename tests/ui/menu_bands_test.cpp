@@ -143,7 +143,7 @@ TEST_F(MenuBandsTest, EachToolThatOpensABandNamesOneThatIsThere) {
     EXPECT_EQ(openers, 7); // column, format, template (in two bands), two colours, fonts
 }
 
-TEST_F(MenuBandsTest, UntilCommandsAreBuiltNobodyListensAndOnlyTheCountIsForTheRow) {
+TEST_F(MenuBandsTest, ABarWithoutAControlIsHeardByNobodyAndOnlyItsCountIsForTheRow) {
     for (const auto& tool : bar.Bands(u"BndTemplate").tools)
         EXPECT_EQ(bar.isHeard(*tool), tool->Name == u"txtRecs"_s) << qPrintable(tool->Name);
 }
