@@ -19,6 +19,9 @@ enum KeyCode {
     kKeyUp = 38,
     kKeyRight = 39,
     kKeyDown = 40,
+    kKeyA = 65,
+    kKeyF6 = 117,
+    kKeyF10 = 121,
 };
 enum ShiftBits { kShift = 1, kCtrl = 2, kAlt = 4 };
 

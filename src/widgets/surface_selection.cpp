@@ -11,23 +11,29 @@ enum SelectionModes { kSelectionByRow = 1, kSelectionByColumn = 2 };
 
 } // namespace
 
+CellRange selectedBlock(const GridSurface& surface) {
+    CellRange block = surface.selection();
+    const int mode = surface.look().SelectionMode;
+    if (mode == kSelectionByRow) {
+        block.left = 0;
+        block.right = surface.Cols() - 1;
+    } else if (mode == kSelectionByColumn) {
+        block.top = surface.FixedRows();
+        block.bottom = surface.Rows() - 1;
+    }
+    block.top = std::max(block.top, surface.FixedRows());
+    block.left = std::max(block.left, surface.FixedCols());
+    return block;
+}
+
 ShownSelection::ShownSelection(const GridSurface& surface, bool focused)
-    : block_(surface.selection())
+    : block_(selectedBlock(surface))
     , row_(surface.Row())
     , col_(surface.Col()) {
     const GridSurface::Look& look = surface.look();
     highlights_ = look.HighLight != kHighLightNever && (look.HighLight != kHighLightWithFocus || focused);
     focusRect_ = look.FocusRect != 0;
     sparesCurrent_ = focusRect_ && look.SelectionMode == 0;
-    if (look.SelectionMode == kSelectionByRow) {
-        block_.left = 0;
-        block_.right = surface.Cols() - 1;
-    } else if (look.SelectionMode == kSelectionByColumn) {
-        block_.top = surface.FixedRows();
-        block_.bottom = surface.Rows() - 1;
-    }
-    block_.top = std::max(block_.top, surface.FixedRows());
-    block_.left = std::max(block_.left, surface.FixedCols());
 }
 
 bool ShownSelection::covers(int firstRow, int lastRow, int col) const {

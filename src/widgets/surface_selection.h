@@ -4,6 +4,10 @@
 
 namespace zkp {
 
+/// The body cells that are selected: the selected range, as `SelectionMode` widens it to whole rows or
+/// columns.
+CellRange selectedBlock(const GridSurface& surface);
+
 /// What of a surface shows as selected, by its settings: `HighLight` 0 nothing, 1 always, 2 with the
 /// focus; `SelectionMode` 1 whole rows, 2 whole columns. Headings never do. The current cell of a free
 /// selection keeps its own colours and is marked by the focus rectangle, if there is one.

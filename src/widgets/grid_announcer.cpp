@@ -1,0 +1,66 @@
+#include "widgets/grid_announcer.h"
+
+#include "widgets/grid_view.h"
+#include "widgets/surface_selection.h"
+
+#include <QAccessible>
+
+#include <limits>
+#include <utility>
+
+namespace zkp {
+
+namespace {
+
+void tellReset(GridView& view) {
+    QAccessibleTableModelChangeEvent event(&view, QAccessibleTableModelChangeEvent::ModelReset);
+    QAccessible::updateAccessibility(&event);
+}
+
+void tellCell(GridView& view, CellPlace cell, QAccessible::Event type) {
+    const qint64 index = qint64(cell.row) * view.surface()->Cols() + cell.col;
+    QAccessibleEvent event(&view, type);
+    if (index <= std::numeric_limits<int>::max())
+        event.setChild(static_cast<int>(index));
+    QAccessible::updateAccessibility(&event);
+}
+
+void tellSelection(GridView& view, const CellRange& block) {
+    if (block.top == block.bottom && block.left == block.right) {
+        tellCell(view, {block.top, block.left}, QAccessible::Selection);
+        return;
+    }
+    QAccessibleEvent event(&view, QAccessible::SelectionWithin);
+    QAccessible::updateAccessibility(&event);
+}
+
+} // namespace
+
+void GridAnnouncer::announce(GridView& view) {
+    const GridSurface* surface = view.surface();
+    if (!surface || !QAccessible::isActive())
+        return;
+    const Seen now{
+        surface->Rows(), surface->Cols(), {surface->Row(), surface->Col()}, selectedBlock(*surface)};
+    const std::optional<Seen> before = std::exchange(seen_, now);
+    const bool other =
+        std::exchange(reloaded_, false) || (before && (before->rows != now.rows || before->cols != now.cols));
+    const bool again = std::exchange(refocused_, false);
+    if (other)
+        tellReset(view);
+    const bool hasCell = now.current.row >= 0 && now.current.row < now.rows && now.current.col >= 0 &&
+                         now.current.col < now.cols;
+    if (!hasCell)
+        return;
+    if (view.hasFocus() && (other || again || !before || before->current != now.current))
+        tellCell(view, now.current, QAccessible::Focus);
+    if (before && before->selected != now.selected)
+        tellSelection(view, now.selected);
+}
+
+void GridAnnouncer::announceNothing(GridView& view) {
+    if (QAccessible::isActive())
+        tellReset(view);
+}
+
+} // namespace zkp
