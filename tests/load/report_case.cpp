@@ -1,5 +1,7 @@
 #include "report_case.h"
 
+#include "case_rules.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -49,17 +51,6 @@ std::vector<Case> readAll(const QString& path) {
     return cases;
 }
 
-/// Takes the "shows" lines out of the steps.
-void takeShows(Case& one) {
-    std::erase_if(one.steps, [&](const Step& step) {
-        if (step.verb != u"shows")
-            return false;
-        for (const QString& id : step.value.split(u','))
-            one.shows << id.trimmed();
-        return true;
-    });
-}
-
 } // namespace
 
 std::vector<Case> readCases(const QString& path) {
@@ -68,7 +59,7 @@ std::vector<Case> readCases(const QString& path) {
     cases.erase(cases.begin());
     for (Case& one : cases) {
         one.steps.insert(one.steps.begin(), before.begin(), before.end());
-        takeShows(one);
+        cases::takeShows(one);
     }
     return cases;
 }

@@ -1,5 +1,7 @@
 #include "case_file.h"
 
+#include "case_rules.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -61,17 +63,6 @@ std::vector<Case> readAll(const QString& path) {
     return cases;
 }
 
-/// Takes the "shows" lines out of the steps.
-void takeShows(Case& one) {
-    std::erase_if(one.steps, [&](const Step& step) {
-        if (step.verb != u"shows")
-            return false;
-        for (const QString& id : step.value.split(u','))
-            one.shows << id.trimmed();
-        return true;
-    });
-}
-
 } // namespace
 
 std::vector<Step> readSharedSteps(const QString& path) {
@@ -85,7 +76,7 @@ std::vector<Case> readCases(const QString& path, const std::vector<Step>& shared
     cases.erase(cases.begin());
     for (Case& one : cases) {
         one.steps.insert(one.steps.begin(), before.begin(), before.end());
-        takeShows(one);
+        cases::takeShows(one);
     }
     return cases;
 }

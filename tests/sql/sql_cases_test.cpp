@@ -1,10 +1,10 @@
 #include "case_file.h"
 #include "case_runner.h"
 
+#include "case_rules.h"
+
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
-#include <QSet>
 
 #include <gtest/gtest.h>
 
@@ -40,55 +40,17 @@ std::vector<Case> allCases() {
     return cases;
 }
 
-/// The title as CTest can carry it: letters, digits and underscores.
-std::string testName(const QString& title) {
-    std::string name;
-    for (const QChar c : title) {
-        const bool plain = c.isLetterOrNumber() && c.unicode() < 128;
-        if (plain)
-            name += c.toLatin1();
-        else if (!name.empty() && name.back() != '_')
-            name += '_';
-    }
-    return name;
-}
-
-QStringList ruleIds() {
-    QFile file(kFolder + u"rules.txt"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
-    QStringList ids;
-    for (const QString& line : QString::fromUtf8(file.readAll()).split(u'\n'))
-        if (!line.trimmed().isEmpty() && !line.startsWith(u'#'))
-            ids << line.section(u' ', 0, 0);
-    return ids;
-}
-
 } // namespace
 
 TEST(SqlRules, EachHasACaseAndEachCaseNamesOne) {
-    const QStringList ids = ruleIds();
-    const QSet<QString> known(ids.begin(), ids.end());
-    EXPECT_EQ(known.size(), ids.size()) << "an id stands twice";
-    QSet<QString> shown, titles;
-    for (const Case& one : allCases()) {
-        EXPECT_FALSE(one.shows.isEmpty()) << one.title.toStdString() << " names no rule";
-        const QString title = one.file + u": "_s + one.title;
-        EXPECT_FALSE(titles.contains(title)) << title.toStdString() << " stands twice";
-        titles << title;
-        for (const QString& id : one.shows) {
-            EXPECT_TRUE(known.contains(id)) << one.title.toStdString() << ": no rule " << id.toStdString();
-            shown << id;
-        }
-    }
-    for (const QString& id : ids)
-        EXPECT_TRUE(shown.contains(id)) << "no case shows the rule " << id.toStdString();
+    cases::expectRulesAreShown(cases::readRuleIds(kFolder + u"rules.txt"_s), allCases());
 }
 
 } // namespace zkp::sqlcases
 
 int main(int argc, char** argv) {
     using namespace zkp::sqlcases;
+    using zkp::cases::testName;
     QCoreApplication app(argc, argv);
     testing::InitGoogleTest(&argc, argv);
     try {
