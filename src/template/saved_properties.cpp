@@ -47,16 +47,28 @@ void readInto(Column& column, const PropertyBag& bag, const SavedColumnKey& key,
 
 void SavedProperties::UserControl_WriteProperties(const PropertyBagPtr& bag) {
     try {
-        PropertyBag& target = given(bag);
-        const auto cols = static_cast<std::size_t>(control_.surface.Cols());
-        target.reserve(savedKeysBeforeColumns().size() + savedKeysAfterColumns().size() +
-                       cols * savedColumnKeys().size());
-        write(target, savedKeysBeforeColumns());
-        writeColumns(target);
-        write(target, savedKeysAfterColumns());
+        writeAll(given(bag));
     } catch (...) {
         ShowError(host_, errorInFlight());
     }
+}
+
+void SavedProperties::writeWhole(PropertyBag& bag) const {
+    try {
+        writeAll(bag);
+    } catch (...) {
+        ShowError(host_, errorInFlight());
+        throw;
+    }
+}
+
+void SavedProperties::writeAll(PropertyBag& bag) const {
+    const auto cols = static_cast<std::size_t>(control_.surface.Cols());
+    bag.reserve(savedKeysBeforeColumns().size() + savedKeysAfterColumns().size() +
+                cols * savedColumnKeys().size());
+    write(bag, savedKeysBeforeColumns());
+    writeColumns(bag);
+    write(bag, savedKeysAfterColumns());
 }
 
 void SavedProperties::write(PropertyBag& bag, const std::vector<SavedKey>& keys) const {

@@ -34,12 +34,15 @@ public:
     /// Fills the bag from the control, which stays as it is. A failure shows the error box; what has been
     /// written so far stands in the bag.
     void UserControl_WriteProperties(const PropertyBagPtr& bag);
+    /// The same, but a failure is shown and thrown: a bag that lacks keys must not be kept.
+    void writeWhole(PropertyBag& bag) const;
     /// Applies the bag and draws the interface; reads no data. What the bag lacks takes its default. A
     /// failure in the first keys shows the error box and ends it there; later ones are passed over. New
     /// columns are added behind those that stand in `Columns`.
     void UserControl_ReadProperties(const PropertyBagPtr& bag);
 
 private:
+    void writeAll(PropertyBag& bag) const;
     void write(PropertyBag& bag, const std::vector<SavedKey>& keys) const;
     void writeColumns(PropertyBag& bag) const;
     void readKey(const PropertyBag& bag, const SavedKey& key) const;

@@ -56,11 +56,11 @@ QString statementFor(const TemplatePlace& place) {
 
 /// Some names with quotes make a statement that a database can take, and that finds another row.
 ado::RecordsetPtr TemplateRows::open(const TemplatePlace& place, int cursorType) const {
-    auto rows = std::make_shared<ado::Recordset>();
-    rows->Open(statementFor(place), connection_, cursorType, ado::adLockOptimistic, -1);
     if (!place.number && place.name.contains(u'\''))
         throw Error(kErrBadStatement,
                     QStringLiteral("A template's name can't have a quote: %1").arg(place.name));
+    auto rows = std::make_shared<ado::Recordset>();
+    rows->Open(statementFor(place), connection_, cursorType, ado::adLockOptimistic, -1);
     return rows;
 }
 

@@ -1,6 +1,7 @@
 #include "template/template_store.h"
 
 #include "base/error.h"
+#include "base/number.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "base/value.h"
@@ -44,7 +45,7 @@ QString TemplateStore::folder(const char16_t* name) const {
 
 /// Only -1 itself means "\Forms" here, while opening goes by the sign; wanted.
 std::vector<std::optional<clsList>> TemplateStore::FillTemplates(const QVariant& mFileNo) {
-    const bool isForms = !mFileNo.isValid() || mFileNo.toDouble() == kNoFileNo;
+    const bool isForms = !mFileNo.isValid() || toInt32(mFileNo) == kNoFileNo;
     const QString place = folder(isForms ? u"Forms" : u"Reports");
     std::vector<std::optional<clsList>> entries;
     for (const QString& name : templateFileNames(place)) {
@@ -58,10 +59,10 @@ std::vector<std::optional<clsList>> TemplateStore::FillTemplates(const QVariant&
 }
 
 void TemplateStore::SaveTemplate(const QString& mfilename) {
-    const auto bag = std::make_shared<PropertyBag>();
-    properties_.UserControl_WriteProperties(bag);
+    PropertyBag bag;
+    properties_.writeWhole(bag);
     const TemplatePlace place = placeToSave(mfilename);
-    TemplateRows(state_.Cn).store(place, bag->Contents());
+    TemplateRows(state_.Cn).store(place, bag.Contents());
 }
 
 void TemplateStore::opentemplate(const ado::ConnectionPtr& connection, const QVariant& mPath,

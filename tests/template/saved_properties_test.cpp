@@ -257,6 +257,19 @@ TEST_F(SavedPropertiesTest, RowsGoToTheGridAndLeaveTheMark) {
     EXPECT_EQ(grid->PreRow(), 1) << "without a record source nothing is painted, and the mark stays";
 }
 
+TEST_F(SavedPropertiesTest, WithARecordSourceTheDrawingForgetsTheMark) {
+    const auto cn = std::make_shared<ado::Connection>();
+    cn->Open(u"sqlite:"_s);
+    cn->Execute(u"create table T as select 1 as A"_s);
+    grid->setColDataField(0, u"A"_s);
+    grid->Fill(cn, u"select * from T"_s, ZKP_SQLStatement);
+    grid->refresh();
+    ASSERT_TRUE(host->messages.empty());
+    grid->setPreRow(1);
+    grid->UserControl_ReadProperties(newBag());
+    EXPECT_EQ(grid->PreRow(), 0);
+}
+
 TEST_F(SavedPropertiesTest, FixedRowsFallBackWhenRowsAreMissing) {
     grid->UserControl_ReadProperties(bagWith(u"FixedRows"_s, std::int32_t{2}));
     EXPECT_EQ(grid->FixedRows(), 2);
@@ -286,6 +299,41 @@ TEST_F(SavedPropertiesTest, ColumnsOfAFreshControlAreNobodysAndMakeWay) {
     EXPECT_EQ(grid->Columns().Count(), 2);
     grid->UserControl_ReadProperties(newBag());
     EXPECT_EQ(grid->Columns().Count(), 4) << "those that a bag brought are the control's";
+}
+
+TEST_F(SavedPropertiesTest, ColumnsThatAHostHasWrittenToStayBehindAsAnyOther) {
+    grid->setColEditTag(0, u"mine"_s);
+    grid->UserControl_ReadProperties(newBag());
+    EXPECT_EQ(grid->Columns().Count(), 4);
+    EXPECT_EQ(grid->ColEditTag(0), u"mine"_s);
+    ZkpGrid other(host);
+    other.Columns().Item(2).Debit = true;
+    other.UserControl_ReadProperties(newBag());
+    EXPECT_EQ(other.Columns().Count(), 4);
+}
+
+TEST_F(SavedPropertiesTest, EntriesLeftBehindAreNoGroupFactors) {
+    const PropertyBagPtr two = shapeOf(*grid);
+    two->WriteProperty(u"GroupBy"_s, u"REGION"_s);
+    grid->setCols(4);
+    grid->setColForTot(3, true);
+    grid->setColForTot(2, true);
+    grid->UserControl_ReadProperties(two);
+    ASSERT_EQ(grid->Columns().Count(), 4 + 2);
+    EXPECT_EQ(grid->FindGroupNum(), 0);
+    EXPECT_FALSE(grid->HasTotals());
+    grid->MakeFixedForGroup();
+    EXPECT_EQ(grid->ColDataField(0), u"REGION"_s) << "the text that was read still makes its column";
+}
+
+TEST_F(SavedPropertiesTest, TheOrderInWhichKeysStandChangesNothing) {
+    applyGolden(*grid, "changed_control.txt");
+    const PropertyBagPtr bag = shapeOf(*grid);
+    const PropertyBagPtr turned = newBag();
+    const std::vector<PropertyBag::Entry>& entries = bag->entries();
+    for (auto entry = entries.rbegin(); entry != entries.rend(); ++entry)
+        turned->WriteProperty(entry->key, entry->value);
+    EXPECT_EQ(bagLines(*shapeOf(*reader(bag))), bagLines(*shapeOf(*reader(turned))));
 }
 
 // --- Failures

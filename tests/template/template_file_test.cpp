@@ -80,6 +80,19 @@ TEST_F(TemplateFileTest, ListsFilesOfItsExtensionInWhateverCase) {
     EXPECT_EQ(templateFileNames(dir.path() + u"\\nowhere"_s), QStringList{});
 }
 
+TEST_F(TemplateFileTest, NamesAreFoundInWhateverCaseAndTheExactOneFirst) {
+    writeFile(dir.filePath(u"Sub/ABCD8.ZKP"_s), variantOf("upper"));
+    const QString folder = dir.path() + u"\\SUB"_s;
+    EXPECT_TRUE(isTemplateFile(folder, u"abcd8.Zkp"_s));
+    EXPECT_EQ(readTemplateFile(folder, u"abcd8.Zkp"_s), QByteArray("upper"));
+    EXPECT_EQ(templateFileNames(folder), QStringList{u"ABCD8.ZKP"_s});
+    writeFile(dir.filePath(u"Sub/abcd8.Zkp"_s), variantOf("exact"));
+    EXPECT_EQ(readTemplateFile(folder, u"abcd8.Zkp"_s), QByteArray("exact"));
+    retireTemplateFile(folder, u"abcd8.Zkp"_s);
+    EXPECT_TRUE(QFile::exists(dir.filePath(u"Sub/OLD_abcd8.Zkp"_s)));
+    EXPECT_TRUE(QFile::exists(dir.filePath(u"Sub/ABCD8.ZKP"_s)));
+}
+
 TEST_F(TemplateFileTest, AFolderIsNoTemplateFile) {
     QDir(dir.path()).mkdir(u"folder.Zkp"_s);
     EXPECT_FALSE(isTemplateFile(dir.path(), u"folder.Zkp"_s));

@@ -190,6 +190,21 @@ TEST_F(MigrationTest, EveryNumberButMinusOneListsTheReports) {
         EXPECT_EQ(listed(number).at(0).FileName, u"report.Zkp"_s) << number;
 }
 
+TEST_F(MigrationTest, TrueIsMinusOneAndATextIsNoNumber) {
+    writeFile(path(u"Forms/a.Zkp"_s), variantOf(shape(u"form"_s)));
+    EXPECT_EQ(listed(true).size(), 1u);
+    EXPECT_EQ(errorNumberOf([&] { grid->FillTemplates(u"abc"_s); }), kErrTypeMismatch);
+}
+
+TEST_F(MigrationTest, MinusTwoListsTheReportsAndOpensFromTheForms) { // wanted
+    writeFile(path(u"Forms/ABCD7"_s), variantOf(shape(u"form"_s)));
+    writeFile(path(u"Reports/a.Zkp"_s), variantOf(shape(u"report"_s)));
+    EXPECT_EQ(listed(-2).at(0).FileName, u"report.Zkp"_s);
+    grid->setfileno(-2);
+    grid->opentemplate(cn, {}, u"ABCD7"_s);
+    EXPECT_EQ(grid->KeyName(), u"form"_s);
+}
+
 TEST_F(MigrationTest, WithoutFilesTheListingIsEmptyAndTheFileNameTooAfterEveryListing) {
     grid->setFileName(u"ABCD7"_s);
     EXPECT_EQ(grid->FillTemplates().size(), 0);

@@ -300,6 +300,15 @@ TEST_F(TemplateStoreTest, ASaveWhileAnotherWritesFailsAndLeavesTheOldTemplate) {
     EXPECT_EQ(opened(u"A"_s)->KeyName(), u"two"_s) << "the connection works on";
 }
 
+TEST_F(TemplateStoreTest, AShapeThatCannotBeWrittenWholeIsShownThrownAndNotKept) {
+    saveAs(u"one"_s, u"A"_s);
+    grid->setKeyName(u"two"_s);
+    grid->MSFlexGrid1().setCols(grid->Cols() + 1); // past the control: the last column has no entry
+    EXPECT_TRUE(errorNumberOf([&] { grid->SaveTemplate({}, u"A"_s); }));
+    EXPECT_EQ(host->messages.size(), 1u);
+    EXPECT_EQ(opened(u"A"_s)->KeyName(), u"one"_s);
+}
+
 TEST_F(TemplateStoreTest, AFullDiskIsAnErrorAndLeavesTheOldTemplate) {
     saveAs(u"one"_s, u"A"_s);
     const qlonglong pages = one(u"PRAGMA page_count"_s).toLongLong();

@@ -169,11 +169,12 @@ TEST_F(CommandLine, ATemplateGoesThroughItsTextExactly) {
     const QString database = QStringLiteral("--database=t.db");
     EXPECT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("t.db"), QStringLiteral("--rows=5")}), 0);
     write(QStringLiteral("save.js"), "const cn = new Connection(); cn.Open('sqlite:t.db');"
-                                     "cn.Execute(\"insert into frms (lstCode) values (12)\");"
+                                     "cn.Execute(\"insert into frms (lstCode) values (12), (0)\");"
                                      "const grid = new ZkpGrid(); grid.Cn = cn; grid.Cols = 3;"
                                      "grid.setColCaption(1, 'Ασφάλιστρα'); grid.OrderBy = 'a = \"b\"\\n';"
                                      "grid.SaveTemplate(undefined, 'Μηνιαία');"
-                                     "grid.SaveTemplate(undefined, 'ABCD12');");
+                                     "grid.SaveTemplate(undefined, 'ABCD12');"
+                                     "grid.SaveTemplate(undefined, 'ABCD0.4');"); // row 0 has no name
     EXPECT_EQ(start({QStringLiteral("run"), QStringLiteral("save.js")}), 0) << qPrintable(errors);
     EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("list"), database}), 0);
     EXPECT_EQ(output, QStringLiteral("frms12\nΜηνιαία\n"));

@@ -33,7 +33,8 @@ void listTemplates(const ado::ConnectionPtr& connection) {
         for (; !rows->Eof(); rows->MoveNext())
             printLine(prefix + rows->Collect(QStringLiteral("lstCode")).toString());
     };
-    print(QStringLiteral("select lstCode from frms where ZKP_ is not null order by lstCode"),
+    print(QStringLiteral("select lstCode from frms where ZKP_ is not null and lstCode between 1 and 32767 "
+                         "order by lstCode"),
           QStringLiteral("frms"));
     print(QStringLiteral("select lstCode from frms2 where ZKP_ is not null order by lstCode"), {});
 }
