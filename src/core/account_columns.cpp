@@ -8,7 +8,8 @@ namespace zkp {
 
 bool AccountColumns::FindAccountColumns() {
     state_.DebitColumn = state_.CreditColumn = state_.BalanceColumn = -1;
-    for (int number = 1; number <= columns_.Count(); ++number) {
+    const int cols = std::min(surface_.Cols(), columns_.Count());
+    for (int number = 1; number <= cols; ++number) {
         const Column& column = columns_.Item(number);
         const auto position = toInt16(number - 1);
         if (column.Debit)

@@ -19,6 +19,18 @@ int surfaceAlignment(int stored) {
     }
 }
 
+/// Whether a host has left a column as it was made; its alignment came from the surface.
+bool isUntouched(const Column& column) {
+    Column fresh;
+    fresh.Alignment = column.Alignment;
+#define ZKP_SAME(Type, Name)                                                                                 \
+    if (!(column.Name == fresh.Name))                                                                        \
+        return false;
+    ZKP_COLUMN_MEMBERS(ZKP_SAME)
+#undef ZKP_SAME
+    return true;
+}
+
 } // namespace
 
 #define ZKP_DEFINE(Type, Name, Member)                                                                       \
@@ -91,6 +103,8 @@ void ColumnProperties::placeInitial(int count) {
 }
 
 void ColumnProperties::dropInitial() {
+    for (int number = 1; initial_ && number <= columns_.Count(); ++number)
+        initial_ = isUntouched(columns_.Item(number));
     if (initial_)
         resize(0);
 }

@@ -54,7 +54,7 @@ void GroupColumns::insertEmptyColumn(int position) {
 void GroupColumns::recallFactors() {
     const std::optional<QString> given = state_.givenGroupby;
     flags_.CheckGroupBy(surface_.Cols());
-    if (flags_.FindGroupNum() > 0 || !given || isBlank(*given))
+    if (flags_.FindGroupNum(surface_.Cols()) > 0 || !given || isBlank(*given))
         return;
     state_.Groupby = *given;
     state_.givenGroupby = given;

@@ -6,9 +6,9 @@
 
 namespace zkp {
 
-short GroupFactorFlags::FindGroupNum() const {
+short GroupFactorFlags::FindGroupNum(int cols) const {
     short count = 0;
-    for (int number = 1; number <= columns_.Count(); ++number)
+    for (int number = 1; number <= std::min(cols, columns_.Count()); ++number)
         count += columns_.Item(number).ForTot ? 1 : 0;
     return count;
 }

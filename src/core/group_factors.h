@@ -14,10 +14,11 @@ public:
         , columns_(columns)
         , events_(events) {}
 
-    /// How many columns are group factors.
-    short FindGroupNum() const;
+    /// How many of the first `cols` columns are group factors. Entries of `Columns` behind them, which an
+    /// opened template leaves, don't count.
+    short FindGroupNum(int cols) const;
     /// True for two or more group factors. Despite its name it speaks of factors and not of totals.
-    bool HasTotals() const { return FindGroupNum() >= 2; }
+    bool HasTotals(int cols) const { return FindGroupNum(cols) >= 2; }
     /// Rebuilds `Groupby` and `GroupFactorCount` from the flags of the first `cols` columns; the flags
     /// win over whatever `Groupby` held. A factor with no field counts and adds nothing to the text.
     void CheckGroupBy(int cols);

@@ -40,6 +40,12 @@ protected:
 
 } // namespace
 
+TEST_F(AccountColumnsTest, EntriesPastTheSurfaceAreNoAccountColumns) {
+    columns.Add().Debit = true;
+    EXPECT_FALSE(account.FindAccountColumns());
+    account.RecalcBalanceColumn();
+}
+
 TEST_F(AccountColumnsTest, FindsTheLastColumnOfEachKind) {
     columns.Item(1).Debit = true;
     columns.Item(2).Debit = true;

@@ -46,6 +46,13 @@ TEST_F(GroupFactorsTest, AFactorWithoutFieldCountsAndAddsNothing) {
     EXPECT_EQ(grid->FindGroupNum(), 2);
 }
 
+TEST_F(GroupFactorsTest, AnInsertedColumnCannotBeEdited) {
+    grid->setColEditable(0, true);
+    grid->InsertColumn(0);
+    EXPECT_FALSE(grid->ColEditable(0));
+    EXPECT_TRUE(grid->ColEditable(1));
+}
+
 TEST_F(GroupFactorsTest, GroupBy1To4AreStoredOnly) {
     EXPECT_EQ(keysOf([&] {
                   grid->setGroupBy1(u"A"_s);
