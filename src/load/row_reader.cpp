@@ -20,7 +20,7 @@ void RowReader::LoadRows() {
 
     const ScopeGuard restore([this] {
         plan_.reset();
-        sums_ = reading_ = false;
+        hasTotals_ = reading_ = false;
         state_.PaintReady = state_.ContentSeen = true;
         surface_.setRedraw(true);
         host_.setPointer(kPointerDefault);
@@ -63,7 +63,7 @@ void RowReader::readRecords(const ado::RecordsetPtr& records) {
         sumRecord(*records, r);
         records->MoveNext();
     }
-    if (sums_)
+    if (hasTotals_)
         finishTotals(r);
 }
 
@@ -85,8 +85,8 @@ void RowReader::sumRecord(ado::Recordset& records, double& r) {
     if (r == 1) {
         state_.LoadFinished = false;
         unseen_ = !events_.isRetrieveRowHeard();
-        sums_ = groups_.InitTotalsGrid(!unseen_);
-    } else if (sums_ && records.AbsolutePosition() <= records.RecordCount()) {
+        hasTotals_ = groups_.InitTotalsGrid(!unseen_);
+    } else if (hasTotals_ && records.AbsolutePosition() <= records.RecordCount()) {
         groups_.AccumulateRow(r);
     }
 }
@@ -99,13 +99,13 @@ void RowReader::makePlan(ado::Recordset& records) {
 /// From the row after the first on, when each further row would be written the same way unseen.
 bool RowReader::canBindTheRest(const ado::Recordset& records, double r) const {
     const std::int64_t left = records.RecordCount() - (records.AbsolutePosition() - 1);
-    const int spare = sums_ ? 2 : 0; // the rows behind the last record
+    const int spare = hasTotals_ ? 2 : 0; // the rows behind the last record
     return r >= 1 && left <= surface_.Rows() - 1 - toInt32(r) - spare && plan_->percents().empty() &&
-           !events_.isRetrieveRowHeard() && !(sums_ && groups_.sums().shape().sumsKeys());
+           !events_.isRetrieveRowHeard() && !(hasTotals_ && groups_.sums().shape().sumsKeys());
 }
 
 void RowReader::bindTheRest(ado::Recordset& records, double& r) {
-    if (sums_)
+    if (hasTotals_)
         sumTheRest(records, r);
     else
         bindRun(records, records.AbsolutePosition() - 1, records.RecordCount(), r);

@@ -59,7 +59,7 @@ private:
     Percentages& percentages_;
     std::optional<CellPlan> plan_; ///< while rows are read
     bool reading_ = false;         ///< a handler may call again; it is refused
-    bool sums_ = false;            ///< this load has rows for its totals
+    bool hasTotals_ = false;       ///< this load has rows for its totals
     bool unseen_ = false;          ///< and nobody sees a row before its end
 };
 

@@ -184,19 +184,25 @@ void InterfaceDrawing::RefreshInterface(int what) {
 }
 
 void InterfaceDrawing::refreshTotals() {
+    const FontMarks subtotals{state_.SubTotalsFontSize, state_.SubTotalsFontBold,
+                              state_.SubTotalsFontUnderline, state_.SubTotalsFontItalic,
+                              state_.SubTotalsFontStrikethru};
+    const FontMarks totals{state_.TotalsFontSize, state_.TotalsFontBold, state_.TotalsFontUnderline,
+                           state_.TotalsFontItalic, state_.TotalsFontStrikethru};
     for (int row = surface_.FixedRows(); row < surface_.Rows(); ++row) {
         const int kind = surface_.RowData(row);
-        if (kind == ZKPSubTotals) {
-            marking_.reversecolor(row, state_.SubTotalsBackColor, state_.SubTotalsForeColor);
-            fonts_.FontsRow(row, {state_.SubTotalsFontSize, state_.SubTotalsFontBold,
-                                  state_.SubTotalsFontUnderline, state_.SubTotalsFontItalic,
-                                  state_.SubTotalsFontStrikethru});
-        } else if (kind == ZKPTotals) {
-            marking_.reversecolor(row, state_.TotalsBackcolor, state_.TotalsForeColor);
-            fonts_.FontsRow(row, {state_.TotalsFontSize, state_.TotalsFontBold, state_.TotalsFontUnderline,
-                                  state_.TotalsFontItalic, state_.TotalsFontStrikethru});
-        }
+        if (kind == ZKPSubTotals)
+            markRow(row, state_.SubTotalsBackColor, state_.SubTotalsForeColor, subtotals);
+        else if (kind == ZKPTotals)
+            markRow(row, state_.TotalsBackcolor, state_.TotalsForeColor, totals);
     }
+}
+
+/// Marking the current row raises `Selecting`, whose handler may take rows away.
+void InterfaceDrawing::markRow(int row, Color back, Color fore, const FontMarks& font) {
+    marking_.reversecolor(row, back, fore);
+    if (row < surface_.Rows())
+        fonts_.FontsRow(row, font);
 }
 
 /// In a totals report the innermost of several factors is a plain cell.

@@ -43,6 +43,7 @@ private:
     void paintDetailRows(const CellRange& page, const std::vector<int>& kinds);
     void paintSumRows(const CellRange& page, const std::vector<int>& kinds);
     void refreshTotals();
+    void markRow(int row, Color back, Color fore, const FontMarks& font);
     int groupColumns() const;
     StylePatch groupStyle() const;
 

@@ -46,6 +46,16 @@ TEST_F(RefreshInterfaceTest, AnyOtherNumberIsAll) {
     EXPECT_EQ(cells(3), u"ssss"_s);
 }
 
+TEST_F(RefreshInterfaceTest, AHandlerThatTakesTheRowsAwayEndsIt) {
+    grid->setRowSelect(true);
+    surface().setRow(5);
+    QObject::connect(&grid->events(), &Events::Selecting, grid.get(), [&] { surface().setRows(2); });
+    grid->RefreshInterface();
+    EXPECT_EQ(surface().Rows(), 2);
+    EXPECT_EQ(surface().Redraw(), true);
+    EXPECT_EQ(told(), QString());
+}
+
 TEST_F(RefreshInterfaceTest, SumsTakeSizeAndStyleAndKeepTheirTypeface) {
     grid->setSubTotalsFontName(u"Sub"_s);
     grid->setSubTotalsFontSize(11);
