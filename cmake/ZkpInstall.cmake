@@ -16,7 +16,7 @@ target_compile_features(zkpgrid PUBLIC cxx_std_20)
 if(TARGET zkpgrid-widgets)
   list(APPEND public_headers widgets/zkp_grid_widget.h widgets/qt_host.h)
   list(APPEND libraries zkpgrid-widgets)
-  list(APPEND qt_components Widgets)
+  list(APPEND qt_components Svg Widgets)
   set_target_properties(zkpgrid-widgets PROPERTIES EXPORT_NAME Widgets)
 endif()
 

@@ -1,0 +1,137 @@
+#include "widgets/band_tools.h"
+
+#include "widgets/tool_icons.h"
+
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QToolButton>
+
+namespace zkp {
+
+namespace {
+
+constexpr int kWidestList = 420; // pixels
+constexpr int kFewLetters = 8;   // a list shows these at least
+constexpr int kIconSize = 16;
+
+/// A list may stand in a narrow place and opens as wide as its entries.
+class ToolCombo : public QComboBox {
+public:
+    explicit ToolCombo(QWidget* parent)
+        : QComboBox(parent) {
+        setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        setMinimumContentsLength(kFewLetters);
+    }
+    void showPopup() override {
+        const int entries = view()->sizeHintForColumn(0) + view()->verticalScrollBar()->sizeHint().width();
+        view()->setMinimumWidth(std::min(kWidestList, entries));
+        QComboBox::showPopup();
+    }
+};
+
+QWidget* makeList(const Tool& tool, const BandActions& actions, QWidget* parent) {
+    auto* list = new ToolCombo(parent);
+    QObject::connect(list, &QComboBox::activated, list,
+                     [change = actions.changeList, name = tool.Name](int index) { change(name, index); });
+    return list;
+}
+
+QWidget* makeText(const Tool& tool, const BandActions& actions, QWidget* parent) {
+    auto* box = new QLineEdit(parent);
+    QObject::connect(
+        box, &QLineEdit::textEdited, box,
+        [change = actions.changeText, name = tool.Name](const QString& text) { change(name, text); });
+    return box;
+}
+
+QWidget* makeSeparator(QWidget* parent) {
+    auto* line = new QFrame(parent);
+    line->setFrameShape(QFrame::VLine);
+    line->setFrameShadow(QFrame::Sunken);
+    return line;
+}
+
+QWidget* makeButton(const Tool& tool, const BandActions& actions,
+                    const std::function<void(QMenu&)>& fillMenu, QWidget* parent) {
+    auto* button = new QToolButton(parent);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setIconSize({kIconSize, kIconSize});
+    button->setCheckable(tool.kind == ToolKind::Check);
+    if (!tool.subBand.isEmpty()) {
+        auto* menu = new QMenu(button);
+        button->setMenu(menu);
+        button->setPopupMode(tool.kind == ToolKind::SubMenu ? QToolButton::InstantPopup
+                                                            : QToolButton::MenuButtonPopup);
+        QObject::connect(menu, &QMenu::aboutToShow, menu, [menu, fillMenu] { fillMenu(*menu); });
+    }
+    if (tool.kind != ToolKind::SubMenu)
+        QObject::connect(button, &QToolButton::clicked, button,
+                         [click = actions.click, name = tool.Name] { click(name); });
+    return button;
+}
+
+QString tip(const Tool& tool) {
+    QString text = tool.Caption;
+    return text.remove(u'&');
+}
+
+void syncList(QComboBox& combo, const Tool& tool) {
+    // The same list shares its data: a row is synchronised far more often than a list is filled.
+    if (combo.property("entries").toStringList() != tool.list) {
+        combo.setProperty("entries", tool.list);
+        combo.clear();
+        combo.addItems(tool.list);
+    }
+    combo.setPlaceholderText(tip(tool));
+    combo.setCurrentIndex(tool.ListIndex);
+}
+
+} // namespace
+
+QWidget* makeToolWidget(const Tool& tool, const BandActions& actions,
+                        const std::function<void(QMenu&)>& fillMenu, QWidget* parent) {
+    switch (tool.kind) {
+    case ToolKind::List:
+        return makeList(tool, actions, parent);
+    case ToolKind::Text:
+        return makeText(tool, actions, parent);
+    case ToolKind::Label:
+        return new QLabel(parent);
+    case ToolKind::Separator:
+        return makeSeparator(parent);
+    default:
+        return makeButton(tool, actions, fillMenu, parent);
+    }
+}
+
+void syncToolWidget(QWidget& widget, const Tool& tool) {
+    const QSignalBlocker quiet(widget);
+    widget.setEnabled(tool.Enabled);
+    widget.setToolTip(tip(tool));
+    widget.setAccessibleName(tip(tool));
+    if (auto* button = qobject_cast<QToolButton*>(&widget)) {
+        button->setText(tool.Caption);
+        button->setChecked(tool.Checked);
+    } else if (auto* label = qobject_cast<QLabel*>(&widget)) {
+        label->setText(tool.Text.isEmpty() ? tool.Caption : tool.Text);
+    } else if (auto* box = qobject_cast<QLineEdit*>(&widget)) {
+        box->setPlaceholderText(tip(tool));
+        if (box->text() != tool.Text)
+            box->setText(tool.Text);
+    } else if (auto* list = qobject_cast<QComboBox*>(&widget)) {
+        syncList(*list, tool);
+    }
+}
+
+void setToolIcon(QWidget& widget, const Tool& tool) {
+    if (auto* button = qobject_cast<QToolButton*>(&widget))
+        button->setIcon(toolIcon(tool.Name, widget.palette(), IconPlace::Row));
+}
+
+} // namespace zkp

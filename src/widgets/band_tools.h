@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/menu_bar.h"
+#include "widgets/band_popup.h"
+
+class QWidget;
+
+namespace zkp {
+
+/// The widgets that stand for tools in a row. Each reports what the user does to the actions, and shows
+/// nothing of its tool until syncToolWidget.
+///
+/// `menuOf` fills the menu of a tool with a subband when it opens.
+QWidget* makeToolWidget(const Tool& tool, const BandActions& actions,
+                        const std::function<void(QMenu&)>& fillMenu, QWidget* parent);
+
+/// Brings a widget in line with its tool, and tells nobody.
+void syncToolWidget(QWidget& widget, const Tool& tool);
+
+/// The icon in the colours of the widget's palette.
+void setToolIcon(QWidget& widget, const Tool& tool);
+
+} // namespace zkp
