@@ -1,9 +1,10 @@
 #include "ui/menu_commands.h"
 
-#include "base/scope_guard.h"
 #include "base/text.h"
 #include "base/texts.h"
-#include "core/keep_alive.h"
+#include "ui/owner_guard.h"
+
+#include <algorithm>
 
 namespace zkp {
 
@@ -86,19 +87,7 @@ struct MenuCommands::Table {
 };
 
 void MenuCommands::connect(MenuBar& menu, const std::weak_ptr<void>& owner) {
-    menu.toolClicked = [this, owner](Tool& tool) {
-        const std::shared_ptr<void> alive = owner.lock();
-        if (!alive || state_.destroyed)
-            return;
-        const ScopeGuard release([&] {
-            if (state_.destroyed)
-                releaseLater(alive); // the bar itself is still at work below
-        });
-        try {
-            clicked(tool);
-        } catch (const ControlDestroyed&) {
-        }
-    };
+    menu.toolClicked = guardedBy(owner, state_, [this](Tool& tool) { clicked(tool); });
 }
 
 /// The menus follow a command that failed too.

@@ -1,9 +1,9 @@
 #include "ui/menu_state.h"
 
 #include "base/number.h"
-#include "base/text.h"
 #include "support/stat_field.h"
-#include "ui/menu_table.h"
+
+#include <algorithm>
 
 namespace zkp {
 
@@ -87,8 +87,8 @@ void MenuState::fillBandField() {
 void MenuState::fillField(Changes& changes) {
     if (!state_.MenusVisible || !dictionary_.isOpen() || statFields().Count() < 1 || column() < 0)
         return;
-    listFields(menu_.Bands(bands::kBar).Tools(u"mnuField"), changes);
-    changes.set(menu_.Bands(bands::kBar).Tools(u"mnuCaption").Text, properties_.ColCaption(column()));
+    listFields(menu_.Tools(u"mnuField"), changes);
+    changes.set(menu_.Tools(u"mnuCaption").Text, properties_.ColCaption(column()));
 }
 
 /// A group factor takes what can be one; a plain column of a totals report what can't; one of a detail
