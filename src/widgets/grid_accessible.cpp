@@ -85,7 +85,7 @@ int GridAccessible::indexOfChild(const QAccessibleInterface* child) const {
 QAccessibleInterface* GridAccessible::cellAt(int row, int column) const {
     if (!has({row, column}))
         return nullptr;
-    const qint64 key = qint64(row) * columnCount() + column;
+    const std::pair key(row, column);
     if (QAccessibleInterface* made = QAccessible::accessibleInterface(cells_.value(key)))
         return made;
     auto* cell = new CellAccessible(view_, {row, column});
@@ -98,16 +98,16 @@ QAccessibleInterface* GridAccessible::cellAt(int row, int column) const {
 /// Not at once: whoever asked holds some of them still.
 void GridAccessible::dropLater() const {
     QMetaObject::invokeMethod(
-        &view_,
-        [view = &view_] {
-            if (auto* grid = dynamic_cast<GridAccessible*>(QAccessible::queryAccessibleInterface(view)))
-                grid->dropCells();
-        },
-        Qt::QueuedConnection);
+        &view_, [view = &view_] { dropCellsOf(*view); }, Qt::QueuedConnection);
+}
+
+void GridAccessible::dropCellsOf(GridView& view) {
+    if (auto* grid = dynamic_cast<GridAccessible*>(QAccessible::queryAccessibleInterface(&view)))
+        grid->dropCells();
 }
 
 void GridAccessible::dropCells() {
-    const QHash<qint64, QAccessible::Id> dropped = std::exchange(cells_, {});
+    const auto dropped = std::exchange(cells_, {});
     for (const QAccessible::Id id : dropped)
         QAccessible::deleteAccessibleInterface(id);
 }

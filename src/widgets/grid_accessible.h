@@ -5,6 +5,8 @@
 #include <QAccessibleWidget>
 #include <QHash>
 
+#include <utility>
+
 namespace zkp {
 
 class GridView;
@@ -23,6 +25,8 @@ public:
     /// Makes views and rows of tools known to screen readers, once for the program.
     static void install();
 
+    /// The report of a view has become another one.
+    static void dropCellsOf(GridView& view);
     int cellsMade() const { return static_cast<int>(cells_.size()); }
 
     int childCount() const override;
@@ -68,7 +72,7 @@ private:
     void dropLater() const;
 
     GridView& view_;
-    mutable QHash<qint64, QAccessible::Id> cells_; // by row × columns + column
+    mutable QHash<std::pair<int, int>, QAccessible::Id> cells_; // by row and column
 };
 
 } // namespace zkp

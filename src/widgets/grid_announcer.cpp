@@ -1,5 +1,6 @@
 #include "widgets/grid_announcer.h"
 
+#include "widgets/grid_accessible.h"
 #include "widgets/grid_view.h"
 #include "widgets/surface_selection.h"
 
@@ -12,9 +13,33 @@ namespace zkp {
 
 namespace {
 
+/// Whether a screen reader is there; the application is told when one comes or goes.
+class Listeners : public QAccessible::ActivationObserver {
+public:
+    Listeners() { QAccessible::installActivationObserver(this); }
+    void accessibilityActiveChanged(bool active) override { any_ = active; }
+    bool any() const { return any_; }
+
+private:
+    bool any_ = QAccessible::isActive();
+};
+
+const Listeners& listeners() {
+    static const auto* const one = new Listeners; // for as long as the program runs, to its very end
+    return *one;
+}
+
+void tell(GridView& view, QAccessibleEvent& event) {
+    if (view.relays.tellReaders)
+        view.relays.tellReaders(event);
+    else
+        QAccessible::updateAccessibility(&event);
+}
+
 void tellReset(GridView& view) {
+    GridAccessible::dropCellsOf(view);
     QAccessibleTableModelChangeEvent event(&view, QAccessibleTableModelChangeEvent::ModelReset);
-    QAccessible::updateAccessibility(&event);
+    tell(view, event);
 }
 
 void tellCell(GridView& view, CellPlace cell, QAccessible::Event type) {
@@ -22,7 +47,7 @@ void tellCell(GridView& view, CellPlace cell, QAccessible::Event type) {
     QAccessibleEvent event(&view, type);
     if (index <= std::numeric_limits<int>::max())
         event.setChild(static_cast<int>(index));
-    QAccessible::updateAccessibility(&event);
+    tell(view, event);
 }
 
 void tellSelection(GridView& view, const CellRange& block) {
@@ -31,14 +56,18 @@ void tellSelection(GridView& view, const CellRange& block) {
         return;
     }
     QAccessibleEvent event(&view, QAccessible::SelectionWithin);
-    QAccessible::updateAccessibility(&event);
+    tell(view, event);
 }
 
 } // namespace
 
+GridAnnouncer::GridAnnouncer() {
+    listeners();
+}
+
 void GridAnnouncer::announce(GridView& view) {
     const GridSurface* surface = view.surface();
-    if (!surface || !QAccessible::isActive())
+    if (!surface || !listeners().any())
         return;
     const Seen now{
         surface->Rows(), surface->Cols(), {surface->Row(), surface->Col()}, selectedBlock(*surface)};
@@ -59,7 +88,7 @@ void GridAnnouncer::announce(GridView& view) {
 }
 
 void GridAnnouncer::announceNothing(GridView& view) {
-    if (QAccessible::isActive())
+    if (listeners().any())
         tellReset(view);
 }
 

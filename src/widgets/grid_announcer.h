@@ -13,6 +13,7 @@ class GridView;
 /// current cell, another selection. Costs a comparison; nothing when nobody listens.
 class GridAnnouncer {
 public:
+    GridAnnouncer();
     /// A load has put other rows in place, perhaps just as many.
     void reloaded() { reloaded_ = true; }
     /// The view has got the focus: its current cell is said again.

@@ -1,12 +1,18 @@
 #include "widgets/zkp_grid_widget.h"
 
+#include "base/text.h"
+#include "base/texts.h"
 #include "support/utility.h"
 #include "widgets/band_bar.h"
 #include "widgets/grid_view.h"
 #include "widgets/qt_host.h"
 
 #include <QApplication>
+#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QResizeEvent>
+
+#include <algorithm>
 
 namespace zkp {
 
@@ -37,12 +43,12 @@ void ZkpGridWidget::make(std::shared_ptr<Host> host) {
     grid_ = new ZkpGrid(std::move(host), this);
     band_ = new BandBar(grid_->Picture1(), kBand, this);
     view_ = new GridView(grid_->MSFlexGrid1(), this);
-    setFocusProxy(view_);
-    setTabOrder(band_, view_);
     relayKeys();
     connect(view_, &GridView::surfaceChanged, this, &ZkpGridWidget::applyPlaces);
     connect(view_, &GridView::reported, this, &ZkpGridWidget::showPointer);
     connect(band_, &BandBar::barChanged, this, &ZkpGridWidget::applyPlaces);
+    connect(band_, &BandBar::left, view_, [view = view_] { view->setFocus(Qt::OtherFocusReason); });
+    connect(&grid_->events(), &Events::StopFillIng, view_, &GridView::reloaded);
     connect(qApp, &QApplication::focusChanged, this, &ZkpGridWidget::onFocusChanged);
     connect(grid_, &QObject::destroyed, this, [this] { // by a host that takes the control away
         if (view_)
@@ -58,8 +64,12 @@ void ZkpGridWidget::relayKeys() {
         return grid_ ? grid_->UserControl_KeyDown(code, shift) : code;
     };
     view_->relays.keyPress = [this](int ascii) { return grid_ ? grid_->UserControl_KeyPress(ascii) : ascii; };
+    view_->relays.mayDrag = [this](int col) { // the control notes the heading that it lets go
+        return grid_ && grid_->MSFlexGrid1().look().Tag == QString::number(col);
+    };
     view_->relays.failed = [this](const Error& error) { showError(error); };
     band_->failed = [this](const Error& error) { showError(error); };
+    band_->keyboardPlace = [view = view_] { return view ? view->menuPlace() : std::nullopt; };
 }
 
 GridView& ZkpGridWidget::view() {
@@ -81,6 +91,13 @@ QSize ZkpGridWidget::minimumSizeHint() const {
 void ZkpGridWidget::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     layOut();
+}
+
+/// No focus proxy, with which the Tab key would pass the tools by.
+void ZkpGridWidget::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    if (view_)
+        view_->setFocus(event->reason());
 }
 
 void ZkpGridWidget::showEvent(QShowEvent* event) {
@@ -125,6 +142,59 @@ void ZkpGridWidget::applyPlaces() {
     band_->sync();
     band_->setGeometry(0, 0, width(), band_->sizeHint().height());
     band_->setVisible(grid_->Picture1().Visible);
+    orderTabs();
+    nameForReaders();
+}
+
+/// Each assignment is told to screen readers.
+void ZkpGridWidget::nameForReaders() {
+    const auto name = [](QWidget& widget, const QString& text) {
+        if (widget.accessibleName() != text)
+            widget.setAccessibleName(text);
+    };
+    const QString title = grid_->PrintCaption();
+    name(*view_, isBlank(title) ? texts::spokenReport() : title);
+    name(*band_, texts::spokenTools());
+}
+
+/// From tool to tool and then to the surface, also after the band has made its tools anew.
+void ZkpGridWidget::orderTabs() {
+    QList<QPointer<QWidget>> tools;
+    for (QWidget* tool : band_->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        if ((tool->focusPolicy() & Qt::TabFocus) != 0 && !tool->isWindow())
+            tools += tool;
+    std::stable_sort(tools.begin(), tools.end(),
+                     [](const QWidget* one, const QWidget* other) { return one->x() < other->x(); });
+    if (tools == tabbed_)
+        return;
+    tabbed_ = tools;
+    for (qsizetype i = 0; i + 1 < tools.size(); ++i)
+        setTabOrder(tools[i], tools[i + 1]);
+    if (!tools.isEmpty())
+        setTabOrder(tools.back(), view_);
+}
+
+bool ZkpGridWidget::focusTools() {
+    for (const QPointer<QWidget>& tool : tabbed_)
+        if (tool && tool->isVisible() && tool->isEnabled()) {
+            tool->setFocus(Qt::TabFocusReason);
+            return true;
+        }
+    return false;
+}
+
+/// What neither the surface nor a tool had a use for: F6 goes from one to the other, Escape back.
+void ZkpGridWidget::keyPressEvent(QKeyEvent* event) {
+    event->ignore();
+    const QWidget* focus = focusWidget();
+    const bool inTools = focus && band_ && band_->isAncestorOf(focus);
+    const int key = event->key();
+    if (!view_ || (key != Qt::Key_F6 && !(inTools && key == Qt::Key_Escape)))
+        return;
+    if (inTools)
+        view_->setFocus(Qt::TabFocusReason);
+    if (inTools || focusTools())
+        event->accept();
 }
 
 void ZkpGridWidget::showPointer() {

@@ -37,6 +37,8 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
@@ -44,6 +46,9 @@ private:
     void relayKeys();
     void layOut();
     void applyPlaces();
+    void nameForReaders();
+    void orderTabs();
+    bool focusTools();
     void showPointer();
     void onFocusChanged(QWidget* old, QWidget* now);
     void showError(const Error& error);
@@ -53,6 +58,7 @@ private:
     QPointer<ZkpGrid> grid_;
     QPointer<GridView> view_;
     QPointer<BandBar> band_;
+    QList<QPointer<QWidget>> tabbed_; // the tools, as the Tab key goes through them
 };
 
 } // namespace zkp
