@@ -126,6 +126,10 @@ void GridSurface::setText(const QString& text) {
     const CellRange block = d->filledBlock();
     d->checkRow(block.bottom);
     d->checkCol(block.right);
+    if (text.isEmpty() && d->blankColumns(block)) {
+        d->changed();
+        return;
+    }
     for (int row = block.top; row <= block.bottom; ++row)
         for (int col = block.left; col <= block.right; ++col)
             d->writeText(row, col, text);

@@ -10,6 +10,7 @@
 #include "platform/surface_cursor.h"
 
 #include <span>
+#include <tuple>
 #include <unordered_set>
 
 namespace zkp {
@@ -90,6 +91,14 @@ struct GridSurface::Data {
     SortKeys sortKeys(int code, RowIds ids, int col) const;
     std::vector<int> customOrder(const CellRange& block);
     void writeText(int row, int col, const QString& text);
+    /// Empties whole columns of the body without a write for each cell; false when the block is none.
+    bool blankColumns(const CellRange& block);
+    struct FixedCells {
+        std::vector<std::tuple<RowId, ColumnId, QString>> texts;
+        std::vector<std::pair<RowId, std::uint16_t>> layouts;
+    };
+    FixedCells fixedCells(const std::vector<ColumnId>& of) const;
+    void unbindColumns(const std::vector<ColumnId>& gone);
     void applyPiece(const StylePiece& piece, const StylePatch& patch);
     CellRange filledBlock() const;
 

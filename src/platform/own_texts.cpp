@@ -30,7 +30,6 @@ void OwnTexts::clearRows(const RowRun& run) {
 
 void OwnTexts::dropColumn(ColumnId column) {
     refs_.dropColumn(column, [this](TextRef ref) { arena_.release(ref); });
-    compactWhenWasteful();
 }
 
 void OwnTexts::clear() {
@@ -38,8 +37,9 @@ void OwnTexts::clear() {
     arena_ = {};
 }
 
-/// Texts that grow leave their old place unused; once more than half lies unused, the rest moves
-/// together. Each byte is thus moved about once for every byte that was wasted.
+/// Texts that grow leave their old place unused, and so do columns that go: those wait for the next write,
+/// so that deleting one stays quick. Once more than half lies unused, the rest moves together. Each byte is
+/// thus moved about once for every byte that was wasted.
 void OwnTexts::compactWhenWasteful() {
     constexpr std::size_t kNotWorthIt = 1u << 20;
     if (arena_.deadBytes() < arena_.liveBytes() + kNotWorthIt)

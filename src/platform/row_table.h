@@ -54,6 +54,17 @@ public:
     }
     /// Record, layout and tag of all rows back to none; heights stay.
     void unbindAll();
+    /// Every bound row takes the layout that `f(layout)` gives for its own.
+    template <class F>
+    void changeLayouts(F f) {
+        for (const std::unique_ptr<Page>& page : pages_) {
+            if (!page)
+                continue;
+            for (RowRecord& row : *page)
+                if (row.layout != 0)
+                    row.layout = f(row.layout);
+        }
+    }
     /// All heights back to the default.
     void resetHeights();
 

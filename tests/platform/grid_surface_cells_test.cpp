@@ -97,6 +97,54 @@ TEST(SurfaceCells, AWrittenTextWinsOverTheRecordAnEmptyOneToo) {
     EXPECT_EQ(surface.TextMatrix(1, 1), u("0,00"));
 }
 
+TEST(SurfaceCells, AWholeColumnIsBlankedBelowItsHeading) {
+    GridSurface surface;
+    bindSample(surface, 3);
+    surface.setTextMatrix(0, 0, u("heading"));
+    surface.setTextMatrix(2, 0, u("mine"));
+    surface.setTextMatrix(3, 1, u("other"));
+    surface.setFillStyle(1);
+    surface.Select(1, 0, 3, 0);
+    surface.setText({});
+    EXPECT_EQ(surface.TextMatrix(0, 0), u("heading"));
+    for (int row = 1; row <= 3; ++row)
+        EXPECT_EQ(surface.TextMatrix(row, 0), QString());
+    EXPECT_FALSE(surface.IsRowBlank(1)) << "the other column";
+    EXPECT_EQ(surface.TextMatrix(1, 1), u("0,00"));
+    EXPECT_EQ(surface.TextMatrix(3, 1), u("other"));
+    surface.Select(3, 1, 1, 0);
+    surface.setText({});
+    EXPECT_TRUE(surface.IsRowBlank(1));
+    EXPECT_TRUE(surface.IsRowBlank(3));
+    surface.setTextMatrix(2, 0, u("again"));
+    EXPECT_EQ(surface.TextMatrix(2, 0), u("again"));
+    EXPECT_EQ(surface.inconsistency(), QString());
+}
+
+TEST(SurfaceCells, RowsBoundAfterABlankingShowTheirRecords) {
+    GridSurface surface;
+    const auto layout = bindSample(surface, 3);
+    surface.bindRow(0, layout, 2, 0); // a heading that shows a record
+    surface.setFillStyle(1);
+    surface.Select(1, 0, 3, 0);
+    surface.setText({});
+    EXPECT_EQ(surface.TextMatrix(0, 0), u("a2"));
+    surface.bindRow(2, layout, 1, 1);
+    EXPECT_EQ(surface.TextMatrix(2, 0), u("a1"));
+    EXPECT_EQ(surface.TextMatrix(1, 0), QString());
+}
+
+TEST(SurfaceCells, AColumnMovesAfterItsBlankingAsBefore) {
+    GridSurface surface;
+    bindSample(surface, 3);
+    surface.setFillStyle(1);
+    surface.Select(1, 0, 3, 0);
+    surface.setText({});
+    surface.setColPosition(0, 1);
+    EXPECT_EQ(surface.TextMatrix(1, 0), u("0,00"));
+    EXPECT_EQ(surface.TextMatrix(1, 1), QString());
+}
+
 TEST(SurfaceCells, BindingARowAgainTakesItsTextsAway) {
     GridSurface surface;
     const auto layout = bindSample(surface, 3);

@@ -57,6 +57,18 @@ TEST(SurfaceCost, AFontForTheWholeBodyIsOneWrite) {
     EXPECT_EQ(surface.takeCosts().styleWrites, 2) << "one for each row";
 }
 
+TEST(SurfaceCost, BlankingAColumnWritesNoCell) {
+    GridSurface surface;
+    loadMillion(surface);
+    surface.setFillStyle(1);
+    surface.Select(1, 3, kMillion, 3);
+    surface.takeCosts();
+    surface.setText({});
+    EXPECT_EQ(surface.takeCosts().rowsTouched, 0);
+    EXPECT_EQ(surface.TextMatrix(kMillion, 3), QString());
+    EXPECT_EQ(surface.TextMatrix(kMillion, 4), u("r999"));
+}
+
 TEST(SurfaceCost, APaintMakesTheTextsOfItsRows) {
     GridSurface surface;
     loadMillion(surface);

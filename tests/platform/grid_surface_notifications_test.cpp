@@ -245,6 +245,29 @@ TEST(SurfaceNotifications, AResizedColumnHasItsWidthWhenItIsTold) {
     EXPECT_EQ(errorNumber([&] { h.surface.userResizeColumn(3, 700); }), kErrInvalidColumn);
 }
 
+TEST(SurfaceNotifications, AllColumnsThatShowCanBeResizedAtOnce) {
+    Heard h;
+    h.surface.setColHidden(1, true);
+    h.surface.setColWidth(1, 0);
+    h.surface.notifications.columnResized = [&](int col) { h.said += QString::number(col); };
+    h.surface.userResizeColumn(-1, 700);
+    EXPECT_EQ(h.take(), u("-1"));
+    EXPECT_EQ(h.surface.ColWidth(0), 700);
+    EXPECT_EQ(h.surface.ColWidth(1), 0);
+    EXPECT_EQ(h.surface.ColWidth(2), 700);
+}
+
+TEST(SurfaceNotifications, ADropOutsideTheColumnsIsNothing) {
+    Heard h;
+    h.surface.notifications.headingDropped = [&](int, int) {
+        h.said += u("asked");
+        return true;
+    };
+    h.surface.userDrop(0, 3);
+    h.surface.userDrop(-1, 0);
+    EXPECT_EQ(h.take(), QString());
+}
+
 TEST(SurfaceNotifications, ADropIsAskedForFirst) {
     Heard h;
     h.surface.setTextMatrix(0, 0, u("a"));

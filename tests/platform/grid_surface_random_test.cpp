@@ -206,9 +206,21 @@ private:
         surface_.setColPosition(from, to);
         model_.moveColumn(from, to);
     }
+    void writeBlock() {
+        const CellRange block = anyBlock();
+        const QString text = below(2) == 0 ? QString() : anyText();
+        surface_.Select(block.top, block.left, block.bottom, block.right);
+        surface_.setFillStyle(1);
+        surface_.setText(text);
+        for (int row = block.top; row <= block.bottom; ++row)
+            for (int col = block.left; col <= block.right; ++col)
+                model_.write(row, col, text);
+    }
     void writeText() {
         if (model_.rows() == 0)
             return;
+        if (below(8) == 0)
+            return writeBlock();
         const int row = anyRow();
         const int col = anyCol();
         const QString text = anyText();
