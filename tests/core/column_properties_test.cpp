@@ -5,6 +5,28 @@ using namespace zkp;
 
 using ColumnPropertiesTest = GridTest;
 
+TEST(ColumnList, AnItemMovesAmongTheOthersAsTheSameRecord) {
+    ColumnList list;
+    for (const QString& caption : {u"a"_s, u"b"_s, u"c"_s, u"d"_s})
+        list.Add().Caption = caption;
+    const Column* moved = &list.Item(2);
+    const auto order = [&] {
+        QString captions;
+        for (int number = 1; number <= list.Count(); ++number)
+            captions += list.Item(number).Caption;
+        return captions;
+    };
+    list.Move(2, 4);
+    EXPECT_EQ(order(), u"acdb"_s);
+    list.Move(4, 1);
+    EXPECT_EQ(order(), u"bacd"_s);
+    list.Move(1, 1);
+    EXPECT_EQ(order(), u"bacd"_s);
+    EXPECT_EQ(&list.Item(1), moved);
+    EXPECT_EQ(errorNumberOf([&] { list.Move(1, 5); }), kErrSubscript);
+    EXPECT_EQ(errorNumberOf([&] { list.Move(0, 1); }), kErrSubscript);
+}
+
 TEST_F(ColumnPropertiesTest, ANewControlHasTwoDefaultColumns) {
     ASSERT_EQ(grid->Cols(), 2);
     ASSERT_EQ(grid->Columns().Count(), 2);

@@ -177,6 +177,8 @@ TEST_F(DictionaryLoadTest, AnEmptyTotalsReportOffersTheLossRatioColumns) {
         EXPECT_EQ(statFields().Item(i + 3).Caption, ratios[i].second);
         EXPECT_EQ(statFields().Item(i + 3).Width, Currency::fromWhole(1050));
         EXPECT_EQ(statFields().Item(i + 3).Align, 7);
+        EXPECT_TRUE(statFields().Item(i + 3).IsTot);
+        EXPECT_FALSE(statFields().Item(i + 3).IsGroup);
     }
     EXPECT_EQ(host->pointer(), kPointerHourglass); // a totals report leaves the pointer
     grid->setTotalForm(false);
