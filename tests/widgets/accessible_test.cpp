@@ -4,6 +4,7 @@
 #include "widgets/band_bar.h"
 #include "widgets/grid_accessible.h"
 #include "widgets/grid_view.h"
+#include "widgets/spoken_cell.h"
 #include "widgets/zkp_grid_widget.h"
 
 #include <QAccessible>
@@ -118,6 +119,29 @@ TEST_F(Accessible, ACellSaysItsKindItsCaptionAndItsText) {
     EXPECT_EQ(said(4, 0), u"Ομάδα, Κατάστημα: Βόλος"_s);
     EXPECT_EQ(said(6, 2), u"Σύνολο, Ασφάλιστρα: 1.249,50"_s);
     EXPECT_EQ(cell(3, 2)->text(QAccessible::Value), u"1.244,50"_s);
+}
+
+TEST(SpokenCell, WithoutACaptionThereIsTheTextAlone) {
+    GridSurface surface;
+    surface.setRows(3);
+    surface.setTextMatrix(1, 0, u"α"_s);
+    EXPECT_EQ(spokenCell(surface, 1, 0), u"α"_s);
+    EXPECT_EQ(spokenCell(surface, 1, 1), u"κενό"_s);
+    EXPECT_EQ(spokenCell(surface, 0, 0), u"Επικεφαλίδα, κενό"_s);
+    surface.setFixedRows(0);
+    surface.setTextMatrix(0, 0, u"β"_s);
+    EXPECT_EQ(spokenCell(surface, 1, 0), u"α"_s) << "the first row is no heading now";
+}
+
+TEST(SpokenCell, OnlyAColumnThatMergesHoldsGroups) {
+    GridSurface surface;
+    surface.setMergeCol(0, true);
+    EXPECT_EQ(cellKind(surface, 1, 0), CellKind::Detail) << "while nothing merges";
+    surface.setMergeCells(1);
+    EXPECT_EQ(cellKind(surface, 1, 0), CellKind::Group);
+    EXPECT_EQ(cellKind(surface, 1, 1), CellKind::Detail);
+    surface.setRowData(1, 9);
+    EXPECT_EQ(cellKind(surface, 1, 0), CellKind::Subtotal) << "a sum is a sum in all its cells";
 }
 
 TEST_F(Accessible, RowsAndColumnsAreDescribed) {

@@ -311,6 +311,39 @@ TEST(Keyboard, EscapeAndF6LeadBackFromATool) {
     }
 }
 
+TEST(Keyboard, ArrowsGoFromToolToToolAndSpacePressesOne) {
+    Form form;
+    QString clicked;
+    form.widget->grid().Picture1().toolClicked = [&](Tool& tool) { clicked = tool.Name; };
+    auto* refresh = form.widget->band().findChild<QToolButton*>(u"mnuRefresh"_s);
+    ASSERT_NE(refresh, nullptr);
+    refresh->setFocus();
+    QTest::keyClick(refresh, Qt::Key_Space);
+    EXPECT_EQ(clicked, u"mnuRefresh"_s);
+    refresh->setFocus();
+    QTest::keyClick(refresh, Qt::Key_Right);
+    QWidget* next = form.form.focusWidget();
+    EXPECT_TRUE(form.isInTools(next));
+    EXPECT_GT(next->x(), refresh->x());
+    QTest::keyClick(next, Qt::Key_Left);
+    EXPECT_EQ(form.form.focusWidget(), refresh);
+}
+
+TEST(Keyboard, EnterAndEscapeInAListOrTextLeadBackToTheReport) {
+    for (const QString& name : {u"mnuField"_s, u"mnuCaption"_s})
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+            SCOPED_TRACE(name.toStdString());
+            Form form;
+            auto* tool = form.widget->band().findChild<QWidget*>(name);
+            ASSERT_NE(tool, nullptr);
+            tool->setEnabled(true);
+            tool->setFocus();
+            ASSERT_EQ(form.form.focusWidget(), tool);
+            QTest::keyClick(tool, key);
+            EXPECT_EQ(form.form.focusWidget(), &form.view());
+        }
+}
+
 TEST(Keyboard, WithoutAToolF6IsTheForms) {
     Form form;
     form.widget->grid().setChoicesVisible(false);
