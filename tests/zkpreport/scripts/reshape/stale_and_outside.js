@@ -105,6 +105,18 @@ check("dictionary dropped: no box", boxesOf(1, function () {
 }), []);
 check("dictionary dropped: list", tool(grid, "mnuField").ListCount, 5);
 
+// A dictionary that was never there, or lacks its columns, asked for by the first click: a box.
+cn.Execute("CREATE TABLE ODD (visbl INTEGER, cptn TEXT)");
+cn.Execute("INSERT INTO ODD VALUES (1, 'α')");
+["GONE", "ODD"].forEach(function (name) {
+    var grid = gridOf(["AGENT", "PREMIUM"]);
+    grid.clmns = name;
+    check("first click, " + name, boxesOf(1, function () {
+        grid.MSFlexGrid1.userClick(1, 1);
+    }).length, 1);
+    agrees("first click, " + name, grid);
+});
+
 // Columns taken away from under the current one.
 grid = loaded(["AGENT", "PREMIUM", "NOTE"]);
 grid.MSFlexGrid1.userSelect(1, 2);
