@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/error.h"
+#include "core/report_state.h"
 #include "platform/scripted_host.h"
 #include "print_qt.h"
 #include "zkp_grid.h"
@@ -30,6 +31,7 @@ inline std::uint32_t errorNumberOf(const std::function<void()>& call) {
 class GridTest : public testing::Test {
 protected:
     GridTest() {
+        zkp::ReportState::LastClickedCol = 0; // which other controls of the process have left behind
         grid->setLocale(QLocale(QStringLiteral("el_GR")));
         QObject::connect(&grid->events(), &zkp::Events::PropertyChanged,
                          [this](zkp::PropertyArgs& e) { changed << e.name; });

@@ -72,8 +72,8 @@ struct ReportState {
     double Height = 0;
     int MousePointer = 0;
 
-    int LastClickedCol = 0;
-    bool MenusLocked = false;      ///< tools stay as they are, and no heading is dragged
+    inline static int LastClickedCol = 0; ///< one number for all controls of the process, as wanted
+    bool MenusLocked = false;             ///< tools stay as they are, and no heading is dragged
     bool ExportRunning = false;    ///< selection handlers and drops wait while a spreadsheet is written
     std::vector<short> FieldIndex; ///< position in the list of `mnuField` to index in the dictionary
     bool destroyed = false;        ///< the control is gone; whoever still runs unwinds

@@ -74,4 +74,11 @@ check("its heading", rowOf(grid, 0), ["AGENT", "PREMIUM", "Σχόλια"]);
 grid.Picture1.changeText("mnuCaption", "");
 check("an empty caption", [grid.ColCaption(2), grid.MSFlexGrid1.TextMatrix(0, 2)], ["", ""]);
 
+// That column is one number for all controls, as wanted.
+var other = loaded(["AGENT", "PREMIUM", "NOTE"]);
+press(other, 1, 1);
+grid.Picture1.changeText("mnuCaption", "Ποσό");
+check("renamed by a press in another control", [grid.ColCaption(1), grid.ColCaption(2)], ["Ποσό", ""]);
+check("the other control's own stays", other.ColCaption(1), "PREMIUM");
+
 finish();
