@@ -1,31 +1,41 @@
 #include "widgets/band_bar.h"
 
-#include "widgets/band_popup.h"
+#include "base/dialog_texts.h"
+#include "base/text.h"
+#include "widgets/band_tools.h"
+#include "widgets/row_plan.h"
 
-#include <QComboBox>
 #include <QCursor>
-#include <QFrame>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
-#include <QSignalBlocker>
 #include <QToolButton>
 
-#include <utility>
+#include <algorithm>
 
 namespace zkp {
 
 namespace {
 
-constexpr int kHeight = 26; // pixels: one row of small tools
-constexpr int kMargin = 2;
-constexpr int kListWidth = 160;
+// Pixels.
+constexpr int kHeight = 28; // one row of small tools
+constexpr int kMargin = 3;
+constexpr int kGap = 1;
+constexpr int kSeparator = 7;
+constexpr int kLeastInput = 72; // a list or text that has to do with little
+constexpr int kWishedInput = 180;
+constexpr int kMore = 22;
 
-QString tip(const Tool& tool) {
-    QString text = tool.Caption;
-    return text.remove(u'&');
+RowItem itemOf(const Tool& tool, const QWidget& widget) {
+    switch (tool.kind) {
+    case ToolKind::Separator:
+        return {kSeparator, kSeparator, true, true};
+    case ToolKind::List:
+    case ToolKind::Text:
+        return {kLeastInput, kWishedInput};
+    default:
+        return {widget.sizeHint().width(), widget.sizeHint().width()};
+    }
 }
 
 } // namespace
@@ -34,9 +44,17 @@ BandBar::BandBar(MenuBar& bar, const QString& band, QWidget* parent)
     : QWidget(parent)
     , bar_(&bar)
     , band_(band)
-    , row_(new QHBoxLayout(this)) {
-    row_->setContentsMargins(kMargin, 1, 2 * kMargin, 2);
-    row_->setSpacing(kMargin);
+    , more_(new QToolButton(this)) {
+    more_->setObjectName(QStringLiteral("more"));
+    more_->setText(QStringLiteral("»"));
+    more_->setToolTip(texts::moreTools());
+    more_->setAccessibleName(texts::moreTools());
+    more_->setAutoRaise(true);
+    more_->setFocusPolicy(Qt::TabFocus);
+    more_->setPopupMode(QToolButton::InstantPopup);
+    more_->setMenu(new QMenu(more_));
+    more_->installEventFilter(this);
+    connect(more_->menu(), &QMenu::aboutToShow, this, [this] { fillMore(); });
     bar.changed = [this] {
         sync();
         Q_EMIT barChanged();
@@ -59,13 +77,13 @@ void BandBar::detach() {
 }
 
 QSize BandBar::sizeHint() const {
-    return {320, kHeight};
+    return {320, std::max(kHeight, fontMetrics().height() + 4 * kMargin)};
 }
 
 const Band* BandBar::band() const {
     if (bar_)
         for (const auto& band : bar_->bands())
-            if (band->Name.compare(band_, Qt::CaseInsensitive) == 0)
+            if (sameName(band->Name, band_))
                 return band.get();
     return nullptr;
 }
@@ -74,106 +92,103 @@ void BandBar::sync() {
     const Band* shown = band();
     if (!shown || syncing_)
         return;
-    QStringList names;
-    for (const auto& tool : shown->tools)
-        names += tool->Name + QChar(u'/') + QString::number(static_cast<int>(tool->kind));
     syncing_ = true;
-    if (names != built_) {
-        built_ = names;
+    ToolList built;
+    for (const Item& item : row_)
+        built.push_back(item.tool);
+    ToolList wanted;
+    for (const bool labels : {false, true})
+        for (const auto& tool : shown->tools)
+            if ((tool->kind == ToolKind::Label) == labels)
+                wanted.push_back(tool);
+    for (const Item& item : labels_)
+        built.push_back(item.tool);
+    if (built != wanted)
         rebuild(*shown);
-    }
-    for (const auto& [name, widget] : widgets_)
-        syncWidget(*widget, shown->Tools(name));
+    for (const auto* items : {&row_, &labels_})
+        for (const Item& item : *items)
+            syncToolWidget(*item.widget, *item.tool);
+    place();
     syncing_ = false;
 }
 
 /// Labels stand at the end of the row whatever their place in the band: there the count is looked for.
 void BandBar::rebuild(const Band& band) {
-    for (const auto& [name, widget] : widgets_) {
-        widget->hide();
-        widget->deleteLater(); // it may be the one that the user is clicking
-    }
-    widgets_.clear();
-    while (QLayoutItem* item = row_->takeAt(0))
-        delete item;
-    const auto add = [&](bool labels) {
-        for (const auto& tool : band.tools)
-            if ((tool->kind == ToolKind::Label) == labels) {
-                QWidget* widget = makeWidget(*tool);
-                widget->setObjectName(tool->Name);
-                widgets_.emplace_back(tool->Name, widget);
-                row_->addWidget(widget);
-            }
-    };
-    add(false);
-    row_->addStretch(1);
-    add(true);
-}
-
-QWidget* BandBar::makeWidget(const Tool& tool) {
-    const QString name = tool.Name;
-    switch (tool.kind) {
-    case ToolKind::List: {
-        auto* list = new QComboBox(this);
-        list->setMinimumWidth(kListWidth);
-        connect(list, &QComboBox::activated, this,
-                [this, name](int index) { report([&](MenuBar& bar) { bar.changeList(name, index); }); });
-        return list;
-    }
-    case ToolKind::Text: {
-        auto* box = new QLineEdit(this);
-        box->setMinimumWidth(kListWidth);
-        connect(box, &QLineEdit::textEdited, this, [this, name](const QString& text) {
-            report([&](MenuBar& bar) { bar.changeText(name, text); });
-        });
-        return box;
-    }
-    case ToolKind::Label:
-        return new QLabel(this);
-    case ToolKind::Separator: {
-        auto* line = new QFrame(this);
-        line->setFrameShape(QFrame::VLine);
-        line->setFrameShadow(QFrame::Sunken);
-        return line;
-    }
-    default:
-        break;
-    }
-    auto* button = new QToolButton(this);
-    button->setAutoRaise(true);
-    button->setFocusPolicy(Qt::TabFocus);
-    button->setCheckable(tool.kind == ToolKind::Check);
-    const bool opens = tool.kind == ToolKind::SubMenu;
-    connect(button, &QToolButton::clicked, this, [this, name, opens, sub = tool.subBand] {
-        report([&](MenuBar& bar) { opens ? bar.popup(sub) : bar.click(name); });
-    });
-    return button;
-}
-
-void BandBar::syncWidget(QWidget& widget, const Tool& tool) {
-    const QSignalBlocker quiet(widget);
-    widget.setVisible(tool.Visible && bar_->isHeard(tool));
-    widget.setEnabled(tool.Enabled);
-    widget.setToolTip(tip(tool));
-    widget.setAccessibleName(tip(tool));
-    if (auto* button = qobject_cast<QToolButton*>(&widget)) {
-        button->setText(tool.Caption);
-        button->setChecked(tool.Checked);
-    } else if (auto* label = qobject_cast<QLabel*>(&widget)) {
-        label->setText(tool.Text.isEmpty() ? tool.Caption : tool.Text);
-    } else if (auto* box = qobject_cast<QLineEdit*>(&widget)) {
-        if (box->text() != tool.Text)
-            box->setText(tool.Text);
-    } else if (auto* list = qobject_cast<QComboBox*>(&widget)) {
-        QStringList entries;
-        for (int i = 0; i < list->count(); ++i)
-            entries += list->itemText(i);
-        if (entries != tool.list) {
-            list->clear();
-            list->addItems(tool.list);
+    for (auto* items : {&row_, &labels_}) {
+        for (const Item& item : *items) {
+            item.widget->hide();
+            item.widget->setObjectName({});
+            item.widget->deleteLater(); // it may be the one that the user is clicking
         }
-        list->setCurrentIndex(tool.ListIndex);
+        items->clear();
     }
+    for (const auto& tool : band.tools) {
+        const auto fillMenu = [this, sub = tool->subBand](QMenu& menu) {
+            menu.clear();
+            if (bar_)
+                fillBandMenu(menu, *bar_, toolsOfBand(*bar_, sub), actions());
+        };
+        QWidget* widget = makeToolWidget(*tool, actions(), fillMenu, this);
+        widget->setObjectName(tool->Name);
+        widget->installEventFilter(this);
+        setToolIcon(*widget, *tool, palette());
+        (tool->kind == ToolKind::Label ? labels_ : row_).push_back({tool, widget});
+        if (row_.size() > 1 && tool->kind != ToolKind::Label)
+            setTabOrder(row_[row_.size() - 2].widget, widget);
+    }
+}
+
+bool BandBar::isShown(const Item& item) const {
+    return item.tool->Visible && bar_ && bar_->isHeard(*item.tool);
+}
+
+int BandBar::placeLabels(int right) {
+    for (auto item = labels_.rbegin(); item != labels_.rend(); ++item) {
+        const int width = isShown(*item) ? item->widget->sizeHint().width() : 0;
+        item->widget->setVisible(width > 0);
+        item->widget->setGeometry(right - width, 0, width, height() - 1);
+        right -= width > 0 ? width + 2 * kMargin : 0;
+    }
+    return right;
+}
+
+void BandBar::place() {
+    const int right = placeLabels(width() - 2 * kMargin);
+    std::vector<RowItem> items;
+    for (const Item& item : row_) {
+        items.push_back(itemOf(*item.tool, *item.widget));
+        items.back().isShown = isShown(item);
+    }
+    const RowPlan plan = planRow(items, right - kMargin, kGap, kMore);
+    overflow_.clear();
+    int x = kMargin;
+    for (std::size_t i = 0; i < row_.size(); ++i) {
+        const int width = plan.widths[i];
+        row_[i].widget->setGeometry(x, kMargin - 1, width, height() - 2 * kMargin);
+        row_[i].widget->setVisible(width > 0);
+        if (width > 0)
+            x += width + kGap;
+        else if (items[i].isShown)
+            overflow_.push_back(row_[i].tool);
+    }
+    more_->setGeometry(x, kMargin - 1, kMore, height() - 2 * kMargin);
+    more_->setVisible(plan.overflows);
+}
+
+void BandBar::fillMore() {
+    more_->menu()->clear();
+    if (bar_)
+        fillBandMenu(*more_->menu(), *bar_, overflow_, actions());
+}
+
+BandActions BandBar::actions() {
+    return {[this](const QString& tool) { report([&](MenuBar& bar) { bar.click(tool); }); },
+            [this](const QString& tool, int index) {
+                report([&](MenuBar& bar) { bar.changeList(tool, index); });
+            },
+            [this](const QString& tool, const QString& text) {
+                report([&](MenuBar& bar) { bar.changeText(tool, text); });
+            }};
 }
 
 template <class F>
@@ -195,17 +210,44 @@ void BandBar::report(F call) {
 /// Does not wait for the answer: the caller is a notification of the surface.
 void BandBar::popup(const Band& band) {
     delete menu_;
-    BandPopupActions actions;
-    actions.click = [this](const QString& tool) { report([&](MenuBar& bar) { bar.click(tool); }); };
-    actions.changeList = [this](const QString& tool, int index) {
-        report([&](MenuBar& bar) { bar.changeList(tool, index); });
-    };
-    actions.changeText = [this](const QString& tool, const QString& text) {
-        report([&](MenuBar& bar) { bar.changeText(tool, text); });
-    };
-    menu_ = makeBandPopup(*bar_, band, actions, this);
+    menu_ = new QMenu(this);
     menu_->setAttribute(Qt::WA_DeleteOnClose);
-    menu_->popup(QCursor::pos());
+    fillBandMenu(*menu_, *bar_, band.tools, actions());
+    const std::optional<QPoint> place = keyboardPlace ? keyboardPlace() : std::nullopt;
+    menu_->popup(place.value_or(QCursor::pos()));
+    if (place) {
+        QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+        QCoreApplication::sendEvent(menu_, &down); // marks the first entry, and opens no submenu of it
+    }
+}
+
+/// Down opens the menu of a tool; Enter and Escape end typing.
+bool BandBar::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    auto* button = qobject_cast<QToolButton*>(watched);
+    if (button && button->menu() && key == Qt::Key_Down) {
+        button->showMenu();
+        return true;
+    }
+    if (button || (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Escape))
+        return false;
+    Q_EMIT left();
+    return true;
+}
+
+void BandBar::resizeEvent(QResizeEvent*) {
+    place();
+}
+
+void BandBar::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        for (const Item& item : row_)
+            setToolIcon(*item.widget, *item.tool, palette()); // theirs comes after the event
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        place();
 }
 
 void BandBar::paintEvent(QPaintEvent*) {

@@ -56,8 +56,8 @@ QWidget* makeSeparator(QWidget* parent) {
     return line;
 }
 
-QWidget* makeButton(const Tool& tool, const BandActions& actions,
-                    const std::function<void(QMenu&)>& fillMenu, QWidget* parent) {
+QWidget* makeButton(const Tool& tool, const BandActions& actions, const std::function<void(QMenu&)>& fillMenu,
+                    QWidget* parent) {
     auto* button = new QToolButton(parent);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
@@ -129,9 +129,9 @@ void syncToolWidget(QWidget& widget, const Tool& tool) {
     }
 }
 
-void setToolIcon(QWidget& widget, const Tool& tool) {
+void setToolIcon(QWidget& widget, const Tool& tool, const QPalette& palette) {
     if (auto* button = qobject_cast<QToolButton*>(&widget))
-        button->setIcon(toolIcon(tool.Name, widget.palette(), IconPlace::Row));
+        button->setIcon(toolIcon(tool.Name, palette, IconPlace::Row));
 }
 
 } // namespace zkp

@@ -3,6 +3,7 @@
 #include "platform/menu_bar.h"
 #include "widgets/band_popup.h"
 
+class QPalette;
 class QWidget;
 
 namespace zkp {
@@ -10,14 +11,14 @@ namespace zkp {
 /// The widgets that stand for tools in a row. Each reports what the user does to the actions, and shows
 /// nothing of its tool until syncToolWidget.
 ///
-/// `menuOf` fills the menu of a tool with a subband when it opens.
+/// `fillMenu` fills the menu of a tool with a subband each time it opens.
 QWidget* makeToolWidget(const Tool& tool, const BandActions& actions,
                         const std::function<void(QMenu&)>& fillMenu, QWidget* parent);
 
 /// Brings a widget in line with its tool, and tells nobody.
 void syncToolWidget(QWidget& widget, const Tool& tool);
 
-/// The icon in the colours of the widget's palette.
-void setToolIcon(QWidget& widget, const Tool& tool);
+/// The tool's icon in the colours of a palette, for a button.
+void setToolIcon(QWidget& widget, const Tool& tool, const QPalette& palette);
 
 } // namespace zkp

@@ -1,5 +1,7 @@
 #include "widgets/grid_view.h"
 
+#include "widgets/grid_accessible.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QPaintEvent>
@@ -17,28 +19,12 @@ QEvent::Type syncEvent() {
     return type;
 }
 
-constexpr int kMousePointerNoDrop = 12;
-constexpr int kMousePointerHourglass = 11;
-constexpr int kMousePointerCustom = 99;
-
-Qt::CursorShape cursorShape(int pointer) {
-    switch (pointer) {
-    case kMousePointerHourglass:
-        return Qt::WaitCursor;
-    case kMousePointerNoDrop:
-        return Qt::ForbiddenCursor;
-    case kMousePointerCustom:
-        return Qt::DragMoveCursor;
-    default:
-        return Qt::ArrowCursor;
-    }
-}
-
 } // namespace
 
 GridView::GridView(GridSurface& surface, QWidget* parent)
     : QAbstractScrollArea(parent)
     , surface_(&surface) {
+    GridAccessible::install();
     setFocusPolicy(Qt::StrongFocus);
     setFrameShape(QFrame::NoFrame);
     setAttribute(Qt::WA_InputMethodEnabled);
@@ -57,15 +43,20 @@ GridView::GridView(GridSurface& surface, QWidget* parent)
 GridView::~GridView() {
     if (surface_)
         surface_->view = {};
+    surface_ = nullptr; // a screen reader may still ask while the widget ends
 }
 
 void GridView::detach() {
     surface_ = nullptr;
     page_ = {};
-    gesture_.cancel();
+    endGesture();
     selecting_ = false;
-    selectTimer_.stop();
-    viewport()->update();
+    GridAnnouncer::announceNothing(*this);
+}
+
+void GridView::reloaded() {
+    announcer_.reloaded();
+    postSync();
 }
 
 const PageLayout& GridView::page() {
@@ -128,8 +119,10 @@ bool GridView::event(QEvent* event) {
         return true;
     setEnabled(surface_->look().Enabled);
     syncBars();
-    if (report([this](GridSurface& surface) { surface.setVisibleRows(roomForRows_); }))
-        Q_EMIT surfaceChanged();
+    if (!report([this](GridSurface& surface) { surface.setVisibleRows(roomForRows_); }))
+        return true;
+    announcer_.announce(*this);
+    Q_EMIT surfaceChanged();
     return true;
 }
 
@@ -142,11 +135,7 @@ void GridView::paintEvent(QPaintEvent* event) {
     const SurfacePainter::Frame frame{*surface_, page(), palette(), hasFocus()};
     for (const QRect& dirty : event->region())
         painter_.paint(painter, frame, dirty);
-    if (const std::optional<int> mark = gesture_.markX()) {
-        const int height = gesture_.isDragging() ? page_.bodyTop() : page_.bottom();
-        painter.fillRect(*mark - 1, 0, gesture_.isDragging() ? 3 : 1, height,
-                         palette().color(QPalette::Highlight));
-    }
+    paintGesture(painter);
 }
 
 void GridView::resizeEvent(QResizeEvent*) {
@@ -164,6 +153,8 @@ void GridView::changeEvent(QEvent* event) {
 void GridView::focusInEvent(QFocusEvent* event) {
     QAbstractScrollArea::focusInEvent(event);
     viewport()->update();
+    announcer_.focused();
+    postSync(); // after the widget itself has been said
 }
 
 void GridView::focusOutEvent(QFocusEvent* event) {
@@ -225,15 +216,6 @@ QRegion GridView::mergedColumns() const {
             if (surface_->MergeCol(col.index))
                 region += QRect(col.start, 0, col.size, page_.size.height());
     return region;
-}
-
-void GridView::setPointer(int pointer) {
-    pointer_ = cursorShape(pointer);
-    showCursor(viewport()->mapFromGlobal(QCursor::pos()));
-}
-
-void GridView::updateGesture() {
-    viewport()->update();
 }
 
 } // namespace zkp

@@ -3,14 +3,18 @@
 #include "base/error.h"
 #include "platform/grid_surface.h"
 #include "widgets/column_gesture.h"
+#include "widgets/grid_announcer.h"
 #include "widgets/grid_navigation.h"
 #include "widgets/surface_painter.h"
 
 #include <QAbstractScrollArea>
+#include <QAccessible>
 #include <QBasicTimer>
+#include <QPixmap>
 #include <QPointer>
 
 #include <functional>
+#include <optional>
 
 namespace zkp {
 
@@ -29,12 +33,15 @@ public:
     /// The surface is gone; the view shows nothing from now on.
     void detach();
 
-    /// What comes before the surface hears of a key: the code that is left (0 swallows the key); and
-    /// where an error goes that a notification raised.
+    /// What comes before the surface hears of a key: the code that is left (0 swallows the key); whether
+    /// a heading may be dragged (without it: yes); where an error goes that a notification raised; and
+    /// where events for screen readers go (without it: to the system).
     struct Relays {
         std::function<int(int code, int shift)> keyDown;
         std::function<int(int ascii)> keyPress;
+        std::function<bool(int col)> mayDrag; ///< may the heading that was just pressed be dragged?
         std::function<void(const Error&)> failed;
+        std::function<void(QAccessibleEvent&)> tellReaders;
     };
     Relays relays;
 
@@ -43,6 +50,17 @@ public:
     /// Rows and columns on screen, up to date.
     const PageLayout& page();
     const TwipScale& scale() const { return scale_; }
+    /// Nothing after detach().
+    const GridSurface* surface() const { return surface_; }
+
+    // What a user does, for those who do it without mouse and keys. The place must be there.
+    void moveTo(CellPlace cell);
+    void clickCell(CellPlace cell);
+    void selectBlock(const CellRange& block);
+    /// Below the current cell, in global pixels, while the keyboard asks for the menu; else nothing.
+    std::optional<QPoint> menuPlace() const { return menuPlace_; }
+    /// A load has ended, which screen readers are told.
+    void reloaded();
 
 Q_SIGNALS:
     /// The surface changed in any way; comes once for all changes since the last time.
@@ -77,7 +95,6 @@ private:
     void onScrolled();
     void onRowChanged(int row);
     QRegion mergedColumns() const;
-    void updateGesture();
 
     /// False when the view or the surface did not outlive the call.
     template <class F>
@@ -85,26 +102,47 @@ private:
     bool reportChar(int ascii);
     bool reportText(const QString& text);
     bool moveByKey(int code, int shift);
+    bool commandByKey(int code, int shift);
+    void selectAll();
+    void openMenu();
+    void resizeColumnBy(int pixels);
+    void fitCurrentColumn();
+    void moveColumn(int arrow);
+    void followColumn(CellPlace from, CellPlace to, const SurfaceMouse& drop);
     bool showCell(CellPlace cell);
 
     CellPlace cellAt(QPoint at);
     SurfaceMouse mouseAt(QPoint at, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
-    const Span* resizableAt(QPoint at);
     void startSelecting(CellPlace cell, CellPlace anchor, bool extend);
     void extendSelection(QPoint at);
+    void showCursor(QPoint at);
+
+    // Headings.
+    const Span* resizableAt(QPoint at);
+    void pressHeading(int col, QPoint at);
+    void dragHeading(QPoint at);
+    int scrollOfDrag() const;
+    void scrollDrag();
+    bool dropHeading(int from, const SurfaceMouse& mouse);
+    void endGesture();
     void finishResize();
     void fitColumn(int col);
-    void showCursor(QPoint at);
+    QPixmap pictureOfHeading(const Span& col);
+    void paintGesture(QPainter& painter) const;
 
     GridSurface* surface_;
     TwipScale scale_;
     PageLayout page_;
     SurfacePainter painter_;
     ColumnGesture gesture_;
+    QPixmap ghost_; // of the heading that is dragged
+    QPoint dragAt_;
+    GridAnnouncer announcer_;
     CellPlace pressed_{-1, -1};
+    std::optional<QPoint> menuPlace_;
     bool selecting_ = false;
-    QBasicTimer selectTimer_;
-    Qt::CursorShape pointer_ = Qt::ArrowCursor;
+    QBasicTimer scrollTimer_; // while a selection or heading is dragged to the edge
+    int pointer_ = 0;         // MousePointer
     int roomForRows_ = 1;
     bool stale_ = true; // the page no longer says what is on screen
     bool syncPosted_ = false;

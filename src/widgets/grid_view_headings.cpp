@@ -68,7 +68,8 @@ int GridView::scrollOfDrag() const {
 /// The pointer stands still, and another heading comes under it.
 void GridView::scrollDrag() {
     const int step = scrollOfDrag();
-    if (!report([&](GridSurface& surface) { surface.userScroll(surface.TopRow(), surface.LeftCol() + step); }))
+    if (!report(
+            [&](GridSurface& surface) { surface.userScroll(surface.TopRow(), surface.LeftCol() + step); }))
         return;
     const SurfaceMouse mouse = mouseAt(dragAt_, Qt::LeftButton, Qt::NoModifier);
     if (!report([&](GridSurface& surface) { surface.userMove(mouse); }))

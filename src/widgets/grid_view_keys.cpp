@@ -11,11 +11,12 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     int code = keyCode(event->key());
     const int shift = shiftBits(event->modifiers());
     if (code == kKeyEscape && gesture_.isActive()) {
-        gesture_.cancel();
-        updateGesture();
+        endGesture();
         return;
     }
     event->ignore(); // what the surface has no use for is the form's
+    if (!surface_)
+        return;
     if (code != 0 && relays.keyDown) {
         const auto relay = relays.keyDown;
         if (!report([&](GridSurface&) { code = relay(code, shift); }))
@@ -24,7 +25,7 @@ void GridView::keyPressEvent(QKeyEvent* event) {
     if (code != 0 && !report([&](GridSurface& surface) { surface.userKey(code, shift); }))
         return;
     const QPointer<GridView> self(this);
-    if (moveByKey(code, shift))
+    if (commandByKey(code, shift) || (self && surface_ && moveByKey(code, shift)))
         event->accept();
     if (self && surface_ && !reportText(event->text()))
         return;

@@ -31,12 +31,6 @@ SurfaceMouse GridView::mouseAt(QPoint at, Qt::MouseButtons buttons, Qt::Keyboard
             cell.col};
 }
 
-const Span* GridView::resizableAt(QPoint at) {
-    const PageLayout& shown = page();
-    return at.y() >= 0 && at.y() < shown.bodyTop() ? borderAt(shown.cols, at.x(), ColumnGesture::kBorderReach)
-                                                   : nullptr;
-}
-
 void GridView::mousePressEvent(QMouseEvent* event) {
     if (!surface_)
         return;
@@ -44,7 +38,7 @@ void GridView::mousePressEvent(QMouseEvent* event) {
     const bool left = event->button() == Qt::LeftButton;
     if (const Span* border = left ? resizableAt(at) : nullptr) {
         gesture_.pressBorder(*border, at.x());
-        updateGesture();
+        viewport()->update();
         return;
     }
     const SurfaceMouse mouse = mouseAt(at, event->button(), event->modifiers());
@@ -54,7 +48,7 @@ void GridView::mousePressEvent(QMouseEvent* event) {
     if (!report([&](GridSurface& surface) { surface.userPress(mouse); }))
         return;
     if (left && heading && mouse.col >= 0)
-        gesture_.pressHeading(mouse.col, at);
+        pressHeading(mouse.col, at);
     const QPointer<GridView> self(this);
     if (left && !heading && mouse.row >= 0 && mouse.col >= 0)
         startSelecting({mouse.row, mouse.col}, anchor, event->modifiers().testFlag(Qt::ShiftModifier));
@@ -80,17 +74,18 @@ void GridView::mouseMoveEvent(QMouseEvent* event) {
     if (!surface_)
         return;
     const QPoint at = event->position().toPoint();
+    const bool left = event->buttons().testFlag(Qt::LeftButton);
     if (gesture_.isResizing()) {
-        if (gesture_.moveTo(at, page().cols, QApplication::startDragDistance()))
-            updateGesture();
+        dragHeading(at);
         return;
     }
+    if (!left && gesture_.isDragging())
+        endGesture(); // the button was released where nobody heard of it
     const SurfaceMouse mouse = mouseAt(at, event->buttons(), event->modifiers());
     if (!report([&](GridSurface& surface) { surface.userMove(mouse); }))
         return;
-    const bool left = event->buttons().testFlag(Qt::LeftButton);
-    if (left && gesture_.moveTo(at, page().cols, QApplication::startDragDistance()))
-        updateGesture();
+    if (left)
+        dragHeading(at);
     showCursor(at);
     const QPointer<GridView> self(this);
     if (left && selecting_)
@@ -119,10 +114,10 @@ void GridView::extendSelection(QPoint at) {
     else if (to.col < 0)
         to.col = shown.cols.back().index + (behind ? 1 : 0);
     if (above || below || before || behind) {
-        if (!selectTimer_.isActive())
-            selectTimer_.start(kScrollInterval, this);
+        if (!scrollTimer_.isActive())
+            scrollTimer_.start(kScrollInterval, this);
     } else {
-        selectTimer_.stop();
+        scrollTimer_.stop();
     }
     to.row = std::clamp(to.row, surface_->FixedRows(), surface_->Rows() - 1);
     to.col = std::clamp(to.col, std::min(surface_->FixedCols(), surface_->Cols() - 1), surface_->Cols() - 1);
@@ -133,12 +128,16 @@ void GridView::extendSelection(QPoint at) {
 }
 
 void GridView::timerEvent(QTimerEvent* event) {
-    if (event->timerId() != selectTimer_.timerId()) {
+    if (event->timerId() != scrollTimer_.timerId()) {
         QAbstractScrollArea::timerEvent(event);
         return;
     }
+    if (surface_ && gesture_.isDragging()) {
+        scrollDrag();
+        return;
+    }
     if (!surface_ || !selecting_ || !(QApplication::mouseButtons() & Qt::LeftButton)) {
-        selectTimer_.stop();
+        scrollTimer_.stop();
         return;
     }
     extendSelection(viewport()->mapFromGlobal(QCursor::pos()));
@@ -147,7 +146,7 @@ void GridView::timerEvent(QTimerEvent* event) {
 void GridView::mouseReleaseEvent(QMouseEvent* event) {
     if (!surface_)
         return;
-    selectTimer_.stop();
+    scrollTimer_.stop();
     if (gesture_.isResizing()) {
         finishResize();
         return;
@@ -156,36 +155,20 @@ void GridView::mouseReleaseEvent(QMouseEvent* event) {
     const SurfaceMouse mouse = mouseAt(at, event->button(), event->modifiers());
     const ColumnGesture gesture = gesture_;
     const CellPlace pressed = pressed_;
-    gesture_.cancel();
-    updateGesture();
+    endGesture();
     pressed_ = {-1, -1};
     selecting_ = false;
     if (!report([&](GridSurface& surface) { surface.userRelease(mouse); }))
         return;
-    const bool onHeading = mouse.row >= 0 && mouse.row < surface_->FixedRows();
     bool alive = true;
     if (gesture.isDragging()) {
-        const int cols = surface_->Cols(); // fewer, perhaps, than at the press
-        if (onHeading && mouse.col >= 0 && mouse.col < cols && gesture.column() < cols)
-            alive = report([&](GridSurface& surface) { surface.userDrop(gesture.column(), mouse.col); });
+        alive = dropHeading(gesture.column(), mouse);
     } else if (event->button() == Qt::LeftButton && pressed.row >= 0 &&
                pressed == CellPlace{mouse.row, mouse.col}) {
         alive = report([&](GridSurface& surface) { surface.userClick(pressed.row, pressed.col); });
     }
     if (alive)
         Q_EMIT reported();
-}
-
-void GridView::finishResize() {
-    const int col = gesture_.column();
-    const int width = gesture_.width();
-    gesture_.cancel();
-    updateGesture();
-    const Span* span = spanOf(page().cols, col);
-    if (!span || span->size == width)
-        return;
-    report(
-        [&](GridSurface& surface) { surface.userResizeColumn(col, static_cast<int>(scale_.twips(width))); });
 }
 
 void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -204,34 +187,10 @@ void GridView::mouseDoubleClickEvent(QMouseEvent* event) {
         Q_EMIT reported();
 }
 
-/// As wide as the texts that show.
-void GridView::fitColumn(int col) {
-    gesture_.cancel();
-    const SurfacePainter::Frame frame{*surface_, page(), palette(), hasFocus()};
-    const int width = painter_.widestText(frame, *spanOf(page_.cols, col));
-    report(
-        [&](GridSurface& surface) { surface.userResizeColumn(col, static_cast<int>(scale_.twips(width))); });
-}
-
-/// The menu key is a right press on the current cell.
 void GridView::contextMenuEvent(QContextMenuEvent* event) {
     event->accept();
-    if (!surface_ || event->reason() != QContextMenuEvent::Keyboard)
-        return;
-    const QRect cell = page().cellRect(surface_->Row(), surface_->Col());
-    SurfaceMouse mouse = mouseAt(cell.center(), Qt::RightButton, Qt::NoModifier);
-    mouse.row = surface_->Row();
-    mouse.col = surface_->Col();
-    if (report([&](GridSurface& surface) { surface.userPress(mouse); }) &&
-        report([&](GridSurface& surface) { surface.userRelease(mouse); }))
-        Q_EMIT reported();
-}
-
-void GridView::showCursor(QPoint at) {
-    const bool border = surface_ && (gesture_.isResizing() || (!gesture_.isDragging() && resizableAt(at)));
-    const Qt::CursorShape shape = border ? Qt::SplitHCursor : pointer_;
-    if (viewport()->cursor().shape() != shape)
-        viewport()->setCursor(shape);
+    if (surface_ && event->reason() == QContextMenuEvent::Keyboard)
+        openMenu();
 }
 
 } // namespace zkp

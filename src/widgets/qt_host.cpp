@@ -1,14 +1,18 @@
 #include "widgets/qt_host.h"
 
+#include "base/dialog_texts.h"
+#include "widgets/dialog_texts.h"
 #include "widgets/palette_colors.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QColorDialog>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
 #include <QUrl>
@@ -97,6 +101,20 @@ QString dialogFilter(const QString& filter) {
     return entries.join(QStringLiteral(";;"));
 }
 
+/// A choice holds no strikeout: the box that would set it is hidden.
+QFontDialog* makeFontDialog(const QFont& font, QWidget* parent) {
+    auto* dialog = new QFontDialog(font, parent);
+    dialog->setOption(QFontDialog::DontUseNativeDialog);
+    dialog->setWindowTitle(texts::chooseFont());
+    for (auto* box : dialog->findChildren<QCheckBox*>())
+        box->setVisible(box->text() != QFontDialog::tr("Stri&keout"));
+    for (auto* line : dialog->findChildren<QLineEdit*>())
+        if (line->text() == QStringLiteral("AaBbYyZz"))
+            line->setText(texts::fontSampleLetters());
+    translateDialog(*dialog);
+    return dialog;
+}
+
 } // namespace
 
 QtHost::QtHost(QWidget* parent)
@@ -116,6 +134,7 @@ int QtHost::msgBox(const QString& text, int style, const QString& title) {
     const auto buttons = buttonsOf(style);
     for (const auto button : buttons)
         box->addButton(button);
+    translateDialog(*box);
     const qsizetype chosen = std::min<qsizetype>((style & kDefaultBits) >> 8, buttons.size() - 1);
     box->setDefaultButton(buttons[chosen]);
     if (parent_)
@@ -131,6 +150,8 @@ std::optional<QString> QtHost::inputBox(const QString& prompt, const QString& ti
     dialog->setWindowTitle(title);
     dialog->setLabelText(prompt);
     dialog->setTextValue(text);
+    dialog->setOkButtonText(texts::ok());
+    dialog->setCancelButtonText(texts::cancel());
     return run(dialog, parent_, [](QInputDialog& d) { return d.textValue(); });
 }
 
@@ -145,6 +166,9 @@ std::optional<QString> QtHost::saveDialog(const QString& title, const QString& f
 std::optional<std::uint32_t> QtHost::colorDialog(std::uint32_t start) {
     const QColor before = paintedColor(start, parent_ ? parent_->palette() : QApplication::palette());
     auto* dialog = new QColorDialog(before, parent_);
+    dialog->setOption(QColorDialog::DontUseNativeDialog); // which speaks the desktop's language
+    dialog->setWindowTitle(texts::chooseColor());
+    translateDialog(*dialog);
     return run(dialog, parent_, [](QColorDialog& d) { return storedColor(d.selectedColor()); });
 }
 
@@ -155,7 +179,7 @@ std::optional<FontChoice> QtHost::fontDialog(const FontChoice& start) {
     font.setBold(start.FontBold);
     font.setItalic(start.FontItalic);
     font.setUnderline(start.FontUnderline);
-    return run(new QFontDialog(font, parent_), parent_, [](QFontDialog& d) {
+    return run(makeFontDialog(font, parent_), parent_, [](QFontDialog& d) {
         const QFont chosen = d.selectedFont();
         return FontChoice{chosen.family(), chosen.pointSizeF(), chosen.bold(), chosen.italic(),
                           chosen.underline()};

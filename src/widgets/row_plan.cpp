@@ -60,6 +60,7 @@ int used(const std::vector<int>& widths, int gap) {
 
 RowPlan planRow(const std::vector<RowItem>& items, int room, int gap, int more) {
     RowPlan plan;
+    room = std::max(0, room);
     plan.overflows = fill(items, room, gap, plan.widths) < 0;
     if (plan.overflows) {
         room = std::max(0, room - more - gap);

@@ -5,8 +5,12 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
+#include <QFontDialog>
+#include <QGroupBox>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -87,6 +91,76 @@ TEST(QtHostTest, AColourComesBackAsItIsStored) {
         dialog.accept();
     });
     EXPECT_EQ(host.colorDialog(0x030201), 0x302010u);
+}
+
+TEST(QtHostTest, AFontComesBackAsItWasChosen) {
+    QtHost host;
+    whenOpen<QFontDialog>([](QFontDialog& dialog) {
+        EXPECT_EQ(dialog.currentFont().pointSizeF(), 11);
+        EXPECT_TRUE(dialog.currentFont().bold());
+        QFont font(QStringLiteral("DejaVu Sans"), 14);
+        font.setItalic(true);
+        dialog.setCurrentFont(font);
+        dialog.accept();
+    });
+    const auto chosen = host.fontDialog({QStringLiteral("Liberation Sans"), 11, true, false, false});
+    ASSERT_TRUE(chosen);
+    EXPECT_EQ(chosen->FontName, QStringLiteral("DejaVu Sans"));
+    EXPECT_EQ(chosen->FontSize, 14);
+    EXPECT_FALSE(chosen->FontBold);
+    EXPECT_TRUE(chosen->FontItalic);
+    whenOpen<QFontDialog>([](QFontDialog& dialog) { dialog.reject(); });
+    EXPECT_FALSE(host.fontDialog({}));
+}
+
+/// Every text of a dialog that is still English.
+template <class Dialog>
+QStringList englishIn(Dialog& dialog) {
+    QStringList texts{dialog.windowTitle()};
+    for (auto* label : dialog.template findChildren<QLabel*>())
+        if (!label->isHidden())
+            texts += label->text();
+    for (auto* button : dialog.template findChildren<QAbstractButton*>())
+        if (!button->isHidden())
+            texts += button->text();
+    for (auto* group : dialog.template findChildren<QGroupBox*>())
+        texts += group->title();
+    QStringList english;
+    for (const QString& text : texts)
+        if (text.contains(QRegularExpression(QStringLiteral("[A-Za-z]{3}"))) &&
+            text != QStringLiteral("&HTML:"))
+            english += text;
+    return english;
+}
+
+TEST(QtHostTest, TheDialogsSpeakGreek) {
+    QtHost host;
+    QStringList english, buttons;
+    whenOpen<QColorDialog>([&](QColorDialog& dialog) {
+        english += englishIn(dialog);
+        dialog.reject();
+    });
+    EXPECT_FALSE(host.colorDialog(0));
+    whenOpen<QFontDialog>([&](QFontDialog& dialog) {
+        english += englishIn(dialog);
+        dialog.reject();
+    });
+    host.fontDialog({QStringLiteral("Liberation Sans"), 10});
+    whenOpen<QMessageBox>([&](QMessageBox& box) {
+        for (const auto* button : box.buttons())
+            buttons += button->text().remove(u'&');
+        box.reject();
+    });
+    host.msgBox(QStringLiteral("x"), kMsgBoxQuestion + 3, QStringLiteral("Τίτλος"));
+    whenOpen<QInputDialog>([&](QInputDialog& dialog) {
+        buttons += dialog.okButtonText() + dialog.cancelButtonText();
+        dialog.reject();
+    });
+    host.inputBox(QStringLiteral("Όνομα"), {}, {});
+    EXPECT_EQ(english, QStringList());
+    buttons.sort();
+    EXPECT_EQ(buttons, (QStringList{QStringLiteral("Άκυρο"), QStringLiteral("Όχι"),
+                                    QStringLiteral("ΕντάξειΆκυρο"), QStringLiteral("Ναι")}));
 }
 
 TEST(QtHostTest, ThePointerIsTheApplications) {
