@@ -90,6 +90,24 @@ TEST_F(WindowPictures, ATotalsReport) {
     paint("window_ratios");
 }
 
+TEST_F(WindowPictures, ReportsWithTemplates) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("demo.db"));
+    QFile::copy(demoFile(), file);
+    ASSERT_TRUE(window->showDatabase(file));
+    chooseGroup(1, QStringLiteral("REGION"));
+    grid().setSubTotalsBackColor(0x00D7E4BC);
+    for (const char* name : {"Πωλητές με ασυνήθιστα μεγάλο όνομα", "Εβδομαδιαίο", "Μηνιαίο ανά περιφέρεια"}) {
+        host->onInputBox = [name](auto&&...) { return QString::fromUtf8(name); };
+        QTest::keyClick(window.get(), Qt::Key_F12);
+    }
+    QTest::keyClick(&part<QListView>("templates"), Qt::Key_Return);
+    paint("window_templates");
+    paint("window_templates_200", 2);
+    makeDark();
+    paint("window_templates_dark");
+}
+
 TEST_F(WindowPictures, NoReports) {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("empty.db"));

@@ -19,14 +19,43 @@ Color shade(const QPalette& palette, double strength) {
                               mixed(back.blue(), text.blue())));
 }
 
+/// A section that gets a shade.
+struct Section {
+    Color (ZkpGrid::*colour)() const;
+    void (ZkpGrid::*setColour)(const Color&);
+    double strength;
+};
+
+constexpr Section kSections[] = {
+    {&ZkpGrid::GroupedBackColor, &ZkpGrid::setGroupedBackColor, kGroupShade},
+    {&ZkpGrid::SubTotalsBackColor, &ZkpGrid::setSubTotalsBackColor, kSubTotalsShade},
+    {&ZkpGrid::TotalsBackcolor, &ZkpGrid::setTotalsBackcolor, kTotalsShade},
+};
+
+Color noColour() {
+    return systemColor(kSysWindow);
+}
+
 } // namespace
 
 void setReportColours(ZkpGrid& grid, const QPalette& palette) {
     grid.setGroupedFontBold(false); // what is bold is a sum
-    grid.setGroupedBackColor(shade(palette, kGroupShade));
-    grid.setSubTotalsBackColor(shade(palette, kSubTotalsShade));
+    for (const Section& section : kSections)
+        (grid.*section.setColour)(noColour());
+    fillReportColours(grid, palette);
+}
+
+void fillReportColours(ZkpGrid& grid, const QPalette& palette) {
+    for (const Section& section : kSections)
+        if ((grid.*section.colour)() == noColour())
+            (grid.*section.setColour)(shade(palette, section.strength));
     grid.setGridColor(shade(palette, kLineShade));
-    grid.setTotalsBackcolor(shade(palette, kTotalsShade));
+}
+
+void withdrawReportColours(ZkpGrid& grid, const QPalette& palette) {
+    for (const Section& section : kSections)
+        if ((grid.*section.colour)() == shade(palette, section.strength))
+            (grid.*section.setColour)(noColour());
 }
 
 } // namespace zkp::app

@@ -10,4 +10,9 @@ namespace zkp::app {
 /// palette, the block of group factors weakest and the totals strongest, so that a dark palette works.
 void setReportColours(ZkpGrid& grid, const QPalette& palette);
 
+/// Gives the shades to those sections alone that have no colour of their own.
+void fillReportColours(ZkpGrid& grid, const QPalette& palette);
+/// Takes the shades of a palette away: what is left are the colours that somebody has chosen.
+void withdrawReportColours(ZkpGrid& grid, const QPalette& palette);
+
 } // namespace zkp::app

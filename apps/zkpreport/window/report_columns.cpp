@@ -112,6 +112,8 @@ std::vector<ReportColumn> reportColumns(const std::vector<DictionaryField>& fiel
 }
 
 void layColumns(ZkpGrid& grid, const std::vector<ReportColumn>& columns) {
+    while (grid.Columns().Count() > 0)
+        grid.Columns().Remove(grid.Columns().Count());
     grid.setCols(static_cast<int>(columns.size()));
     for (int c = 0; c < grid.Cols(); ++c) {
         const ReportColumn& column = columns[static_cast<std::size_t>(c)];
@@ -122,6 +124,37 @@ void layColumns(ZkpGrid& grid, const std::vector<ReportColumn>& columns) {
         grid.setColForTot(c, column.isFactor);
         grid.setColTotals(c, column.isSummed);
     }
+}
+
+bool isLaidAs(ZkpGrid& grid, const std::vector<ReportColumn>& columns) {
+    if (grid.Cols() != static_cast<int>(columns.size()))
+        return false;
+    for (int c = 0; c < grid.Cols(); ++c) {
+        const ReportColumn& column = columns[static_cast<std::size_t>(c)];
+        if (!sameName(grid.ColDataField(c), column.field) || grid.ColCaption(c) != column.caption ||
+            grid.Columns().ofGridColumn(c).Alignment != column.alignment ||
+            grid.ColForTot(c) != column.isFactor || grid.ColTotals(c) != column.isSummed)
+            return false;
+    }
+    return true;
+}
+
+std::vector<ReportColumn> regroupedColumns(ZkpGrid& grid, const std::vector<DictionaryField>& fields,
+                                           const QStringList& factors) {
+    std::vector<ReportColumn> columns = factorColumns(fields, factors);
+    for (int c = 0; c < grid.Cols(); ++c)
+        if (!grid.ColForTot(c) && !factors.contains(grid.ColDataField(c), Qt::CaseInsensitive))
+            columns.push_back({grid.ColDataField(c), grid.ColCaption(c), grid.ColWidth(c),
+                               grid.Columns().ofGridColumn(c).Alignment, false, grid.ColTotals(c)});
+    return columns;
+}
+
+QStringList factorsOf(ZkpGrid& grid) {
+    QStringList factors;
+    for (int c = 0; c < grid.Cols(); ++c)
+        if (grid.ColForTot(c))
+            factors += grid.ColDataField(c);
+    return factors;
 }
 
 } // namespace zkp::app

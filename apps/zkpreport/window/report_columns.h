@@ -30,7 +30,14 @@ std::vector<ReportColumn> reportColumns(const std::vector<DictionaryField>& fiel
 /// Whether a report has the two fields that loss ratios are made of.
 bool hasLossRatio(const std::vector<DictionaryField>& fields);
 
-/// Makes the columns of a control.
+/// Makes the columns of a control, in place of those it has.
 void layColumns(ZkpGrid& grid, const std::vector<ReportColumn>& columns);
+/// Whether a control has these columns; widths apart, which users set as they like.
+bool isLaidAs(ZkpGrid& grid, const std::vector<ReportColumn>& columns);
+/// The columns of a detail report that has been reshaped, behind other group factors.
+std::vector<ReportColumn> regroupedColumns(ZkpGrid& grid, const std::vector<DictionaryField>& fields,
+                                           const QStringList& factors);
+/// The keys of a control's group factors, in their order.
+QStringList factorsOf(ZkpGrid& grid);
 
 } // namespace zkp::app

@@ -42,6 +42,18 @@ int ReportListModel::find(const QString& name) const {
     return -1;
 }
 
+int ReportListModel::findDictionary(const QString& dictionary, int preferred) const {
+    const auto has = [&](int row) {
+        return !isBlank(dictionary) && sameName(report(row).dictionary, dictionary);
+    };
+    if (preferred >= 0 && has(preferred))
+        return preferred;
+    for (int row = 0; row < rowCount(); ++row)
+        if (has(row))
+            return row;
+    return -1;
+}
+
 int ReportListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(reports_.size());
 }

@@ -33,6 +33,8 @@ public:
     const ReportEntry& report(int row) const { return reports_[static_cast<std::size_t>(row)]; }
     /// The row of the report with that source or title; -1 when there is none.
     int find(const QString& name) const;
+    /// The first row with that dictionary, `preferred` before the others; -1 when there is none.
+    int findDictionary(const QString& dictionary, int preferred = -1) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;

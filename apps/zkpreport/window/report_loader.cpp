@@ -58,20 +58,17 @@ double headingWidth(const ZkpGrid& grid, const QString& text) {
 
 template <class Load>
 LoadRecord watchedLoad(ZkpGrid& grid, LoadWatch& watch, const QString& filter, Load load) {
-    grid.setFilter(filter); // the builders write the translated one, with the rights, over it
+    grid.setFilter(filter);        // the builders write the translated one, with the rights, over it
+    grid.setRefreshOnChange(true); // a change of the user's columns may have left it to us
     watch.begin(grid.Cn());
     load();
     watch.end();
 
-    const ado::RecordsetPtr records = recordsOf(grid);
-    const bool isOpen = records && records->State() == ado::adStateOpen;
-    LoadRecord record;
-    record.isLoaded = isOpen && !watch.sawBox();
-    record.sent = watch.statementSent();
+    LoadRecord record = recordAsItStands(grid, watch.statementSent());
+    record.filter = filter;
+    record.isLoaded = record.isLoaded && !watch.sawBox();
     record.statementMs = watch.statementMs();
     record.wholeMs = watch.wholeMs();
-    record.built = builtStatement(grid, records);
-    record.records = isOpen ? static_cast<int>(records->RecordCount()) : 0;
     if (record.isLoaded && grid.TotalForm())
         formatFigures(grid);
     return record;
@@ -79,18 +76,43 @@ LoadRecord watchedLoad(ZkpGrid& grid, LoadWatch& watch, const QString& filter, L
 
 } // namespace
 
+LoadRecord recordAsItStands(ZkpGrid& grid, const QString& sent) {
+    const ado::RecordsetPtr records = recordsOf(grid);
+    LoadRecord record;
+    record.isLoaded = records && records->State() == ado::adStateOpen;
+    record.sent = sent;
+    record.built = builtStatement(grid, records);
+    record.records = record.isLoaded ? static_cast<int>(records->RecordCount()) : 0;
+    return record;
+}
+
 void prepareReport(ZkpGrid& grid, const ado::ConnectionPtr& connection, const ReportEntry& report,
-                   const std::vector<DictionaryField>& fields, const ReportShape& shape,
                    const QString& userId) {
     grid.setLocale(QLocale(QLocale::Greek, QLocale::Greece));
     grid.setclmns(report.dictionary);
-    layColumns(grid, reportColumns(fields, shape));
     grid.setSqlOnRunTime(!isBlank(report.masterTable));
+    grid.Fill(connection, report.source, ZKP_Table_QUERY, userId);
+}
+
+void layReport(ZkpGrid& grid, const std::vector<DictionaryField>& fields,
+               const std::vector<ReportColumn>& columns, const ReportShape& shape) {
+    grid.setGroupby({}); // the columns tell the factors
+    layColumns(grid, columns);
     grid.setTotalForm(shape.isTotals);
     grid.setLossRatio(shape.isTotals && hasLossRatio(fields));
-    grid.Fill(connection, report.source, ZKP_Table_QUERY, userId);
-    if (!shape.isTotals)
-        grid.setOrderBy(orderOf(grid, shape.sort));
+    grid.setOrderBy(shape.isTotals ? QString() : orderOf(grid, shape.sort));
+}
+
+ColumnSort sortOf(ZkpGrid& grid) {
+    const QString order = grid.OrderBy();
+    for (int c = 0; c < grid.Cols() && !grid.TotalForm(); ++c) {
+        QString tables;
+        const QString expression =
+            grid.ColForTot(c) ? QString() : grid.makefldSql(grid.ColDataField(c), tables, false);
+        if (!isBlank(expression) && (order == expression + kAscending || order == expression + kDescending))
+            return {grid.ColDataField(c), order.endsWith(kDescending)};
+    }
+    return {};
 }
 
 LoadRecord loadReport(ZkpGrid& grid, LoadWatch& watch, const QString& filter) {

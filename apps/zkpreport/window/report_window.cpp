@@ -7,7 +7,9 @@
 #include "window/group_choice.h"
 #include "window/report_colours.h"
 #include "window/report_filter.h"
+#include "window/report_tools.h"
 #include "window/statement_panel.h"
+#include "window/template_pane.h"
 #include "window/texts.h"
 
 #include <QAction>
@@ -42,12 +44,18 @@ ReportWindow::ReportWindow(std::shared_ptr<Host> host)
     , rights_(new QLabel)
     , filter_(new FilterLine)
     , groups_(new GroupChoice)
+    , saveAction_(new QAction(texts::saveTemplate(), this))
+    , saveAsAction_(new QAction(texts::saveTemplateAs(), this))
+    , templates_(new TemplatePane(saveAction_, saveAsAction_))
     , sortAction_(new QAction(texts::sortAction(), this))
     , panelToggle_(new QAction(texts::statementToggle(), this))
     , message_(new QLabel)
     , place_(new QVBoxLayout)
-    , panel_(new StatementPanel) {
+    , panel_(new StatementPanel)
+    , tools_(new ReportTools(*this, *host_,
+                             {[this] { return host_->isLettingEventsIn(); }, [this] { reloadReshaped(); }})) {
     setWindowTitle(QStringLiteral("zkpreport"));
+    colours_ = palette();
     buildWidgets();
     replaceControl();
     connectWidgets();
@@ -61,9 +69,7 @@ ReportWindow::~ReportWindow() {
 
 void ReportWindow::connectWidgets() {
     connect(reportList_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
-        replaceControl();
-        widths_.clear();
-        sort_ = {};
+        forgetShape();
         groups_->choose({}, false);
         openReport({});
     });
@@ -72,9 +78,14 @@ void ReportWindow::connectWidgets() {
         openReport(filter_->inForce());
     });
     connect(filter_, &FilterLine::applied, this, [this](const QString& filter) { openReport(filter); });
-    connect(groups_, &GroupChoice::changed, this, [this] { openReport(filter_->inForce()); });
+    connect(groups_, &GroupChoice::changed, this, [this] {
+        replaceControl();
+        openReport(filter_->inForce());
+    });
     connect(sortAction_, &QAction::triggered, this, &ReportWindow::sortByCurrentColumn);
     connect(panelToggle_, &QAction::toggled, panel_, &QWidget::setVisible);
+    connect(tools_, &ReportTools::settled, this, &ReportWindow::followControl);
+    connectTemplates();
 }
 
 QString ReportWindow::message() const {
@@ -87,6 +98,7 @@ void ReportWindow::setMessage(const QString& text) {
 }
 
 bool ReportWindow::showDatabase(const QString& file, const FirstReport& first) {
+    forgetShape();
     return guarded([&] {
         readDatabase(file);
         return choose(first);
@@ -95,10 +107,11 @@ bool ReportWindow::showDatabase(const QString& file, const FirstReport& first) {
 
 void ReportWindow::readDatabase(const QString& file) {
     database_ = QFileInfo(file).fileName();
-    setWindowTitle(texts::windowTitle({}, database_));
+    setWindowTitle(texts::windowTitle({}, {}, database_));
     connection_ = std::make_shared<ado::Connection>();
     connection_->setMode(ado::adModeRead);
     connection_->Open(QStringLiteral("sqlite:%1").arg(file));
+    tools_->watch(*connection_);
 
     const auto reports = readReports(connection_);
     if (!reports)
@@ -115,6 +128,7 @@ void ReportWindow::readDatabase(const QString& file) {
     userList_->setEnabled(users_.size() > 1);
     filter_->setEnabled(reports_->rowCount() > 0);
     reportList_->setVisible(reports_->rowCount() > 0);
+    listTemplates();
 }
 
 /// The first report is opened here and not by the choices' signals, so that it is loaded once.
@@ -160,7 +174,7 @@ bool ReportWindow::openReport(const QString& filter) {
         const ReportEntry* report = chosenReport();
         if (!report)
             return false;
-        setWindowTitle(texts::windowTitle(report->title, database_));
+        showTitle();
         const UserFilter checked = reportFilter(*report, connection_, filter);
         if (!checked.isAccepted()) {
             filter_->setText(filter);
@@ -172,16 +186,41 @@ bool ReportWindow::openReport(const QString& filter) {
     });
 }
 
+/// A loaded control is still that of the report and the user: only its filter is another.
 bool ReportWindow::load(const ReportEntry& report, const QString& filter) {
+    if (isLoaded_)
+        return reload(report, filter);
+    return rebuild(report) && tell(loadReport(grid(), *host_, filter));
+}
+
+bool ReportWindow::reload(const ReportEntry& report, const QString& filter) {
+    keepShape(); // before a failure leaves its marks
+    const LoadRecord record = loadReport(grid(), *host_, filter);
+    if (!record.isLoaded) {
+        isLoaded_ = false;
+        rebuild(report);
+    }
+    return tell(record);
+}
+
+bool ReportWindow::rebuild(const ReportEntry& report) {
     replaceControl();
     const QString user = chosenUser();
     if (!readReport(report, user))
         return false;
-    prepareReport(grid(), connection_, report, fields_, shape(), user);
-    restoreWidths();
+    prepareReport(grid(), connection_, report, user);
+    layOut(user);
     report_->show();
     rights_->setText(rightsText(connection_, user));
-    return tell(loadReport(grid(), *host_, filter));
+    return true;
+}
+
+std::vector<DictionaryField> ReportWindow::fieldsOf(const ReportEntry& report, const QString& user) const {
+    std::vector<DictionaryField> fields;
+    if (!report.dictionary.isEmpty())
+        fields = readFields(connection_, report.dictionary, !user.isEmpty());
+    markCounts(fields, connection_, report.source);
+    return fields;
 }
 
 bool ReportWindow::readReport(const ReportEntry& report, const QString& user) {
@@ -189,14 +228,11 @@ bool ReportWindow::readReport(const ReportEntry& report, const QString& user) {
         setMessage(texts::badIdentity(user));
         return false;
     }
-    fields_.clear();
-    if (!report.dictionary.isEmpty())
-        fields_ = readFields(connection_, report.dictionary, !user.isEmpty());
+    fields_ = fieldsOf(report, user);
     if (fields_.empty()) {
         setMessage(texts::noDictionary(report.title));
         return false;
     }
-    markCounts(fields_, connection_, report.source);
     groups_->setFields(fields_);
     showFilterKeys();
     return true;
@@ -209,6 +245,9 @@ bool ReportWindow::tell(const LoadRecord& record) {
         setMessage(texts::loadFailed());
     else if (!groups_->isTotals())
         showSort(grid(), sort_);
+    loadFilter_ = record.filter;
+    hasLoadedItself_ = false;
+    tools_->showReport(report_);
     return isLoaded_;
 }
 
@@ -239,36 +278,44 @@ void ReportWindow::sortByCurrentColumn() {
 }
 
 void ReportWindow::replaceControl() {
-    keepWidths();
+    keepShape();
     delete report_;
     isLoaded_ = false;
-    report_ = new ZkpGridWidget(host_);
-    report_->hide(); // until it has columns
-    place_->addWidget(report_);
-    setReportColours(grid(), palette());
-    connect(&grid().events(), &Events::Click, this, &ReportWindow::sortIfHeading);
-    connect(&grid().events(), &Events::DblClick, this, &ReportWindow::sortIfHeading);
+    report_ = makeControl();
     panel_->clear();
     rights_->clear();
+}
+
+ZkpGridWidget* ReportWindow::makeControl() {
+    auto* control = new ZkpGridWidget(host_);
+    control->hide(); // until it has columns
+    place_->addWidget(control);
+    control->grid().setDesignMode(true); // the user's refresh reads a reshaped report
+    control->grid().Picture1().Tools(u"mnuExport").Visible = false; // its command is not ours
+    tools_->watch(*control);
+    setReportColours(control->grid(), colours_);
+    const Events* events = &control->grid().events();
+    connect(events, &Events::Click, this, &ReportWindow::sortIfHeading);
+    connect(events, &Events::DblClick, this, &ReportWindow::sortIfHeading);
+    connect(events, &Events::StartFilling, this, [this] {
+        hasLoadedItself_ = true; // unless it turns out to be a load of the window's
+        sentByControl_ = connection_ ? connection_->LastStatementSent() : QString();
+    });
+    connect(events, &Events::PrintCommand, this, [this] { setMessage(texts::noPrintYet()); });
+    connect(events, &Events::MenuSaveTemplate, this, &ReportWindow::saveTemplate);
+    connect(events, &Events::MenuSaveTemplateAs, this, &ReportWindow::saveTemplateAs);
+    connect(events, &Events::MenuLoadTemplate, templates_, &TemplatePane::focusList);
+    return control;
 }
 
 void ReportWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
     if (event->type() != QEvent::PaletteChange || !report_)
         return;
-    setReportColours(grid(), palette());
+    withdrawReportColours(grid(), colours_);
+    colours_ = palette();
+    fillReportColours(grid(), colours_);
     grid().DrawInterface();
-}
-
-void ReportWindow::keepWidths() {
-    for (int column = 0; report_ && column < grid().Cols(); ++column)
-        widths_[grid().ColDataField(column)] = grid().ColWidth(column);
-}
-
-void ReportWindow::restoreWidths() {
-    for (int column = 0; column < grid().Cols(); ++column)
-        if (const auto width = widths_.find(grid().ColDataField(column)); width != widths_.end())
-            grid().setColWidth(column, width->second);
 }
 
 void ReportWindow::showFilterKeys() {

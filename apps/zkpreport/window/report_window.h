@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/kept_shape.h"
 #include "window/load_watch.h"
 #include "window/report_list.h"
 #include "window/report_loader.h"
@@ -24,7 +25,9 @@ namespace zkp::app {
 
 class FilterLine;
 class GroupChoice;
+class ReportTools;
 class StatementPanel;
+class TemplatePane;
 
 /// What to open first.
 struct FirstReport {
@@ -36,7 +39,7 @@ struct FirstReport {
 };
 
 /// The program's window, a small report browser: the reports of a database, one of them open, the user
-/// whose rights hold, a filter, group factors, and on demand the statement behind the rows.
+/// whose rights hold, a filter, group factors, saved shapes, and on demand the statement behind the rows.
 class ReportWindow : public QMainWindow {
     Q_OBJECT
 
@@ -47,13 +50,20 @@ public:
 
     /// The control of the open report; another one for each report and user.
     ZkpGrid& grid() { return report_->grid(); }
-    /// What stands under the filter: why a filter, user or report was refused. Usually empty.
+    /// What stands under the filter: why a filter, user or report was refused, or that a template was saved.
+    /// Usually empty.
     QString message() const;
 
     /// Opens a SQLite file read-only and shows a report of it. False when there was a box or a message.
     bool showDatabase(const QString& file, const FirstReport& first = {});
 
+    /// The template that is open; empty for none.
+    QString templateName() const { return template_; }
+
 private:
+    /// A report that a template has been opened in, while the one before still shows.
+    struct OpenedTemplate;
+
     void changeEvent(QEvent* event) override;
 
     void buildWidgets();
@@ -66,14 +76,43 @@ private:
     /// Opens the chosen report for the chosen user with a filter. A refused filter leaves the rows.
     bool openReport(const QString& filter);
     bool load(const ReportEntry& report, const QString& filter);
+    /// Loads the control as it stands; one that fails leaves no rows.
+    bool reload(const ReportEntry& report, const QString& filter);
+    /// A control for the report, ready to be loaded, in the shape that the last one had.
+    bool rebuild(const ReportEntry& report);
     bool readReport(const ReportEntry& report, const QString& user);
+    std::vector<DictionaryField> fieldsOf(const ReportEntry& report, const QString& user) const;
     bool tell(const LoadRecord& record);
+    /// Reads the rows of the control as it has been shaped.
+    void reloadReshaped();
+    /// The control may have been reshaped, or have loaded by itself: what stands around it follows.
+    void followControl();
+    void followChanges();
     void sortIfHeading();
     void sortByCurrentColumn();
     /// An empty control: neither rows nor rights of the last one are left.
     void replaceControl();
-    void keepWidths();
+    ZkpGridWidget* makeControl();
+
+    // The shape, from one control to the next.
+    void keepShape();
+    void forgetShape();
+    void layOut(const QString& user);
     void restoreWidths();
+    void showTitle();
+
+    // Templates.
+    void connectTemplates();
+    void listTemplates();
+    void openTemplate(QString name);
+    OpenedTemplate readTemplateInto(std::unique_ptr<ZkpGridWidget> control, const QString& name);
+    void showTemplate(OpenedTemplate opened, const QString& name);
+    void saveTemplate();
+    void saveTemplateAs();
+    void storeTemplate(const QString& name);
+    template <class F>
+    bool guardedTemplate(const QString& refusal, F call);
+
     void showFilterKeys();
     void setMessage(const QString& text);
     ReportShape shape() const;
@@ -88,8 +127,14 @@ private:
     std::vector<UserEntry> users_;
     std::vector<DictionaryField> fields_; // of the open report, for the user
     std::map<QString, double> widths_;    // of the report's columns, as the user has left them
+    KeptShape kept_;                      // of the last control that was loaded
+    QString template_;                    // that is open
+    QPalette colours_;                    // that the shades of the report are made from
     ColumnSort sort_;                     // of the report, as the user has left it
+    QString loadFilter_;                  // as loads need it afresh
     bool isLoaded_ = false;
+    bool hasLoadedItself_ = false; // the control, by a command of its menus
+    QString sentByControl_;        // the statement of that load
 
     ReportListModel* reports_;
     QListView* reportList_;
@@ -97,12 +142,16 @@ private:
     QLabel* rights_;
     FilterLine* filter_;
     GroupChoice* groups_;
+    QAction* saveAction_;
+    QAction* saveAsAction_;
+    TemplatePane* templates_;
     QAction* sortAction_;
     QAction* panelToggle_;
     QLabel* message_;
     QVBoxLayout* place_; // where the control stands
     ZkpGridWidget* report_ = nullptr;
     StatementPanel* panel_;
+    ReportTools* tools_;
 };
 
 } // namespace zkp::app

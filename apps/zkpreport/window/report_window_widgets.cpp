@@ -1,7 +1,9 @@
 #include "window/filter_line.h"
 #include "window/group_choice.h"
+#include "window/report_tools.h"
 #include "window/report_window.h"
 #include "window/statement_panel.h"
+#include "window/template_pane.h"
 #include "window/texts.h"
 
 #include <QAction>
@@ -16,9 +18,9 @@ namespace zkp::app {
 
 namespace {
 
-constexpr int kReportWidth = 1160;
+constexpr int kReportWidth = 1140;
 constexpr int kReportHeight = 650;
-constexpr int kListWidth = 118;
+constexpr int kListWidth = 138;
 constexpr int kUserWidth = 210;
 constexpr int kPanelHeight = 150;
 constexpr int kMargin = 4;
@@ -65,18 +67,22 @@ void ReportWindow::buildWidgets() {
     column->addWidget(makeShapeChoices());
     column->addWidget(message_);
     column->addWidget(place, 1);
+    column->addWidget(&tools_->findLine());
 
     auto* rows = new QSplitter(Qt::Vertical);
     rows->addWidget(report);
     rows->addWidget(panel_);
     rows->setStretchFactor(0, 1);
     rows->setSizes({kReportHeight, kPanelHeight});
+    auto* lists = new QSplitter(Qt::Vertical);
+    lists->addWidget(reportList_);
+    lists->addWidget(templates_);
     auto* columns = new QSplitter(Qt::Horizontal);
-    columns->addWidget(reportList_);
+    columns->addWidget(lists);
     columns->addWidget(rows);
     columns->setStretchFactor(1, 1);
     columns->setSizes({kListWidth, kReportWidth});
-    for (QSplitter* splitter : {rows, columns})
+    for (QSplitter* splitter : {rows, columns, lists})
         splitter->setHandleWidth(3);
     setCentralWidget(columns);
     panel_->hide();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 /// Every text of the program's window, once.
 namespace zkp::app::texts {
@@ -27,8 +28,11 @@ inline QString statementToggle() {
 inline QString statementToggleTip() {
     return QStringLiteral("Η εντολή προς τη βάση (Ctrl+Shift+S)");
 }
-inline QString windowTitle(const QString& report, const QString& database) {
-    return report.isEmpty() ? database : QStringLiteral("%1 – %2").arg(report, database);
+/// From the particular to the general; what is empty is left out.
+inline QString windowTitle(const QString& templateName, const QString& report, const QString& database) {
+    QStringList parts{templateName, report, database};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(" – "));
 }
 
 // The shape of a report.
@@ -64,6 +68,70 @@ inline QString sortedHeading(const QString& caption, bool isDescending) {
     return caption + (isDescending ? QStringLiteral(" ▼") : QStringLiteral(" ▲"));
 }
 
+// Templates.
+inline QString templates() {
+    return QStringLiteral("Υ&ποδείγματα");
+}
+inline QString templatesTip() {
+    return QStringLiteral("Το Enter ή το διπλό κλικ ανοίγει το υπόδειγμα");
+}
+inline QString templateTip(const QString& name, const QString& report) {
+    return report.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, report);
+}
+inline QString saveTemplate() {
+    return QStringLiteral("Καταχώρηση");
+}
+inline QString saveTemplateTip() {
+    return QStringLiteral("Η μορφή της αναφοράς με το όνομά της (Ctrl+S)");
+}
+inline QString saveTemplateAs() {
+    return QStringLiteral("Καταχώρηση σαν…");
+}
+inline QString saveTemplateAsTip() {
+    return QStringLiteral("Η μορφή της αναφοράς με νέο όνομα (F12)");
+}
+inline QString templateBoxTitle() {
+    return QStringLiteral("Υποδείγματα");
+}
+inline QString templateNamePrompt() {
+    return QStringLiteral("Όνομα υποδείγματος:");
+}
+inline QString replaceTemplate(const QString& name) {
+    return QStringLiteral("Υπάρχει ήδη υπόδειγμα «%1». Να αντικατασταθεί;").arg(name);
+}
+inline QString templateSaved(const QString& name) {
+    return QStringLiteral("Το υπόδειγμα «%1» καταχωρήθηκε.").arg(name);
+}
+inline QString templateNotSaved(const QString& name) {
+    return QStringLiteral("Το υπόδειγμα «%1» δεν καταχωρήθηκε.").arg(name);
+}
+inline QString templateNotOpened(const QString& name) {
+    return QStringLiteral("Το υπόδειγμα «%1» δεν άνοιξε.").arg(name);
+}
+inline QString templateGone() {
+    return QStringLiteral("Δεν υπάρχει πια στη βάση.");
+}
+inline QString templateOfNoReport(const QString& dictionary) {
+    return QStringLiteral("Καμία αναφορά της βάσης δεν έχει το λεξικό του (%1).").arg(dictionary.trimmed());
+}
+inline QString templateDenied(const QString& fields) {
+    return QStringLiteral("Έχει πεδία που ο χρήστης δεν βλέπει: %1.").arg(fields);
+}
+inline QString templateLeft(const QString& name) {
+    return QStringLiteral("Το υπόδειγμα «%1» έχει πεδία που ο χρήστης δεν βλέπει και έκλεισε.").arg(name);
+}
+inline QString templateFilterRefused(const QString& filter, const QString& reason) {
+    return QStringLiteral("Το φίλτρο του δεν γίνεται δεκτό: %1\n%2").arg(filter, reason);
+}
+inline QString numberedTemplate() {
+    return QStringLiteral(
+        "Όνομα με αριθμό από τον πέμπτο χαρακτήρα και μετά είναι θέση του πίνακα frms, που πρέπει να "
+        "υπάρχει ήδη. Δώστε άλλο όνομα.");
+}
+inline QString nothingToSave() {
+    return QStringLiteral("Δεν υπάρχει αναφορά για να καταχωρηθεί η μορφή της.");
+}
+
 // Headings of a totals report.
 inline QString countHeading() {
     return QStringLiteral("Πλήθος");
@@ -79,6 +147,76 @@ inline QString minimumHeading() {
 }
 inline QString maximumHeading() {
     return QStringLiteral("Μέγιστο");
+}
+
+// Copying, finding, undoing.
+inline QString editMenu() {
+    return QStringLiteral("&Επεξεργασία");
+}
+inline QString undoAction() {
+    return QStringLiteral("Α&ναίρεση");
+}
+inline QString redoAction() {
+    return QStringLiteral("&Επανάληψη");
+}
+inline QString copyAction() {
+    return QStringLiteral("Αντι&γραφή με επικεφαλίδες");
+}
+inline QString findAction() {
+    return QStringLiteral("Εύ&ρεση…");
+}
+inline QString findNextAction() {
+    return QStringLiteral("Επόμενο αποτέ&λεσμα");
+}
+inline QString findPreviousAction() {
+    return QStringLiteral("&Προηγούμενο αποτέλεσμα");
+}
+inline QString findLabel() {
+    return QStringLiteral("Εύρεση");
+}
+inline QString findHint() {
+    return QStringLiteral("Κείμενο κελιού, πεζά ή κεφαλαία, με ή χωρίς τόνους");
+}
+inline QString findCloseTip() {
+    return QStringLiteral("Κλείσιμο (Esc)");
+}
+inline QString findRunning(int percent) {
+    return QStringLiteral("Αναζήτηση… %1%").arg(percent);
+}
+inline QString findNothing() {
+    return QStringLiteral("Δεν βρέθηκε");
+}
+inline QString findFromTop() {
+    return QStringLiteral("Συνέχεια από την αρχή");
+}
+inline QString findFromEnd() {
+    return QStringLiteral("Συνέχεια από το τέλος");
+}
+
+// The status line.
+inline QString sums(const QString& sum, const QString& count, const QString& average) {
+    return QStringLiteral("Άθροισμα %1   Πλήθος %2   Μέσος όρος %3").arg(sum, count, average);
+}
+inline QString countOfCells(const QString& numbers, const QString& cells) {
+    return QStringLiteral("%1 από %2 κελιά").arg(numbers, cells);
+}
+inline QString summing(int percent) {
+    return QStringLiteral("Άθροισμα… %1%").arg(percent);
+}
+inline QString rowsRead(const QString& rows) {
+    return QStringLiteral("Διαβάστηκαν %1 γραμμές").arg(rows);
+}
+inline QString rowsReadAtRate(const QString& rows, const QString& perSecond) {
+    return QStringLiteral("Διαβάστηκαν %1 γραμμές, %2 το δευτερόλεπτο").arg(rows, perSecond);
+}
+inline QString layingOut(const QString& rows) {
+    return QStringLiteral("Τοποθετούνται %1 γραμμές").arg(rows);
+}
+inline QString noPrintYet() {
+    return QStringLiteral("Η εκτύπωση δεν υπάρχει ακόμη.");
+}
+inline QString recordsOnly(const QString& records) {
+    return QStringLiteral("%1 εγγραφές").arg(records);
 }
 
 // Messages in place of a report.
