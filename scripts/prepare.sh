@@ -21,7 +21,8 @@ quietly() {
     fi
 }
 
-wanted_packages() { sed -e 's/#.*//' -e 's/[[:space:]]*$//' -e '/^$/d' scripts/packages.txt; }
+packages_file=scripts/packages.txt
+wanted_packages() { sed -e 's/#.*//' -e 's/[[:space:]]*$//' -e '/^$/d' "$packages_file"; }
 
 missing_packages() {
     local installed
@@ -39,7 +40,7 @@ as_root() {
 
 install_packages() {
     if ! command -v dpkg-query >/dev/null; then
-        say "This is not a Debian system. Install what scripts/packages.txt lists, then call cmake yourself."
+        say "This is not a Debian system. Install what $packages_file lists, then call cmake yourself."
         exit 1
     fi
     local missing

@@ -1,6 +1,7 @@
 #include "ado/connection.h"
 
 #include "ado/dialect/tokenizer.h"
+#include "ado/odbc/odbc_provider.h"
 #include "ado/recordset.h"
 #include "ado/sqlite/sqlite_provider.h"
 #include "ado/text_stream.h"
@@ -25,8 +26,10 @@ std::shared_ptr<Provider> openProvider(const QString& connectionString, int mode
     if (connectionString.startsWith(scheme, Qt::CaseInsensitive))
         return std::make_shared<sqlite::SqliteProvider>(connectionString.mid(scheme.size()),
                                                         mode == adModeRead);
-    throw Error(kErrDatabase,
-                QStringLiteral("No provider for the connection string '%1'").arg(connectionString));
+    if (!connectionString.contains(u'='))
+        throw Error(kErrDatabase,
+                    QStringLiteral("No provider for the connection string '%1'").arg(connectionString));
+    return std::make_shared<odbc::OdbcProvider>(connectionString, mode == adModeRead);
 }
 
 /// Nothing for a null, which stands for every name.
@@ -42,8 +45,9 @@ Connection::Connection()
 Connection::~Connection() = default;
 
 void Connection::Open(const QString& connectionString) {
-    if (d->provider)
+    if (d->provider && !d->provider->isLost())
         throw Error(kErrObjectOpen, QStringLiteral("Operation is not allowed when the object is open."));
+    d->provider.reset();
     const QString text = connectionString.isEmpty() ? d->connectionString : connectionString;
     d->provider = openProvider(text, d->mode);
     d->connectionString = text;

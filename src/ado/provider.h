@@ -70,6 +70,8 @@ public:
     virtual std::unique_ptr<ResultStream> start(const QString& statement, const RunOptions& options) = 0;
     /// The text that the database received last.
     virtual QString lastStatementSent() const = 0;
+    /// True once the database has gone away; nothing but closing works then.
+    virtual bool isLost() const { return false; }
 
     virtual void begin() = 0;
     virtual void commit() = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ado/sqlite/deadline.h"
+#include "base/error.h"
 
 #include <QString>
 

@@ -11,13 +11,6 @@ constexpr auto kInterruptAgain = std::chrono::milliseconds(50);
 
 } // namespace
 
-Deadline Deadline::in(int seconds) {
-    Deadline deadline;
-    if (seconds > 0)
-        deadline.moment_ = Clock::now() + std::chrono::seconds(seconds);
-    return deadline;
-}
-
 Interrupter::Interrupter(sqlite3* handle)
     : handle_(handle)
     , due_(Deadline().moment().time_since_epoch().count()) {

@@ -3,7 +3,7 @@
 #include "ado/constants.h"
 #include "ado/dialect/sqlite_rewrite.h"
 #include "ado/sqlite/field_types.h"
-#include "ado/sqlite/plain_select.h"
+#include "ado/dialect/plain_select.h"
 #include "ado/sqlite/run.h"
 #include "base/text.h"
 
@@ -36,7 +36,7 @@ QHash<QString, std::pair<QString, Declared>> tableColumns(const std::shared_ptr<
 
 class SqliteBaseTable final : public BaseTable {
 public:
-    SqliteBaseTable(std::shared_ptr<Database> database, PlainSelect select, RunOptions options,
+    SqliteBaseTable(std::shared_ptr<Database> database, dialect::PlainSelect select, RunOptions options,
                     QHash<QString, std::pair<QString, Declared>> columns)
         : database_(std::move(database))
         , select_(std::move(select))
@@ -126,7 +126,7 @@ private:
     }
 
     std::shared_ptr<Database> database_;
-    PlainSelect select_;
+    dialect::PlainSelect select_;
     RunOptions options_;
     QHash<QString, std::pair<QString, Declared>> columns_; ///< by name key
     QString rowStatement_;
@@ -137,7 +137,7 @@ private:
 
 std::unique_ptr<BaseTable> openBaseTable(const std::shared_ptr<Database>& database, const QString& statement,
                                          const RunOptions& options) {
-    auto select = parsePlainSelect(statement);
+    auto select = dialect::parsePlainSelect(statement);
     if (!select)
         return nullptr;
     auto columns = tableColumns(database, select->table);

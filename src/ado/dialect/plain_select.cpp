@@ -1,15 +1,12 @@
-#include "ado/sqlite/plain_select.h"
+#include "ado/dialect/plain_select.h"
 
 #include "ado/dialect/tokenizer.h"
 
 #include <algorithm>
 
-namespace zkp::ado::sqlite {
+namespace zkp::ado::dialect {
 
 namespace {
-
-using dialect::Token;
-using dialect::TokenKind;
 
 bool isOneOf(const Token& token, std::initializer_list<QStringView> words) {
     return std::any_of(words.begin(), words.end(), [&](QStringView word) { return token.isWord(word); });
@@ -66,7 +63,7 @@ bool isName(const Token& token) {
 } // namespace
 
 std::optional<PlainSelect> parsePlainSelect(const QString& statement) {
-    Parts parts{dialect::tokenize(statement), {}, 0};
+    Parts parts{tokenize(statement), {}, 0};
     for (std::size_t i = 0; i < parts.tokens.size(); ++i) {
         if (parts.tokens[i].kind != TokenKind::Space)
             parts.solid.push_back(i);
@@ -82,7 +79,7 @@ std::optional<PlainSelect> parsePlainSelect(const QString& statement) {
     if (!isName(parts.at(k)))
         return std::nullopt;
     PlainSelect select;
-    select.table = dialect::nameOf(parts.at(k++));
+    select.table = nameOf(parts.at(k++));
     const auto ends = [](const Token& token) {
         return token.text.isEmpty() || isOneOf(token, {u"where", u"order", u"limit"});
     };
@@ -101,4 +98,4 @@ std::optional<PlainSelect> parsePlainSelect(const QString& statement) {
     return select;
 }
 
-} // namespace zkp::ado::sqlite
+} // namespace zkp::ado::dialect

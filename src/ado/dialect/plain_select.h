@@ -4,7 +4,7 @@
 
 #include <optional>
 
-namespace zkp::ado::sqlite {
+namespace zkp::ado::dialect {
 
 /// A select of one table without grouping: each record is one row of the table.
 struct PlainSelect {
@@ -17,4 +17,4 @@ struct PlainSelect {
 /// Nothing when the statement is anything else.
 std::optional<PlainSelect> parsePlainSelect(const QString& statement);
 
-} // namespace zkp::ado::sqlite
+} // namespace zkp::ado::dialect

@@ -1,0 +1,157 @@
+# Private database servers for the tests, sourced by ./test --servers after scripts/prepare.sh: PostgreSQL
+# and MariaDB on free ports of the loopback address, with their data under build/servers, run as the users
+# that their packages make since both refuse to run as root.
+
+# Debian's packages would start services of their own; nothing here uses those.
+keep_services_still() {
+    local policy=/usr/sbin/policy-rc.d conf=/etc/postgresql-common/createcluster.conf
+    if [ ! -e "$policy" ]; then
+        printf '#!/bin/sh\nexit 101\n' | as_root tee "$policy" >/dev/null
+        as_root chmod 755 "$policy"
+        made_policy=$policy
+    fi
+    if [ ! -e "$conf" ]; then
+        as_root mkdir -p "${conf%/*}"
+        echo 'create_main_cluster = false' | as_root tee "$conf" >/dev/null
+    fi
+}
+
+install_servers() {
+    local made_policy=
+    packages_file=scripts/packages-servers.txt
+    [ -n "$(missing_packages)" ] || return 0
+    keep_services_still
+    install_packages
+    [ -z "$made_policy" ] || as_root rm -f "$made_policy"
+}
+
+# as_user USER COMMAND...: nobody else's rights are needed when we are not root.
+as_user() {
+    local user=$1
+    shift
+    if [ "$(id -u)" = 0 ]; then
+        setpriv --reuid="$user" --regid="$(id -g "$user")" --clear-groups env HOME=/nonexistent "$@"
+    else
+        "$@"
+    fi
+}
+
+# The build folder may stand where the servers' users can't reach it.
+choose_servers_home() {
+    servers_home=$PWD/build/servers
+    mkdir -p "$servers_home"
+    if ! as_user nobody test -x "$servers_home"; then
+        servers_home=/tmp/zkp-servers-$(id -u)-$(echo "$PWD" | cksum | cut -d' ' -f1)
+        mkdir -p "$servers_home"
+    fi
+    [ "$(stat -c %u "$servers_home")" = "$(id -u)" ] || { say "$servers_home is not ours"; exit 1; }
+}
+
+free_port() {
+    local port
+    while :; do
+        port=$((20000 + RANDOM % 30000))
+        (exec 3<>"/dev/tcp/127.0.0.1/$port") 2>/dev/null || break
+    done
+    echo "$port"
+}
+
+# folder_for USER NAME: a folder of the server's own.
+folder_for() {
+    mkdir -p "$servers_home/$2"
+    [ "$(id -u)" != 0 ] || chown "$1:" "$servers_home/$2"
+}
+
+# wait_for NAME COMMAND...: until the command succeeds, half a minute at most.
+wait_for() {
+    local name=$1 i
+    shift
+    for ((i = 0; i < 150; i++)); do
+        "$@" >/dev/null 2>&1 && return 0
+        sleep 0.2
+    done
+    say "$name does not answer; its log is in $servers_home"
+    return 1
+}
+
+# Ends the server whose id a file holds, if it still is that server.
+stop_server() { # PIDFILE DATA
+    local pid i
+    pid=$(head -n 1 "$1" 2>/dev/null) || return 0
+    [ -n "$pid" ] && tr '\0' ' ' <"/proc/$pid/cmdline" 2>/dev/null | grep -qF -- "$2" || return 0
+    kill -TERM "$pid" 2>/dev/null || return 0
+    for ((i = 0; i < 100; i++)); do
+        kill -0 "$pid" 2>/dev/null || return 0
+        sleep 0.1
+    done
+    kill -KILL "$pid" 2>/dev/null || true
+}
+
+stop_servers() {
+    stop_server "$servers_home/postgres/data/postmaster.pid" "$servers_home/postgres/data"
+    stop_server "$servers_home/mariadb/server.pid" "$servers_home/mariadb/data"
+}
+
+# A data folder gets its name once it is complete, so that an interrupted start leaves none half-made.
+make_postgres_data() {
+    local home=$servers_home/postgres
+    [ ! -d "$home/data" ] || return 0
+    rm -rf "$home/data.new"
+    as_user postgres sh -c "umask 077; echo zkp >'$home/password'"
+    quietly as_user postgres "$postgres_bin/initdb" -D "$home/data.new" --username=zkp --encoding=UTF8 \
+        --locale=C --auth=scram-sha-256 --pwfile="$home/password" --no-sync
+    mv "$home/data.new" "$home/data"
+}
+
+start_postgres() {
+    local home=$servers_home/postgres port
+    folder_for postgres postgres
+    postgres_bin=$(ls -d /usr/lib/postgresql/*/bin | sort -V | tail -n 1)
+    make_postgres_data
+    port=$(free_port)
+    as_user postgres "$postgres_bin/postgres" -D "$home/data" -p "$port" -c listen_addresses=127.0.0.1 \
+        -c unix_socket_directories= -c fsync=off >"$home.log" 2>&1 9>&- </dev/null &
+    wait_for PostgreSQL env PGPASSWORD=zkp psql -h 127.0.0.1 -p "$port" -U zkp -d postgres -c "SELECT 1"
+    export ZKP_TEST_POSTGRES="Driver={PostgreSQL Unicode};Server=127.0.0.1;Port=$port;UID=zkp;PWD=zkp;Database=zkp"
+    export ZKP_TEST_POSTGRES_PID="$home/data/postmaster.pid"
+    PGPASSWORD=zkp quietly psql -h 127.0.0.1 -p "$port" -U zkp -d postgres \
+        -c "DROP DATABASE IF EXISTS zkp WITH (FORCE)" -c "CREATE DATABASE zkp"
+}
+
+make_mariadb_data() {
+    local home=$servers_home/mariadb
+    [ ! -d "$home/data" ] || return 0
+    rm -rf "$home/data.new"
+    as_user mysql mkdir "$home/data.new"
+    quietly as_user mysql mariadb-install-db --no-defaults --datadir="$home/data.new" \
+        --auth-root-authentication-method=normal --skip-test-db
+    mv "$home/data.new" "$home/data"
+}
+
+start_mariadb() {
+    local home=$servers_home/mariadb port
+    folder_for mysql mariadb
+    make_mariadb_data
+    port=$(free_port)
+    as_user mysql mariadbd --no-defaults --datadir="$home/data" --port="$port" --bind-address=127.0.0.1 \
+        --socket=server.sock --pid-file="$home/server.pid" --innodb-flush-log-at-trx-commit=0 \
+        --max-allowed-packet=256M >"$home.log" 2>&1 9>&- </dev/null &
+    local root=(mariadb --no-defaults --protocol=tcp -h 127.0.0.1 -P "$port" -u root)
+    wait_for MariaDB "${root[@]}" -e "SELECT 1"
+    export ZKP_TEST_MARIADB="Driver={MariaDB Unicode};Server=127.0.0.1;Port=$port;UID=zkp;PWD=zkp;Database=zkp"
+    export ZKP_TEST_MARIADB_PID="$home/server.pid"
+    quietly "${root[@]}" -e "DROP DATABASE IF EXISTS zkp;
+        CREATE DATABASE zkp CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin;
+        CREATE OR REPLACE USER zkp@'127.0.0.1' IDENTIFIED BY 'zkp'; GRANT ALL ON *.* TO zkp@'127.0.0.1'"
+}
+
+start_servers() {
+    choose_servers_home
+    stop_servers
+    trap stop_servers EXIT
+    trap 'exit 130' INT
+    trap 'exit 143' TERM HUP
+    say "Starting PostgreSQL and MariaDB under $servers_home"
+    start_postgres
+    start_mariadb
+}

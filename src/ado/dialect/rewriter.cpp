@@ -1,0 +1,180 @@
+#include "ado/dialect/rewriter.h"
+
+#include <QDate>
+
+#include <algorithm>
+
+namespace zkp::ado::dialect {
+
+namespace {
+
+/// 8-4-4-4-12 hexadecimal digits.
+bool isUniqueKey(QStringView text) {
+    if (text.size() != 36)
+        return false;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text[i].toLower().unicode();
+        const bool hexadecimal = (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f');
+        const bool sign = i == 8 || i == 13 || i == 18 || i == 23;
+        if (sign ? c != '-' : !hexadecimal)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+Rewriter::Rewriter(const QString& statement)
+    : statement_(statement)
+    , tokens_(tokenize(statement_)) {
+    for (std::size_t i = 0; i < tokens_.size(); ++i) {
+        written_.push_back(tokens_[i].text.toString());
+        const bool national =
+            tokens_[i].isWord(u"n") && i + 1 < tokens_.size() && tokens_[i + 1].kind == TokenKind::Text;
+        if (national)
+            drop(i);
+        else if (tokens_[i].kind != TokenKind::Space)
+            solid_.push_back(i);
+    }
+}
+
+const Token& Rewriter::at(std::size_t k) const {
+    static const Token none{TokenKind::Sign, {}};
+    return k < solid_.size() ? tokens_[solid_[k]] : none;
+}
+
+QString& Rewriter::written(std::size_t k) {
+    changed_ = true;
+    return written_[static_cast<qsizetype>(solid_[k])];
+}
+
+void Rewriter::drop(std::size_t token) {
+    changed_ = true;
+    written_[static_cast<qsizetype>(token)].clear();
+}
+
+bool Rewriter::isComparison(const Token& token) {
+    static const QStringView signs[] = {u"=", u"==", u"<>", u"!=", u"<", u">", u"<=", u">="};
+    return token.kind == TokenKind::Sign &&
+           std::find(std::begin(signs), std::end(signs), token.text) != std::end(signs);
+}
+
+bool Rewriter::hasCase(QStringView constant) {
+    return std::any_of(constant.begin(), constant.end(), [](QChar c) { return c.unicode() >= u'A'; }) &&
+           !isUniqueKey(constant.sliced(1, std::max<qsizetype>(0, constant.size() - 2)));
+}
+
+bool Rewriter::isAnswered() const {
+    static const QStringView words[] = {u"select", u"with",    u"values",  u"insert",
+                                        u"update", u"replace", u"explain", u"delete"};
+    return std::any_of(std::begin(words), std::end(words),
+                       [&](QStringView word) { return at(0).isWord(word); });
+}
+
+void Rewriter::datesToIso() {
+    for (std::size_t k = 0; k < count(); ++k) {
+        if (at(k).isWord(u"convert"))
+            rewriteConvert(k);
+    }
+}
+
+void Rewriter::rewriteConvert(std::size_t k) {
+    const bool fits = at(k + 1).isSign(u"(") && at(k + 2).isWord(u"datetime") && at(k + 3).isSign(u",") &&
+                      at(k + 4).kind == TokenKind::Text && at(k + 5).isSign(u",") &&
+                      at(k + 6).kind == TokenKind::Number && at(k + 7).isSign(u")");
+    if (!fits)
+        return;
+    const QString text = textOf(at(k + 4)).trimmed();
+    QDate date = QDate::fromString(text, QStringLiteral("M/d/yyyy"));
+    if (!date.isValid())
+        date = QDate::fromString(text, QStringLiteral("yyyy-MM-dd"));
+    if (!date.isValid())
+        return;
+    for (std::size_t token = solid_[k] + 1; token <= solid_[k + 7]; ++token)
+        drop(token);
+    written(k) = u'\'' + date.toString(Qt::ISODate) + u'\'';
+    solid_.erase(solid_.begin() + static_cast<std::ptrdiff_t>(k + 1),
+                 solid_.begin() + static_cast<std::ptrdiff_t>(k + 8));
+}
+
+void Rewriter::divideAsReal(const QString& factor) {
+    for (std::size_t k = 0; k < count(); ++k) {
+        const bool bySum = at(k + 1).isWord(u"sum") && at(k + 2).isSign(u"(");
+        const bool bySubquery = at(k + 1).isSign(u"(") && at(k + 2).isWord(u"select");
+        if (at(k).isSign(u"/") && (bySum || bySubquery))
+            written(k) = QStringLiteral("* ") + factor + QStringLiteral(" /");
+    }
+}
+
+/// Behind what the other steps put at the end of a select, since a limit closes it.
+void Rewriter::topToLimit(const QString& beforeMember, const QString& behindMember) {
+    for (std::size_t k = 0; k < count(); ++k) {
+        if (at(k).isWord(u"select"))
+            rewriteTop(k, beforeMember, behindMember);
+    }
+}
+
+void Rewriter::rewriteTop(std::size_t k, const QString& beforeMember, const QString& behindMember) {
+    std::size_t top = k + 1;
+    if (at(top).isWord(u"distinct") || at(top).isWord(u"all"))
+        ++top;
+    if (!at(top).isWord(u"top"))
+        return;
+    const bool bracketed = at(top + 1).isSign(u"(");
+    const std::size_t number = top + (bracketed ? 2 : 1);
+    const std::size_t behind = number + (bracketed ? 2 : 1);
+    if (at(number).kind != TokenKind::Number || (bracketed && !at(number + 1).isSign(u")")) ||
+        at(behind).isWord(u"percent"))
+        return;
+    const QString limit = QStringLiteral(" LIMIT %1").arg(at(number).text);
+    for (std::size_t token = solid_[top]; behind < solid_.size() && token < solid_[behind]; ++token)
+        drop(token);
+
+    const bool isMember = k > 0 && (isCompound(at(k - 1)) || (at(k - 1).isWord(u"all") && k > 1));
+    const std::size_t end = endOfSelect(behind, isMember);
+    if (isMember || isCompound(at(end))) {
+        // A limit stands only behind the whole of a UNION.
+        written(k) = beforeMember + written(k);
+        written(end - 1) += limit + behindMember;
+    } else {
+        written(end - 1) += limit;
+    }
+}
+
+std::size_t Rewriter::endOfSelect(std::size_t k, bool isMember) const {
+    int depth = 0;
+    for (; k < solid_.size(); ++k) {
+        const Token& token = at(k);
+        if (token.isSign(u"("))
+            ++depth;
+        else if (token.isSign(u")") && --depth < 0)
+            return k;
+        const bool ends = isCompound(token) || token.isSign(u";") || (isMember && token.isWord(u"order"));
+        if (depth == 0 && ends)
+            return k;
+    }
+    return k;
+}
+
+bool Rewriter::isCompared(std::size_t k) const {
+    std::size_t before = k;
+    while (before > 0 && at(before - 1).isSign(u"("))
+        --before;
+    const bool behindSign = before > 0 && isComparison(at(before - 1));
+    const bool lower = k > 0 && at(k - 1).isWord(u"between");
+    const bool upper = k > 2 && at(k - 1).isWord(u"and") && at(k - 3).isWord(u"between");
+    return behindSign || isComparison(at(k + 1)) || lower || upper;
+}
+
+void Rewriter::collateConstants(const QString& collation) {
+    for (std::size_t k = 0; k < count(); ++k) {
+        const QStringView text = at(k).text;
+        // The database's words shall show a constant without an end as it came.
+        const bool isClosed = text.size() > 1 && text.endsWith(u'\'');
+        if (at(k).kind == TokenKind::Text && isClosed && hasCase(text) && !at(k + 1).isWord(u"collate") &&
+            isCompared(k))
+            written(k) += QStringLiteral(" COLLATE ") + collation;
+    }
+}
+
+} // namespace zkp::ado::dialect

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "ado/dialect/tokenizer.h"
+
+#include <QStringList>
+
+namespace zkp::ado::dialect {
+
+/// A statement cut into tokens, each of which can be written anew, and the steps that servers share.
+/// Places count the tokens that are no space. The statement must outlive it.
+class Rewriter {
+public:
+    explicit Rewriter(const QString& statement);
+
+    /// The statement as it was when no step changed anything.
+    QString text() const { return changed_ ? written_.join(QString()) : statement_; }
+
+protected:
+    std::size_t count() const { return solid_.size(); }
+    /// An empty sign beyond both ends.
+    const Token& at(std::size_t k) const;
+    const QString& now(std::size_t k) const { return written_[static_cast<qsizetype>(solid_[k])]; }
+    QString& written(std::size_t k);
+
+    static bool isComparison(const Token& token);
+    static bool isName(const Token& token) {
+        return token.kind == TokenKind::Word || token.kind == TokenKind::Name;
+    }
+    static bool isCompound(const Token& token) {
+        return token.isWord(u"union") || token.isWord(u"except") || token.isWord(u"intersect");
+    }
+    /// A constant of nothing but signs and digits (a date, a code) compares alike with case and without:
+    /// an index stays of use. So does one that can be a key of a server's own making.
+    static bool hasCase(QStringView constant);
+    /// Statements whose comparisons are answered now. What others hold is stored (views, triggers) and
+    /// must stay readable to every program.
+    bool isAnswered() const;
+
+    /// Convert(Datetime,'mm/dd/yyyy',102) becomes 'yyyy-mm-dd'.
+    void datesToIso();
+    /// Whole amounts may be stored as integers, whose quotient would lose the decimals that a money type
+    /// keeps: what is divided by a sum or a subquery is made real. Other divisions stay.
+    void divideAsReal(const QString& factor);
+    /// SELECT [DISTINCT] TOP n … becomes SELECT [DISTINCT] … LIMIT n. A member of a union with a limit
+    /// gets the texts around it.
+    void topToLimit(const QString& beforeMember, const QString& behindMember);
+    /// Lets comparisons of a text constant ignore case: `collation` goes behind the constant.
+    void collateConstants(const QString& collation);
+    /// The place behind the last token of the select that a place is in.
+    std::size_t endOfSelect(std::size_t k, bool isMember) const;
+
+private:
+    void rewriteConvert(std::size_t k);
+    void rewriteTop(std::size_t k, const QString& beforeMember, const QString& behindMember);
+    bool isCompared(std::size_t k) const;
+    void drop(std::size_t token);
+
+    const QString& statement_;
+    std::vector<Token> tokens_;
+    QStringList written_;            ///< what each token becomes
+    std::vector<std::size_t> solid_; ///< the tokens that are no space
+    bool changed_ = false;
+};
+
+} // namespace zkp::ado::dialect

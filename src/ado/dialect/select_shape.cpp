@@ -1,0 +1,146 @@
+#include "ado/dialect/select_shape.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+namespace zkp::ado::dialect {
+
+namespace {
+
+bool isOneOf(const Token& token, std::initializer_list<QStringView> words) {
+    return std::any_of(words.begin(), words.end(), [&](QStringView word) { return token.isWord(word); });
+}
+
+bool isName(const Token& token) {
+    return token.kind == TokenKind::Word || token.kind == TokenKind::Name;
+}
+
+/// Tokens that are no space.
+std::vector<Token> solid(const std::vector<Token>& tokens) {
+    std::vector<Token> kept;
+    std::copy_if(tokens.begin(), tokens.end(), std::back_inserter(kept),
+                 [](const Token& token) { return token.kind != TokenKind::Space; });
+    return kept;
+}
+
+using Item = std::vector<Token>;
+
+/// The items from a place on, cut at the outer commas, up to a token that ends them; `at` is then there.
+template <class F>
+std::vector<Item> itemsUpTo(const std::vector<Token>& tokens, std::size_t& at, F&& ends) {
+    std::vector<Item> items(1);
+    int depth = 0;
+    for (; at < tokens.size(); ++at) {
+        const Token& token = tokens[at];
+        if (depth == 0 && ends(token))
+            break;
+        depth += token.isSign(u"(") ? 1 : token.isSign(u")") ? -1 : 0;
+        if (depth < 0)
+            break;
+        if (depth == 0 && token.isSign(u","))
+            items.emplace_back();
+        else
+            items.back().push_back(token);
+    }
+    return items;
+}
+
+/// The items of the outer select list; `at` is then at its FROM.
+std::vector<Item> selectItems(const std::vector<Token>& tokens, std::size_t& at) {
+    if (tokens.empty() || !tokens.front().isWord(u"select"))
+        return {};
+    at = 1;
+    if (at < tokens.size() && isOneOf(tokens[at], {u"distinct", u"all"}))
+        ++at;
+    if (at + 1 < tokens.size() && tokens[at].isWord(u"top") && tokens[at + 1].kind == TokenKind::Number)
+        at += 2;
+    return itemsUpTo(tokens, at,
+                     [](const Token& token) { return token.isWord(u"from") || token.isSign(u";"); });
+}
+
+QString textOfItem(const Item& item) {
+    QStringList texts;
+    for (const Token& token : item)
+        texts << token.text.toString();
+    return texts.join(u' ');
+}
+
+/// The item without its alias.
+Item expressionOf(const Item& item) {
+    const bool aliased = item.size() > 2 && item[item.size() - 2].isWord(u"as");
+    return aliased ? Item(item.begin(), item.end() - 2) : item;
+}
+
+bool sameText(const Item& a, const Item& b) {
+    return textOfItem(a).compare(textOfItem(b), Qt::CaseInsensitive) == 0;
+}
+
+/// The place behind the outer "group by"; 0 when there is none.
+std::size_t behindGroupBy(const std::vector<Token>& tokens, std::size_t at) {
+    int depth = 0;
+    for (; at + 1 < tokens.size(); ++at) {
+        depth += tokens[at].isSign(u"(") ? 1 : tokens[at].isSign(u")") ? -1 : 0;
+        if (depth == 0 && tokens[at].isWord(u"group") && tokens[at + 1].isWord(u"by"))
+            return at + 2;
+    }
+    return 0;
+}
+
+} // namespace
+
+QStringList outputNames(const std::vector<Token>& statement) {
+    const std::vector<Token> tokens = solid(statement);
+    std::size_t at = 0;
+    QStringList names;
+    for (const Item& item : selectItems(tokens, at)) {
+        if (item.empty() || item.back().isSign(u"*"))
+            return {};
+        const bool named = isName(item.back()) && !item.back().isWord(u"end");
+        names << (named ? nameOf(item.back()) : QString());
+    }
+    return names;
+}
+
+QStringList sourceColumns(const std::vector<Token>& statement) {
+    const std::vector<Token> tokens = solid(statement);
+    std::size_t at = 0;
+    QStringList columns;
+    for (const Item& item : selectItems(tokens, at)) {
+        const Item expression = expressionOf(item);
+        const bool plain = expression.size() == 1 || (expression.size() == 3 && expression[1].isSign(u"."));
+        if (plain && expression.back().isSign(u"*"))
+            columns << QStringLiteral("*");
+        else
+            columns << (plain && isName(expression.back()) ? nameOf(expression.back()) : QString());
+    }
+    return columns;
+}
+
+QStringList groupsToSortBy(const std::vector<Token>& statement) {
+    const std::vector<Token> tokens = solid(statement);
+    std::size_t at = 0;
+    const std::vector<Item> selected = selectItems(tokens, at);
+    at = selected.empty() ? 0 : behindGroupBy(tokens, at);
+    if (at == 0)
+        return {};
+    const std::vector<Item> groups = itemsUpTo(tokens, at, [](const Token& token) {
+        return isOneOf(token, {u"having", u"order", u"union", u"except", u"intersect", u"limit"}) ||
+               token.isSign(u";");
+    });
+    // A select in brackets behind it, or a further one, would be another's order.
+    const bool ordered =
+        std::any_of(tokens.begin() + static_cast<std::ptrdiff_t>(at), tokens.end(), [](const Token& token) {
+            return isOneOf(token, {u"order", u"union", u"except", u"intersect"});
+        });
+    QStringList order;
+    for (const Item& group : groups) {
+        const bool inList = std::any_of(selected.begin(), selected.end(), [&](const Item& item) {
+            return sameText(expressionOf(item), group);
+        });
+        if (!ordered && inList && !group.empty())
+            order << textOfItem(group);
+    }
+    return order;
+}
+
+} // namespace zkp::ado::dialect

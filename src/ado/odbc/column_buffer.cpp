@@ -1,0 +1,170 @@
+#include "ado/odbc/column_buffer.h"
+
+#include "ado/odbc/amount_text.h"
+#include "ado/odbc/wide_text.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+
+namespace zkp::ado::odbc {
+
+namespace {
+
+constexpr std::int64_t kDayMilliseconds = 86'400'000;
+
+std::int64_t midnight(int year, unsigned month, unsigned day) {
+    const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(month),
+                                           std::chrono::day(day)};
+    return std::chrono::sys_days(date).time_since_epoch().count() * kDayMilliseconds;
+}
+
+std::int64_t milliseconds(const SQL_DATE_STRUCT& date) {
+    return midnight(date.year, date.month, date.day);
+}
+
+std::int64_t milliseconds(const SQL_TIMESTAMP_STRUCT& moment) {
+    return midnight(moment.year, moment.month, moment.day) +
+           ((moment.hour * 60ll + moment.minute) * 60 + moment.second) * 1000 + moment.fraction / 1'000'000;
+}
+
+} // namespace
+
+ColumnBuffer::ColumnBuffer(const ColumnType& type, int column, std::size_t rows)
+    : type_(type)
+    , column_(column)
+    , bytes_(type.width * rows)
+    , lengths_(rows) {}
+
+SQLSMALLINT ColumnBuffer::cType() const {
+    switch (type_.transfer) {
+    case Transfer::Integer:
+        return SQL_C_SBIGINT;
+    case Transfer::Boolean:
+        return SQL_C_BIT;
+    case Transfer::Double:
+        return SQL_C_DOUBLE;
+    case Transfer::Amount:
+        return SQL_C_CHAR;
+    case Transfer::Date:
+        return SQL_C_TYPE_DATE;
+    case Transfer::Moment:
+        return SQL_C_TYPE_TIMESTAMP;
+    case Transfer::Binary:
+        return SQL_C_BINARY;
+    default:
+        return type_.isUtf8 ? SQL_C_CHAR : SQL_C_WCHAR;
+    }
+}
+
+void ColumnBuffer::bind(const Statement& statement) {
+    statement.check(SQLBindCol(statement.get(), static_cast<SQLUSMALLINT>(column_ + 1), cType(),
+                               bytes_.data(), static_cast<SQLLEN>(type_.width), lengths_.data()));
+}
+
+void ColumnBuffer::read(LongValues& values, store::ColumnBuilder& builder) {
+    const std::string* bytes = values.read(column_, cType());
+    if (!bytes) {
+        builder.appendNull();
+    } else if (type_.transfer == Transfer::Binary) {
+        builder.appendBinary(*bytes);
+    } else if (type_.transfer == Transfer::Text) {
+        appendOneText(builder, bytes->data(), bytes->size());
+    } else {
+        std::memcpy(bytes_.data(), bytes->data(), std::min(bytes->size(), type_.width));
+        lengths_[0] = static_cast<SQLLEN>(bytes->size());
+        appendTo(builder, 1, values);
+    }
+}
+
+void ColumnBuffer::appendTo(store::ColumnBuilder& builder, std::size_t rows, LongValues& values) {
+    switch (type_.transfer) {
+    case Transfer::Integer:
+        return appendFixed<std::int64_t>(builder, rows, [&](std::int64_t v) { builder.appendInteger(v); });
+    case Transfer::Boolean:
+        return appendFixed<char>(builder, rows, [&](char v) { builder.appendBoolean(v != 0); });
+    case Transfer::Double:
+        return appendFixed<double>(builder, rows, [&](double v) { builder.appendReal(v); });
+    case Transfer::Date:
+        return appendFixed<SQL_DATE_STRUCT>(
+            builder, rows, [&](const SQL_DATE_STRUCT& v) { builder.appendDate(milliseconds(v)); });
+    case Transfer::Moment:
+        return appendFixed<SQL_TIMESTAMP_STRUCT>(
+            builder, rows, [&](const SQL_TIMESTAMP_STRUCT& v) { builder.appendDate(milliseconds(v)); });
+    case Transfer::Amount:
+        return appendAmounts(builder, rows);
+    case Transfer::Binary:
+        return appendBinary(builder, rows, values);
+    case Transfer::Text:
+        return appendText(builder, rows, values);
+    }
+}
+
+template <class T, class F>
+void ColumnBuffer::appendFixed(store::ColumnBuilder& builder, std::size_t rows, F&& append) {
+    for (std::size_t row = 0; row < rows; ++row) {
+        if (lengths_[row] == SQL_NULL_DATA) {
+            builder.appendNull();
+            continue;
+        }
+        T value;
+        std::memcpy(&value, at(row), sizeof value);
+        append(value);
+    }
+}
+
+void ColumnBuffer::appendAmounts(store::ColumnBuilder& builder, std::size_t rows) {
+    for (std::size_t row = 0; row < rows; ++row) {
+        if (lengths_[row] == SQL_NULL_DATA) {
+            builder.appendNull();
+            continue;
+        }
+        const std::string_view digits(at(row),
+                                      std::min(static_cast<std::size_t>(lengths_[row]), type_.width - 1));
+        if (const auto whole = type_.byValues ? wholeFromText(digits) : std::nullopt)
+            builder.appendInteger(*whole);
+        else if (const auto amount = amountFromText(digits))
+            builder.appendAmount(*amount);
+        else
+            builder.appendReal(std::strtod(std::string(digits).c_str(), nullptr));
+    }
+}
+
+/// Drivers give the whole length of a text that was cut, or that it is unknown.
+void ColumnBuffer::appendText(store::ColumnBuilder& builder, std::size_t rows, LongValues& values) {
+    const auto room = static_cast<SQLLEN>(type_.width - sign());
+    for (std::size_t row = 0; row < rows; ++row) {
+        const SQLLEN length = lengths_[row];
+        if (length == SQL_NULL_DATA) {
+            builder.appendNull();
+        } else if (length != SQL_NO_TOTAL && length <= room) {
+            appendOneText(builder, at(row), static_cast<std::size_t>(length));
+        } else {
+            values.goTo(row);
+            read(values, builder);
+        }
+    }
+}
+
+void ColumnBuffer::appendBinary(store::ColumnBuilder& builder, std::size_t rows, LongValues& values) {
+    for (std::size_t row = 0; row < rows; ++row) {
+        const SQLLEN length = lengths_[row];
+        if (length == SQL_NULL_DATA) {
+            builder.appendNull();
+        } else if (length != SQL_NO_TOTAL && static_cast<std::size_t>(length) <= type_.width) {
+            builder.appendBinary({at(row), static_cast<std::size_t>(length)});
+        } else {
+            values.goTo(row);
+            read(values, builder);
+        }
+    }
+}
+
+void ColumnBuffer::appendOneText(store::ColumnBuilder& builder, const char* bytes, std::size_t size) {
+    if (type_.isUtf8)
+        return builder.appendText({bytes, size});
+    toUtf8({reinterpret_cast<const char16_t*>(bytes), size / sizeof(char16_t)}, utf8_);
+    builder.appendText(utf8_);
+}
+
+} // namespace zkp::ado::odbc

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ado/odbc/statement.h"
+
+#include <string>
+
+namespace zkp::ado::odbc {
+
+/// Reads values whole that no bound buffer could take, one by one.
+class LongValues {
+public:
+    explicit LongValues(const Statement& statement)
+        : statement_(statement) {}
+
+    /// The row of the block that the values are read from, from 0.
+    void goTo(std::size_t row);
+    /// The value's bytes, valid until the next call; nothing for a null. UTF-16 for SQL_C_WCHAR.
+    const std::string* read(int column, SQLSMALLINT cType);
+
+private:
+    const Statement& statement_;
+    std::string bytes_;
+};
+
+} // namespace zkp::ado::odbc

@@ -1,0 +1,63 @@
+#include "ado/odbc/odbc_provider.h"
+
+#include "ado/odbc/odbc_base_table.h"
+#include "ado/odbc/read_only.h"
+#include "ado/odbc/run.h"
+#include "ado/odbc/schema.h"
+#include "ado/odbc/translate.h"
+
+#include <algorithm>
+
+namespace zkp::ado::odbc {
+
+namespace {
+
+bool changesNames(const QString& statement) {
+    const std::vector<dialect::Token> tokens = dialect::tokenize(statement);
+    return std::any_of(tokens.begin(), tokens.end(), [](const dialect::Token& token) {
+        return token.isWord(u"create") || token.isWord(u"alter") || token.isWord(u"drop") ||
+               token.isWord(u"rename") || token.isWord(u"into");
+    });
+}
+
+} // namespace
+
+OdbcProvider::OdbcProvider(const QString& connectionString, bool readOnly)
+    : session_(std::make_shared<Session>(connectionString, readOnly)) {}
+
+std::unique_ptr<ResultStream> OdbcProvider::start(const QString& statement, const RunOptions& options) {
+    if (session_->isReadOnly() && !isAllowedReadOnly(statement))
+        refuseWriting();
+    dialect::Rewritten sent = translate(*session_, statement);
+    if (changesNames(statement))
+        session_->forgetCatalogue();
+    return std::make_unique<StatementStream>(session_, std::move(sent.text), std::move(sent.outputNames),
+                                             options);
+}
+
+QString OdbcProvider::lastStatementSent() const {
+    return session_->lastStatement();
+}
+bool OdbcProvider::isLost() const {
+    return session_->isLost();
+}
+
+void OdbcProvider::begin() {
+    session_->begin();
+}
+void OdbcProvider::commit() {
+    session_->commit();
+}
+void OdbcProvider::rollback() {
+    session_->rollback();
+}
+
+std::unique_ptr<BaseTable> OdbcProvider::baseTable(const QString& statement, const RunOptions& options) {
+    return openBaseTable(session_, statement, options);
+}
+
+Result OdbcProvider::schema(int schema, const std::optional<QString>& table) {
+    return readSchema(*session_, schema, table);
+}
+
+} // namespace zkp::ado::odbc

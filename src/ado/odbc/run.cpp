@@ -1,0 +1,93 @@
+#include "ado/odbc/run.h"
+
+#include "ado/odbc/fetch.h"
+
+#include <utility>
+
+namespace zkp::ado::odbc {
+
+namespace {
+
+/// Gives the fields the names that the statement wrote, where each of them is known.
+void rename(Result& result, const QStringList& names) {
+    if (static_cast<std::size_t>(names.size()) != result.fields.size())
+        return;
+    for (std::size_t i = 0; i < result.fields.size(); ++i) {
+        if (const QString& name = names[static_cast<qsizetype>(i)]; !name.isEmpty())
+            result.fields[i].name = name;
+    }
+}
+
+} // namespace
+
+StatementStream::StatementStream(std::shared_ptr<Session> session, QString sql, QStringList names,
+                                 RunOptions options)
+    : session_(std::move(session))
+    , sql_(std::move(sql))
+    , names_(std::move(names))
+    , options_(std::move(options)) {}
+
+/// A statement that gives no records at all gives one result without fields.
+std::optional<Result> StatementStream::next() {
+    if (failure_)
+        throw *std::exchange(failure_, std::nullopt);
+    const bool first = !std::exchange(started_, true);
+    if (!first && !statement_)
+        return std::nullopt;
+    try {
+        if (first)
+            start();
+        else
+            statement_->restartClock();
+        auto result = takeRecords();
+        return result || !first ? std::move(result) : Result();
+    } catch (...) {
+        statement_.reset();
+        throw;
+    }
+}
+
+void StatementStream::start() {
+    session_->setLastStatement(sql_);
+    statement_ = std::make_unique<Statement>(*session_, options_.timeoutSeconds);
+    if (session_->readsInsideBlocks())
+        statement_->useStaticCursor();
+    statement_->execute(sql_);
+}
+
+/// The next result with records: counts of records written, which a procedure gives between them, are
+/// passed over.
+std::optional<Result> StatementStream::takeRecords() {
+    while (statement_->columnCount() == 0) {
+        if (!statement_->moreResults()) {
+            statement_.reset();
+            return std::nullopt;
+        }
+    }
+    Result result = Fetch(*statement_, options_).run();
+    rename(result, names_);
+    goOn();
+    return result;
+}
+
+/// The statement goes as soon as nothing follows, so that the connection is free. What fails behind a
+/// result is not that result's failure.
+void StatementStream::goOn() {
+    try {
+        if (!statement_->moreResults())
+            statement_.reset();
+    } catch (const Error& error) {
+        failure_ = error;
+        statement_.reset();
+    }
+}
+
+Result runStatement(Session& session, const QString& sql, const RunOptions& options) {
+    Statement statement(session, options.timeoutSeconds);
+    if (session.readsInsideBlocks())
+        statement.useStaticCursor();
+    statement.execute(sql);
+    return statement.columnCount() > 0 ? Fetch(statement, options).run() : Result();
+}
+
+} // namespace zkp::ado::odbc

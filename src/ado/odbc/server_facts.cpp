@@ -1,0 +1,124 @@
+#include "ado/odbc/server_facts.h"
+
+#include "ado/odbc/run.h"
+
+namespace zkp::ado::odbc {
+
+namespace {
+
+constexpr int kSeconds = 30;
+
+Result ask(Session& session, const char* sql) {
+    return runStatement(session, QString::fromLatin1(sql), {kSeconds, {}});
+}
+
+/// Names with anything but small letters, digits and "_" are not what the server folds a bare name to;
+/// "f" tells of Boolean columns.
+constexpr char kPostgresNames[] =
+    "SELECT 'r' AS kind, c.relname AS relation, '' AS name FROM pg_class c JOIN pg_namespace n ON n.oid = "
+    "c.relnamespace WHERE n.nspname NOT LIKE 'pg\\_%' AND n.nspname <> 'information_schema' "
+    "AND c.relkind IN ('r','v','m','f','p') AND c.relname ~ '[^a-z0-9_]' "
+    "UNION ALL SELECT CASE WHEN a.attname ~ '[^a-z0-9_]' THEN 'c' ELSE '' END || "
+    "CASE WHEN a.atttypid = 'bool'::regtype THEN 'f' ELSE '' END, c.relname, a.attname FROM pg_attribute a "
+    "JOIN pg_class c ON c.oid = a.attrelid JOIN pg_namespace n ON n.oid = c.relnamespace "
+    "WHERE n.nspname NOT LIKE 'pg\\_%' AND n.nspname <> 'information_schema' AND a.attnum > 0 "
+    "AND NOT a.attisdropped AND c.relkind IN ('r','v','m','f','p') "
+    "AND (a.attname ~ '[^a-z0-9_]' OR a.atttypid = 'bool'::regtype) "
+    "UNION ALL SELECT 'r', p.proname, '' FROM pg_proc p JOIN pg_namespace n ON n.oid = p.pronamespace "
+    "WHERE n.nspname NOT LIKE 'pg\\_%' AND n.nspname <> 'information_schema' AND p.proname ~ '[^a-z0-9_]'";
+
+dialect::Catalogue readPostgres(Session& session) {
+    dialect::Catalogue catalogue;
+    const Result names = ask(session, kPostgresNames);
+    for (std::size_t row = 0; row < names.table.rows; ++row) {
+        const auto text = [&](std::size_t column) {
+            return names.table.columns[column]->value(row).toString();
+        };
+        const QString kind = text(0);
+        if (kind.contains(u'r'))
+            catalogue.addSpelling(text(1));
+        if (kind.contains(u'c'))
+            catalogue.addColumnSpelling(text(1), text(2));
+        if (kind.contains(u'f'))
+            catalogue.addFlag(text(1), text(2));
+    }
+    return catalogue;
+}
+
+dialect::Catalogue readMariaDb(Session& session) {
+    dialect::Catalogue catalogue;
+    const Result names =
+        ask(session, "SELECT TABLE_NAME FROM information_schema.TABLES WHERE TABLE_SCHEMA = DATABASE()");
+    for (std::size_t row = 0; row < names.table.rows; ++row)
+        catalogue.addSpelling(names.table.columns[0]->value(row).toString());
+    return catalogue;
+}
+
+/// An administrator's collation where there is one, so that its indexes are of use, or else one that
+/// lasts as long as the session.
+QString choosePostgresCollation(Session& session) {
+    const Result kept =
+        ask(session, "SELECT quote_ident(n.nspname) FROM pg_collation c JOIN pg_namespace n ON "
+                     "n.oid = c.collnamespace WHERE c.collname = 'zkp_text' AND "
+                     "pg_collation_is_visible(c.oid)");
+    if (kept.table.rows > 0)
+        return kept.table.columns[0]->value(0).toString() + QStringLiteral(".zkp_text");
+    try {
+        ask(session, "CREATE COLLATION pg_temp.zkp_text (provider = icu, locale = 'und-u-ks-level2', "
+                     "deterministic = false)");
+    } catch (const Error&) {
+        if (session.isLost())
+            throw;
+        return {};
+    }
+    return QStringLiteral("pg_temp.zkp_text");
+}
+
+/// Versions before 10.10 have none with accents.
+QString chooseMariaDbCollation(Session& session) {
+    try {
+        ask(session, "SELECT 'a' COLLATE utf8mb4_uca1400_nopad_as_ci");
+    } catch (const Error&) {
+        if (session.isLost())
+            throw;
+        return {};
+    }
+    return QStringLiteral("utf8mb4_uca1400_nopad_as_ci");
+}
+
+} // namespace
+
+void prepareServer(Session& session) {
+    // Constants mean what they say: no "\" opens anything, and "||" joins texts.
+    if (session.dialect() != Dialect::MariaDb)
+        return;
+    ask(session, "SET SESSION sql_mode = CONCAT(@@sql_mode, ',NO_BACKSLASH_ESCAPES,PIPES_AS_CONCAT')");
+    const Result sent = ask(session, "SELECT @@character_set_results");
+    const QString charset = sent.table.columns[0]->value(0).toString();
+    if (session.driverName().contains(QStringLiteral("maodbc")) && charset.startsWith(QStringLiteral("utf8")))
+        session.setGivesUtf8();
+}
+
+dialect::Catalogue readCatalogue(Session& session) {
+    switch (session.dialect()) {
+    case Dialect::PostgreSql:
+        return readPostgres(session);
+    case Dialect::MariaDb:
+        return readMariaDb(session);
+    default:
+        return {};
+    }
+}
+
+QString chooseCollation(Session& session) {
+    switch (session.dialect()) {
+    case Dialect::PostgreSql:
+        return choosePostgresCollation(session);
+    case Dialect::MariaDb:
+        return chooseMariaDbCollation(session);
+    default:
+        return {};
+    }
+}
+
+} // namespace zkp::ado::odbc

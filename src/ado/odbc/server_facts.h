@@ -1,0 +1,17 @@
+#pragma once
+
+#include "ado/dialect/catalogue.h"
+
+namespace zkp::ado::odbc {
+
+class Session;
+
+/// Settings of a new session that the dialects rest on.
+void prepareServer(Session& session);
+/// What the dialect needs of the server's catalogue; empty where names are found in any case.
+dialect::Catalogue readCatalogue(Session& session);
+/// A collation that takes no notice of case but of accents and of blanks at the end; empty where the
+/// server has none to offer.
+QString chooseCollation(Session& session);
+
+} // namespace zkp::ado::odbc

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "ado/dialect/catalogue.h"
+#include "ado/odbc/canceller.h"
+#include "ado/odbc/connection_text.h"
+#include "ado/odbc/diagnostics.h"
+#include "ado/odbc/handle.h"
+
+#include <QString>
+
+#include <optional>
+
+namespace zkp::ado::odbc {
+
+/// An open connection to a server.
+class Session {
+public:
+    /// Error kErrDatabase in the driver's words.
+    Session(const QString& connectionString, bool readOnly);
+    ~Session();
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
+
+    SQLHDBC connection() const { return connection_.get(); }
+    Dialect dialect() const { return dialect_; }
+    bool isReadOnly() const { return readOnly_; }
+    const QString& serverName() const { return serverName_; }
+    Canceller& canceller() { return canceller_; }
+    /// Whether a value that did not fit its buffer can be read in the middle of a block of rows.
+    bool readsInsideBlocks() const { return readsInsideBlocks_; }
+
+    /// Whether texts can be taken as UTF-8: MariaDB's driver hands on what the server sends, and its wide
+    /// characters fail where a text is cut.
+    bool givesUtf8() const { return givesUtf8_; }
+    void setGivesUtf8() { givesUtf8_ = true; }
+    /// The file name of the driver.
+    QString driverName() const;
+
+    /// True once the server or the network has ended the connection.
+    bool isLost() const { return lost_; }
+    /// The Error for what a call on a handle of this session just failed with; a cancelled statement
+    /// whose deadline is over is a time-out.
+    Error failure(SQLSMALLINT type, SQLHANDLE handle, Deadline deadline = {});
+
+    void begin();
+    void commit();
+    void rollback();
+    bool isInTransaction() const { return inTransaction_; }
+
+    void setLastStatement(const QString& text) { lastStatement_ = text; }
+    const QString& lastStatement() const { return lastStatement_; }
+
+    /// Names as the server's catalogue spells them, read when first asked for.
+    const dialect::Catalogue& catalogue();
+    /// It may have changed.
+    void forgetCatalogue() { catalogue_.reset(); }
+    /// The collation for comparisons with constants; empty where the server has none.
+    const QString& collation();
+
+private:
+    void connect(const QString& text);
+    void prepare();
+    QString info(SQLUSMALLINT what) const;
+    void setAutoCommit(bool on);
+    void endTransaction(SQLSMALLINT how);
+
+    Handle environment_;
+    Handle connection_;
+    bool connected_ = false;
+    Dialect dialect_ = Dialect::SqlServer;
+    bool readOnly_;
+    bool readsInsideBlocks_ = false;
+    bool givesUtf8_ = false;
+    bool inTransaction_ = false;
+    bool lost_ = false;
+    QString serverName_ = QStringLiteral("ODBC");
+    QString lastStatement_;
+    std::optional<dialect::Catalogue> catalogue_;
+    std::optional<QString> collation_;
+    Canceller canceller_;
+};
+
+} // namespace zkp::ado::odbc

@@ -1,0 +1,30 @@
+#include "ado/odbc/translate.h"
+
+namespace zkp::ado::odbc {
+
+dialect::Rewritten translate(Session& session, const QString& statement) {
+    const dialect::ServerFacts facts{
+        [&session](const std::vector<dialect::Token>& tokens) { return session.catalogue().namesIn(tokens); },
+        [&session] { return session.collation(); }};
+    switch (session.dialect()) {
+    case Dialect::PostgreSql:
+        return dialect::rewriteForPostgres(statement, facts);
+    case Dialect::MariaDb:
+        return dialect::rewriteForMariaDb(statement, facts);
+    default:
+        return {statement, {}};
+    }
+}
+
+QString quotedName(const Session& session, const QString& name) {
+    switch (session.dialect()) {
+    case Dialect::MariaDb:
+        return u'`' + QString(name).replace(u'`', QStringLiteral("``")) + u'`';
+    case Dialect::PostgreSql:
+        return u'"' + QString(name).replace(u'"', QStringLiteral("\"\"")) + u'"';
+    default:
+        return u'[' + QString(name).replace(u']', QStringLiteral("]]")) + u']';
+    }
+}
+
+} // namespace zkp::ado::odbc
