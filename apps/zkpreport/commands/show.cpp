@@ -7,7 +7,10 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFileInfo>
+#include <QThread>
+#include <QWindow>
 
 namespace zkp::app {
 
@@ -42,9 +45,24 @@ public:
     }
 };
 
+constexpr int kLongestWaitForScreen = 1000; // milliseconds
+
+/// A load lets no events in and shows how it goes all the same, on a window that is on screen already.
+void waitUntilOnScreen(const QWidget& window) {
+    QElapsedTimer clock;
+    clock.start();
+    while (window.windowHandle() && !window.windowHandle()->isExposed() &&
+           clock.elapsed() < kLongestWaitForScreen) {
+        QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QThread::msleep(2);
+    }
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
 int showWindow(const QString& database, const FirstReport& first) {
     ReportWindow window;
     window.show();
+    waitUntilOnScreen(window);
     window.showDatabase(database, first);
     return QApplication::exec();
 }

@@ -16,9 +16,8 @@ namespace {
 constexpr int kMargin = 4;
 constexpr int kEditWidth = 320;
 
-QToolButton* makeButton(QStyle::StandardPixmap icon, const QString& tip, QWidget* parent) {
+QToolButton* makeButton(const QString& tip, QWidget* parent) {
     auto* button = new QToolButton(parent);
-    button->setIcon(parent->style()->standardIcon(icon));
     button->setToolTip(tip);
     button->setAccessibleName(tip);
     button->setAutoRaise(true);
@@ -43,11 +42,12 @@ FindLine::FindLine(QWidget* parent)
     edit_->setClearButtonEnabled(true);
     edit_->setMinimumWidth(kEditWidth);
     note_->setObjectName(QStringLiteral("findNote"));
-    auto* previous = makeButton(QStyle::SP_ArrowUp,
-                                plain(texts::findPreviousAction()) + QStringLiteral(" (Shift+F3)"), this);
-    auto* next =
-        makeButton(QStyle::SP_ArrowDown, plain(texts::findNextAction()) + QStringLiteral(" (F3)"), this);
-    auto* close = makeButton(QStyle::SP_TitleBarCloseButton, texts::findCloseTip(), this);
+    auto* previous = makeButton(plain(texts::findPreviousAction()) + QStringLiteral(" (Shift+F3)"), this);
+    previous->setArrowType(Qt::UpArrow);
+    auto* next = makeButton(plain(texts::findNextAction()) + QStringLiteral(" (F3)"), this);
+    next->setArrowType(Qt::DownArrow);
+    auto* close = makeButton(texts::findCloseTip(), this);
+    close->setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
 
     auto* row = new QHBoxLayout(this);
     row->setContentsMargins(kMargin, kMargin, kMargin, kMargin);

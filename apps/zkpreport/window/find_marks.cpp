@@ -11,10 +11,22 @@ namespace zkp::app {
 
 namespace {
 
-const QColor kHit(255, 200, 0, 100); // seen on a light and on a dark ground
-const QColor kFound(255, 130, 0, 120);
-const QColor kFoundEdge(230, 100, 0);
+constexpr int kMiddleGrey = 128;
 constexpr int kEdge = 2;
+const QColor kEdgeColour(230, 100, 0);
+
+/// The texts under the sheet keep their colour: a light ground is darkened, a dark one made lighter.
+struct Tint {
+    explicit Tint(const QPalette& palette)
+        : isLight(palette.color(QPalette::Base).lightness() >= kMiddleGrey) {}
+
+    bool isLight;
+    QPainter::CompositionMode mode() const {
+        return isLight ? QPainter::CompositionMode_Multiply : QPainter::CompositionMode_Screen;
+    }
+    QColor hit() const { return isLight ? QColor(255, 240, 150) : QColor(90, 70, 0); }
+    QColor found() const { return isLight ? QColor(255, 200, 140) : QColor(150, 75, 0); }
+};
 
 } // namespace
 
@@ -66,15 +78,34 @@ std::vector<FoundCell> FindMarks::marked() const {
     return cells;
 }
 
+/// What shows of the found cell, with the cells that it shows as one with.
+QRect FindMarks::foundRect() const {
+    const GridSurface& surface = report_.grid().MSFlexGrid1();
+    const PageLayout& page = report_.view().page();
+    if (found_.row < 0 || page.rows.empty() || found_.row >= surface.Rows() || found_.col >= surface.Cols())
+        return {};
+    const CellRange block =
+        surface.mergedRange(found_.row, found_.col, found_.row, std::max(found_.row, page.rows.back().index));
+    QRect rect;
+    for (int row = std::max(block.top, surface.TopRow()); row <= block.bottom; ++row)
+        rect |= page.cellRect(row, found_.col);
+    return rect;
+}
+
 void FindMarks::paintEvent(QPaintEvent*) {
     QPainter painter(this);
+    const Tint tint(report_.palette());
     const PageLayout& page = report_.view().page();
-    for (const FoundCell& cell : marked())
-        painter.fillRect(page.cellRect(cell.row, cell.col), cell == found_ ? kFound : kHit);
-    const QRect found = page.cellRect(found_.row, found_.col);
+    const QRect found = foundRect();
+    painter.setCompositionMode(tint.mode());
+    for (const FoundCell& cell : marked()) {
+        const QRect rect = page.cellRect(cell.row, cell.col);
+        painter.fillRect(rect, found.contains(rect) ? tint.found() : tint.hit());
+    }
     if (found.isEmpty())
         return;
-    painter.setPen(QPen(kFoundEdge, kEdge));
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    painter.setPen(QPen(kEdgeColour, kEdge));
     painter.drawRect(found.adjusted(1, 1, -kEdge, -kEdge));
 }
 

@@ -30,6 +30,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    QRect foundRect() const;
+
     ZkpGridWidget& report_;
     FoldedNeedle needle_;
     FoundCell found_;

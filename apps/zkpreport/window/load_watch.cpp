@@ -1,5 +1,9 @@
 #include "window/load_watch.h"
 
+#include "base/scope_guard.h"
+
+#include <utility>
+
 namespace zkp::app {
 
 namespace {
@@ -65,6 +69,8 @@ void LoadWatch::setPointer(int pointer) {
 
 void LoadWatch::runPendingEvents() {
     note();
+    const bool before = std::exchange(isLettingEventsIn_, true);
+    const ScopeGuard restore([&] { isLettingEventsIn_ = before; });
     host_->runPendingEvents();
 }
 

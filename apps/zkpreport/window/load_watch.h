@@ -25,6 +25,8 @@ public:
     double statementMs() const { return statementMs_; }
     double wholeMs() const { return wholeMs_; }
     bool sawBox() const { return sawBox_; }
+    /// True while a load lets events in: the report is neither the old one nor the new one.
+    bool isLettingEventsIn() const { return isLettingEventsIn_; }
 
     int msgBox(const QString& text, int style, const QString& title) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title,
@@ -50,6 +52,7 @@ private:
     double statementMs_ = 0;
     double wholeMs_ = 0;
     bool sawBox_ = false;
+    bool isLettingEventsIn_ = false;
 };
 
 } // namespace zkp::app

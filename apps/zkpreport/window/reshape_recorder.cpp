@@ -34,6 +34,7 @@ void ReshapeRecorder::setReport(ZkpGridWidget* report) {
     connect(&events, &Events::addcolumn, this, &ReshapeRecorder::wait);
     connect(&events, &Events::InsertColumn, this, &ReshapeRecorder::wait);
     connect(&events, &Events::DelColumn, this, &ReshapeRecorder::wait);
+    connect(&events, &Events::MenuTitle, this, &ReshapeRecorder::wait);
     connect(&events, &Events::StopFillIng, this, &ReshapeRecorder::wait);
     // Colours and fonts that the control gives itself are told by the picture alone.
     connect(&events, &Events::StopInterface, this, &ReshapeRecorder::wait);
@@ -64,7 +65,16 @@ void ReshapeRecorder::settle() {
     const bool step = history_.note(ReshapeSnapshot::of(report_->grid()));
     if (step)
         Q_EMIT changed();
+    tell(step);
+}
+
+/// What the host makes of a step belongs to it.
+void ReshapeRecorder::tell(bool step) {
+    const QPointer<ReshapeRecorder> self(this);
+    const QPointer<ZkpGridWidget> report = report_;
     Q_EMIT settled(step);
+    if (self && report && report == report_)
+        history_.settle(ReshapeSnapshot::of(report->grid()));
 }
 
 void ReshapeRecorder::undo() {
@@ -101,9 +111,8 @@ void ReshapeRecorder::bringBack(const ReshapeSnapshot& shape) {
             return;
         grid.setRefreshOnChange(refreshesOnChange);
     }
-    history_.settle(ReshapeSnapshot::of(grid));
     Q_EMIT changed();
-    Q_EMIT settled(true);
+    tell(true);
 }
 
 void ReshapeRecorder::drawAgain(ZkpGrid& grid) {

@@ -46,6 +46,7 @@ Q_SIGNALS:
 private:
     void wait();
     void settle();
+    void tell(bool step);
     void bringBack(const ReshapeSnapshot& shape);
     void drawAgain(ZkpGrid& grid);
 

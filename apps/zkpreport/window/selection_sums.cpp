@@ -36,7 +36,7 @@ QString fixedText(Decimal::Int scaled, int decimals, const ReportLocale& locale)
     for (qsizetype place = whole - 3; place > 0; place -= 3)
         text.insert(place, locale.groupSign());
     if (decimals > 0)
-        text += locale.decimalSign() + QString::fromLatin1(digits.data() + whole, decimals);
+        text += locale.decimalSign().toString() + QString::fromLatin1(digits.data() + whole, decimals);
     return negative ? u'-' + text : text;
 }
 

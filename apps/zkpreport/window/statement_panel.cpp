@@ -61,6 +61,10 @@ void StatementPanel::setRecord(const LoadRecord& record) {
     const QLocale greek(QLocale::Greek, QLocale::Greece);
     built_->setPlainText(record.built);
     sent_->setPlainText(record.sent);
+    if (record.wholeMs == 0) {
+        figures_->setText(texts::recordsOnly(greek.toString(record.records)));
+        return;
+    }
     figures_->setText(texts::loadFigures(greek.toString(record.records),
                                          greek.toString(record.statementMs, 'f', 1),
                                          greek.toString(record.wholeMs, 'f', 1)));
