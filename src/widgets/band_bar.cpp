@@ -20,11 +20,12 @@ namespace {
 // Pixels.
 constexpr int kHeight = 28; // one row of small tools
 constexpr int kMargin = 3;
-constexpr int kGap = 1;
+constexpr int kGap = 2;
 constexpr int kSeparator = 7;
 constexpr int kLeastInput = 72; // a list or text that has to do with little
 constexpr int kWishedInput = 180;
 constexpr int kMore = 22;
+constexpr int kArrow = 10; // beside the icon of a tool that only opens its band
 
 RowItem itemOf(const Tool& tool, const QWidget& widget) {
     switch (tool.kind) {
@@ -34,8 +35,10 @@ RowItem itemOf(const Tool& tool, const QWidget& widget) {
     case ToolKind::Text:
         return {kLeastInput, kWishedInput};
     default:
-        return {widget.sizeHint().width(), widget.sizeHint().width()};
+        break;
     }
+    const int width = widget.sizeHint().width() + (tool.kind == ToolKind::SubMenu ? kArrow : 0);
+    return {width, width};
 }
 
 } // namespace

@@ -30,7 +30,7 @@ std::pair<std::size_t, std::size_t> touched(const std::vector<Span>& spans, int 
 
 void drawFocusRect(QPainter& painter, const SurfacePainter::Frame& frame, const QRect& cell) {
     const int width = frame.surface.look().FocusRect >= 2 ? 2 : 1;
-    const QColor color = frame.palette.color(frame.focused ? QPalette::Highlight : QPalette::Dark);
+    const QColor color = frame.palette.color(frame.focused ? QPalette::Highlight : QPalette::PlaceholderText);
     const QRect inner = cell.adjusted(0, 0, -1, -1); // inside the grid lines
     painter.fillRect(inner.left(), inner.top(), inner.width(), width, color);
     painter.fillRect(inner.left(), inner.bottom() - width + 1, inner.width(), width, color);

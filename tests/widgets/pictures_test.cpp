@@ -1,6 +1,7 @@
 // Pictures for the eye, under the build folder: pictures/*.png.
 
 #include "platform/menu_bar.h"
+#include "ui/menu_bands.h"
 #include "widgets/band_bar.h"
 #include "widgets/grid_view.h"
 
@@ -81,6 +82,18 @@ void fill(GridSurface& surface) {
     surface.Select(3, 3, 6, 5);
 }
 
+/// The control's own bands, in the state of a plain column.
+void fillBar(MenuBar& bar) {
+    buildMenuBands(bar);
+    bar.toolClicked = bar.listChanged = bar.textChanged = [](Tool&) {};
+    bar.Tools(u"txtRecs").Text = QStringLiteral("20.000");
+    bar.Tools(u"mnuAlignRight").Checked = true;
+    bar.Tools(u"mnuGraph").Enabled = false;
+    bar.Tools(u"mnuField").list = QStringList{QStringLiteral("Ασφάλιστρα")};
+    bar.Tools(u"mnuField").ListIndex = 0;
+    bar.Tools(u"mnuCaption").Text = QStringLiteral("Ασφάλιστρα");
+}
+
 /// The window at a scale, saved under a name; returns what was painted.
 QImage paintWindow(const QString& name, double scale, const QPalette& palette,
                    void (*change)(GridSurface&) = nullptr) {
@@ -89,12 +102,7 @@ QImage paintWindow(const QString& name, double scale, const QPalette& palette,
     if (change)
         change(surface);
     MenuBar bar;
-    Band& band = bar.addBand(QStringLiteral("BndTemplate"));
-    Tool count;
-    count.Name = QStringLiteral("txtRecs");
-    count.kind = ToolKind::Label;
-    count.Text = QStringLiteral("20.000");
-    bar.addTool(band, count);
+    fillBar(bar);
     QWidget window;
     window.setPalette(palette);
     window.resize(kSize);
@@ -126,6 +134,24 @@ TEST(Pictures, LightAtFullSize) {
 TEST(Pictures, LightAtTwiceTheSize) {
     const QImage image = paintWindow(QStringLiteral("report_200"), 2, QApplication::palette());
     EXPECT_EQ(image.size(), kSize * 2);
+}
+
+TEST(Pictures, TheRowOfToolsAtManyWidths) {
+    MenuBar bar;
+    fillBar(bar);
+    QWidget window;
+    BandBar row(bar, QStringLiteral("BndTemplate"), &window);
+    const int height = row.sizeHint().height();
+    QImage image(700, 8 * (height + 10), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    window.resize(700, height);
+    window.show();
+    for (int i = 0; i < 8; ++i) {
+        row.resize(700 - 85 * i, height);
+        QApplication::processEvents();
+        row.render(&image, QPoint(0, i * (height + 10)));
+    }
+    EXPECT_TRUE(image.save(QStringLiteral(ZKP_BINARY_DIR "/pictures/row_of_tools.png")));
 }
 
 TEST(Pictures, AtAnOddSize) {

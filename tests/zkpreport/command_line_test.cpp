@@ -45,7 +45,8 @@ protected:
 
 TEST_F(CommandLine, HelpTellsEveryCommandWithALineOfItsOwn) {
     EXPECT_EQ(start({QStringLiteral("--help")}), 0);
-    for (const char* name : {"\n  show ", "\n  run ", "\n  demo-db ", "\n  template ", "--help", "--version"})
+    for (const char* name :
+         {"\n  show ", "\n  run ", "\n  demo-db ", "\n  template ", "\n  shots ", "--help", "--version"})
         EXPECT_TRUE(output.contains(QLatin1String(name))) << name << qPrintable(output);
     EXPECT_EQ(errors, QString());
 }
@@ -56,7 +57,7 @@ TEST_F(CommandLine, VersionTellsTheProgramAndItsVersion) {
 }
 
 TEST_F(CommandLine, EachCommandHasAHelpOfItsOwn) {
-    for (const char* name : {"show", "run", "demo-db", "template"}) {
+    for (const char* name : {"show", "run", "demo-db", "template", "shots"}) {
         EXPECT_EQ(start({QLatin1String(name), QStringLiteral("--help")}), 0) << name;
         EXPECT_TRUE(output.contains(QLatin1String(name))) << qPrintable(output);
     }
@@ -163,6 +164,30 @@ TEST_F(CommandLine, ShowTellsADamagedDatabaseAndOneWithoutTheReport) {
     EXPECT_EQ(start({QStringLiteral("show"), QStringLiteral("empty.db")}), 1);
     EXPECT_NE(errors.trimmed(), QString());
     EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("plain_report.png"))));
+}
+
+TEST_F(CommandLine, ShotsDrawsEveryPictureThatItNames) {
+    EXPECT_EQ(start({QStringLiteral("shots"), QStringLiteral("pictures")}), 0) << qPrintable(errors);
+    const QDir pictures(folder.filePath(QStringLiteral("pictures")));
+    for (const char* name : {"plain_report", "grouped_report", "totals_report", "context_menu", "column_drag",
+                             "grouped_report_dark"}) {
+        const QString file = QStringLiteral("%1.png").arg(QLatin1String(name));
+        EXPECT_TRUE(output.contains(file)) << name;
+        EXPECT_EQ(QImage(pictures.filePath(file)).size(), QSize(1280, 800)) << name;
+    }
+    EXPECT_EQ(QImage(pictures.filePath(QStringLiteral("grouped_report_200.png"))).size(), QSize(2560, 1600));
+    const auto picture = [&](const char* name) { return QImage(pictures.filePath(QLatin1String(name))); };
+    EXPECT_NE(picture("context_menu.png"), picture("grouped_report.png")) << "a menu is open";
+    EXPECT_NE(picture("column_drag.png"), picture("grouped_report.png")) << "a heading is on its way";
+    EXPECT_EQ(pictures.entryList(QDir::Files).size(), output.count(u'\n'));
+}
+
+TEST_F(CommandLine, ShotsWantsAFolderAndADatabaseThatIsThere) {
+    EXPECT_EQ(start({QStringLiteral("shots")}), 2);
+    EXPECT_EQ(start({QStringLiteral("shots"), QStringLiteral("x"), QStringLiteral("--database"),
+                     QStringLiteral("none.db")}),
+              2);
+    EXPECT_TRUE(errors.contains(QStringLiteral("none.db"))) << qPrintable(errors);
 }
 
 TEST_F(CommandLine, ATemplateGoesThroughItsTextExactly) {

@@ -33,6 +33,7 @@ int runCommandLine(Start start);
 int runShow(Start start, const QStringList& arguments);
 int runRun(Start start, const QStringList& arguments);
 int runDemoDb(Start start, const QStringList& arguments);
+int runShots(Start start, const QStringList& arguments);
 int runTemplate(Start start, const QStringList& arguments);
 
 /// One line to standard output or standard error, in UTF-8.

@@ -16,6 +16,7 @@ constexpr std::array kCommands{
     Command{"demo-db", "FILE [--rows N] [--seed S]", "makes the demonstration database", runDemoDb},
     Command{"template", "list | export NAME FILE | import NAME FILE", "saved report shapes as text",
             runTemplate},
+    Command{"shots", "FOLDER [--database FILE]", "draws the window's reports into pictures", runShots},
 };
 
 void printHelp() {
