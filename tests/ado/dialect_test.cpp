@@ -46,7 +46,8 @@ TEST(Dialect, WhatIsDividedByASumOrASubqueryIsReal) {
     EXPECT_EQ(rewritten("SELECT SUM(A) / SUM(B) FROM T"), u("SELECT SUM(A) * 1.0 / SUM(B) FROM T"));
     EXPECT_EQ(rewritten("SELECT (Sum(A) * 100) / (SELECT Sum(A) FROM T) FROM T"),
               u("SELECT (Sum(A) * 100) * 1.0 / (SELECT Sum(A) FROM T) FROM T"));
-    EXPECT_EQ(rewritten("SELECT A/(B+1), A/sum, '/ SUM(' FROM T"), u("SELECT A/(B+1), A/sum, '/ SUM(' FROM T"));
+    EXPECT_EQ(rewritten("SELECT A/(B+1), A/sum, '/ SUM(' FROM T"),
+              u("SELECT A/(B+1), A/sum, '/ SUM(' FROM T"));
 }
 
 TEST(Dialect, ConvertOfADateBecomesAnIsoConstant) {
@@ -89,6 +90,12 @@ TEST(Dialect, ATextIsCutIntoItsStatements) {
     EXPECT_EQ(
         split(
             "CREATE TRIGGER t AFTER INSERT ON x BEGIN SELECT CASE WHEN 1 THEN 2 END; SELECT 2; END; SELECT 3")
+            .size(),
+        2u);
+    EXPECT_EQ(
+        split(
+            "CREATE OR REPLACE PROCEDURE p() BEGIN IF 1 THEN SELECT 1; END IF; CASE 1 WHEN 1 THEN SELECT 2; "
+            "END CASE; SELECT 3; END; SELECT 4")
             .size(),
         2u);
     EXPECT_TRUE(split("  ; -- nothing\n").empty());

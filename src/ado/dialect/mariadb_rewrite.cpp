@@ -57,7 +57,7 @@ private:
         }
     }
 
-    /// Tables are files, whose names have capitals; columns are found in any case.
+    /// Tables are files, whose names have capitals; columns are found in any case, Greek ones not always.
     void rewriteName(std::size_t k) {
         const Token& token = at(k);
         const QString name = nameOf(token);
@@ -98,7 +98,7 @@ private:
 Rewritten rewriteForMariaDb(const QString& statement, const ServerFacts& server) {
     if (const auto call = parseExec(statement))
         return {QStringLiteral("CALL %1(%2)").arg(quoted(call->name), argumentTexts(*call)), {}};
-    return {MariaDbRewriter(statement, server).rewrite(), {}};
+    return {MariaDbRewriter(statement, server).rewrite(), outputNames(tokenize(statement))};
 }
 
 } // namespace zkp::ado::dialect

@@ -88,6 +88,11 @@ private:
         if (collation.isEmpty())
             return;
         collateConstants(collation);
+        // Between its words the server takes no collation but in brackets.
+        for (std::size_t k = 1; k < count(); ++k) {
+            if (at(k - 1).isWord(u"between") && at(k).kind == TokenKind::Text && now(k) != at(k).text)
+                written(k) = u'(' + now(k) + u')';
+        }
         for (std::size_t k = 1; k < count(); ++k) {
             if (at(k).isWord(u"in") && at(k + 1).isSign(u"(") && at(k + 2).kind == TokenKind::Text)
                 collateList(k + 2, collation);

@@ -15,7 +15,7 @@ struct ServerFacts {
 /// A statement in a server's words.
 struct Rewritten {
     QString text;
-    QStringList outputNames; ///< as the statement writes them, where the server would fold them
+    QStringList outputNames; ///< as the statement writes them, since a server may fold or cut them
 };
 
 /// One statement of the report builders (SQL Server's and Jet's words) as PostgreSQL understands it: names

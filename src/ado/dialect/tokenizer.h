@@ -37,7 +37,7 @@ QString textOf(const Token& token);
 QString nameOf(const Token& token);
 
 /// The statements of a text, cut at each ";" outside constants, names, comments and the body of a
-/// trigger; pieces of nothing but blanks and comments are left out.
+/// trigger or routine; pieces of nothing but blanks and comments are left out.
 std::vector<QString> splitStatements(const QString& text);
 
 } // namespace zkp::ado::dialect

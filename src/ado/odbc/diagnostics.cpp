@@ -44,10 +44,12 @@ bool Diagnostics::isTimeout() const {
     return !states_.isEmpty() && isOneOf(states_.first(), std::array{"HYT00", "HYT01"});
 }
 
-// 57014 is PostgreSQL's, 70100 MariaDB's word for a statement that was ended from outside.
+// 57014 is PostgreSQL's, the numbers are MariaDB's words for a statement that was ended from outside.
 bool Diagnostics::isCancelled() const {
+    if (native_ == 1317 || native_ == 1969)
+        return true;
     return std::any_of(states_.begin(), states_.end(), [](const QString& state) {
-        return isOneOf(state, std::array{"HY008", "57014", "70100"});
+        return isOneOf(state, std::array{"HY008", "57014"});
     });
 }
 

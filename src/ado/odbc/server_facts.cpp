@@ -51,6 +51,12 @@ dialect::Catalogue readMariaDb(Session& session) {
         ask(session, "SELECT TABLE_NAME FROM information_schema.TABLES WHERE TABLE_SCHEMA = DATABASE()");
     for (std::size_t row = 0; row < names.table.rows; ++row)
         catalogue.addSpelling(names.table.columns[0]->value(row).toString());
+    const Result greek = ask(session, "SELECT TABLE_NAME, COLUMN_NAME FROM information_schema.COLUMNS WHERE "
+                                      "TABLE_SCHEMA = DATABASE() AND "
+                                      "COLUMN_NAME <> CONVERT(COLUMN_NAME USING ascii)");
+    for (std::size_t row = 0; row < greek.table.rows; ++row)
+        catalogue.addColumnSpelling(greek.table.columns[0]->value(row).toString(),
+                                    greek.table.columns[1]->value(row).toString());
     return catalogue;
 }
 

@@ -1,0 +1,141 @@
+#include "server_fixture.h"
+
+#include "base/currency.h"
+
+#include <QDateTime>
+
+namespace zkp::servers {
+
+using namespace zkp::ado;
+
+class ServerEditTest : public ServerTest {};
+INSTANTIATE_TEST_SUITE_P(Servers, ServerEditTest, testing::Values(kPostgres, kMariaDb),
+                         [](const auto& server) { return std::string(server.param.name); });
+
+TEST_P(ServerEditTest, AnAddedRecordIsWrittenAndBecomesTheCurrentOne) {
+    make("ZT_EDIT", isPostgres()
+                        ? "lstCode VARCHAR(50), ZKP_ BYTES, datein DATE, amount DECIMAL(19,4), flag BOOLEAN"
+                        : "lstCode VARCHAR(50), ZKP_ BYTES, datein DATE, amount DECIMAL(19,4), flag BIT(1)");
+    const auto rs = open("select * from ZT_EDIT where lstCode = 'new'", adLockOptimistic);
+    ASSERT_TRUE(rs->Eof());
+    const QByteArray bytes("\0\x01\xff'x", 5);
+    rs->AddNew();
+    rs->Fields().Item(u"lstCode").setValue(u("New"));
+    rs->Fields().Item(u"ZKP_").setValue(bytes);
+    rs->Fields().Item(u"datein").setValue(QDateTime(QDate(2026, 11, 20), QTime(13, 5, 9)));
+    rs->Fields().Item(u"amount").setValue(QVariant::fromValue(Currency{125'000}));
+    rs->Fields().Item(u"flag").setValue(true);
+    rs->Update();
+    EXPECT_EQ(rs->RecordCount(), 1);
+    EXPECT_EQ(rs->Collect(u("ZKP_")).toByteArray(), bytes);
+    EXPECT_EQ(rs->Collect(u("datein")).toDateTime(), QDateTime(QDate(2026, 11, 20), QTime(0, 0)));
+    EXPECT_EQ(rs->Collect(u("amount")).value<Currency>().scaled, 125'000);
+    EXPECT_EQ(rs->Collect(u("flag")).toBool(), true);
+    EXPECT_EQ(open("select * from ZT_EDIT where lstCode = 'NEW'")->RecordCount(), 1);
+}
+
+TEST_P(ServerEditTest, ARecordOfATableWithoutAKeyIsChangedInPlace) {
+    make("ZT_NOKEY", "lstCode INTEGER, ZKP_ BYTES");
+    run("INSERT INTO ZT_NOKEY VALUES (1, NULL), (2, NULL), (NULL, NULL)");
+    const auto rs = open("select * from ZT_NOKEY where lstCode = 2", adLockOptimistic);
+    for (const char* bytes : {"first", "second"}) {
+        rs->setCollect(u("ZKP_"), QByteArray(bytes));
+        rs->Update();
+        EXPECT_EQ(rs->Collect(u("ZKP_")).toByteArray(), QByteArray(bytes));
+    }
+    EXPECT_EQ(one("SELECT Count(*) FROM ZT_NOKEY WHERE ZKP_ IS NULL").toInt(), 2);
+    EXPECT_EQ(one("SELECT ZKP_ FROM ZT_NOKEY WHERE lstCode = 2").toByteArray(), QByteArray("second"));
+}
+
+TEST_P(ServerEditTest, ARecordIsFoundByItsPrimaryKeyThoughOthersLookTheSame) {
+    make("ZT_KEY", "A INTEGER, B VARCHAR(20), V VARCHAR(20), PRIMARY KEY (A, B)");
+    run("INSERT INTO ZT_KEY VALUES (1, 'x', 'same'), (1, 'y', 'same'), (2, 'x', 'same')");
+    const auto rs = open("SELECT B, V FROM ZT_KEY WHERE A = 1 ORDER BY B", adLockOptimistic);
+    rs->MoveLast();
+    rs->setCollect(u("V"), u("changed"));
+    rs->setCollect(u("B"), u("z"));
+    rs->Update();
+    rs->setCollect(u("V"), u("again"));
+    rs->Update();
+    EXPECT_EQ(firstField(open("SELECT V FROM ZT_KEY ORDER BY A, B")),
+              QStringList({u("same"), u("again"), u("same")}));
+}
+
+TEST_P(ServerEditTest, ValuesThatAServerMakesComeBack) {
+    make("ZT_AUTO", isPostgres() ? "ID SERIAL PRIMARY KEY, V VARCHAR(20)"
+                                 : "ID INTEGER AUTO_INCREMENT PRIMARY KEY, V VARCHAR(20)");
+    const auto rs = open("SELECT * FROM ZT_AUTO", adLockOptimistic);
+    for (int i = 1; i <= 2; ++i) {
+        rs->AddNew();
+        rs->setCollect(u("V"), u("v"));
+        rs->Update();
+        EXPECT_EQ(rs->Collect(u("ID")).toInt(), i);
+    }
+}
+
+TEST_P(ServerEditTest, WhatFailsWritesNothing) {
+    make("ZT_FAIL", "A INTEGER PRIMARY KEY, V VARCHAR(3)");
+    run("INSERT INTO ZT_FAIL VALUES (1, 'a')");
+    const auto rs = open("SELECT * FROM ZT_FAIL", adLockOptimistic);
+    rs->AddNew();
+    rs->setCollect(u("A"), 1);
+    EXPECT_EQ(errorOf([&] { rs->Update(); }).number(), kErrDatabase) << "the key is there already";
+    rs->CancelUpdate();
+    EXPECT_EQ(one("SELECT Count(*) FROM ZT_FAIL").toInt(), 1);
+}
+
+TEST_P(ServerEditTest, ATransactionIsKeptOrUndoneAsAWhole) {
+    make("ZT_TRANS", "A INTEGER PRIMARY KEY");
+    cn->BeginTrans();
+    run("INSERT INTO ZT_TRANS VALUES (1)");
+    const auto rs = open("SELECT * FROM ZT_TRANS", adLockOptimistic);
+    rs->AddNew();
+    rs->setCollect(u("A"), 2);
+    rs->Update();
+    EXPECT_EQ(errorOf([&] { cn->BeginTrans(); }).number(), kErrDatabase);
+    cn->RollbackTrans();
+    EXPECT_EQ(one("SELECT Count(*) FROM ZT_TRANS").toInt(), 0);
+    cn->BeginTrans();
+    run("INSERT INTO ZT_TRANS VALUES (3)");
+    cn->CommitTrans();
+    EXPECT_EQ(one("SELECT A FROM ZT_TRANS").toInt(), 3);
+    EXPECT_EQ(errorOf([&] { cn->CommitTrans(); }).number(), kErrDatabase);
+}
+
+TEST_P(ServerEditTest, FiftyMegabytesComeBackByteForByte) {
+    make("ZT_HUGE", "lstCode INTEGER PRIMARY KEY, ZKP_ BYTES");
+    QByteArray bytes(50 * 1024 * 1024, '\0');
+    for (qsizetype i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>(i * 31 + i / 65'521);
+    const auto rs = open("SELECT * FROM ZT_HUGE", adLockOptimistic);
+    rs->AddNew();
+    rs->setCollect(u("lstCode"), 1);
+    rs->setCollect(u("ZKP_"), bytes);
+    rs->Update();
+    EXPECT_TRUE(one("SELECT ZKP_ FROM ZT_HUGE").toByteArray() == bytes);
+    make("ZT_HUGE", "A INTEGER");
+}
+
+TEST_P(ServerEditTest, AConnectionForReadingWritesTemplatesAndSettingsOnly) {
+    make("frms2", "lstCode VARCHAR(50), ZKP_ BYTES, datein DATE");
+    make("ZT_READ", "A INTEGER");
+    const auto reader = std::make_shared<Connection>();
+    reader->setMode(adModeRead);
+    reader->Open(connectionString());
+    EXPECT_EQ(errorOf([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }).number(), kErrDatabase);
+    EXPECT_EQ(errorOf([&] { reader->Execute(u("DROP TABLE ZT_READ")); }).number(), kErrDatabase);
+    const auto rs = std::make_shared<Recordset>();
+    rs->Open(u("select * from frms2 where lstCode = 'x'"), reader, adOpenDynamic, adLockOptimistic);
+    rs->AddNew();
+    rs->setCollect(u("lstCode"), u("x"));
+    rs->Update();
+    const auto other = std::make_shared<Recordset>();
+    other->Open(u("select * from ZT_READ"), reader, adOpenDynamic, adLockOptimistic);
+    other->AddNew();
+    other->setCollect(u("A"), 1);
+    EXPECT_EQ(errorOf([&] { other->Update(); }).number(), kErrDatabase);
+    EXPECT_EQ(one("SELECT Count(*) FROM frms2").toInt(), 1);
+    EXPECT_EQ(one("SELECT Count(*) FROM ZT_READ").toInt(), 0);
+}
+
+} // namespace zkp::servers
