@@ -3,7 +3,9 @@
 #include "window_fixture.h"
 
 #include <QAction>
+#include <QDialog>
 #include <QLineEdit>
+#include <QTimer>
 
 namespace {
 
@@ -46,6 +48,19 @@ protected:
         settle();
     }
 
+    void dragHeading(int from, int to) {
+        const QPoint start = heading(from);
+        const QPoint end = heading(to);
+        QTest::mousePress(view().viewport(), Qt::LeftButton, Qt::NoModifier, start);
+        for (const QPoint at : {start - QPoint(15, 0), (start + end) / 2, end}) {
+            QMouseEvent move(QEvent::MouseMove, at, view().viewport()->mapToGlobal(at), Qt::NoButton,
+                             Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(view().viewport(), &move);
+        }
+        QTest::mouseRelease(view().viewport(), Qt::LeftButton, Qt::NoModifier, end);
+        settle();
+    }
+
     /// One step: it can be undone wholly, redone wholly, and undone again.
     void expectOneStep(const std::function<void()>& step) {
         const ReshapeSnapshot before = shape();
@@ -53,10 +68,10 @@ protected:
         ASSERT_FALSE(action("undo").isEnabled()) << "something was noted already";
         step();
         settle();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return action("undo").isEnabled(); }, 1000));
         const ReshapeSnapshot after = shape();
         const QStringList fieldsAfter = captions();
         EXPECT_FALSE(after.isSameShape(before));
-        ASSERT_TRUE(action("undo").isEnabled());
         undo();
         EXPECT_TRUE(shape().isSameShape(before));
         EXPECT_EQ(dump(), rowsBefore);
@@ -128,19 +143,54 @@ TEST_F(WindowUndo, ADraggedHeading) {
     ASSERT_TRUE(open());
     const int from = columnOf(kPremium);
     expectOneStep([&] {
-        const QPoint start = heading(from);
-        const QPoint end = heading(from - 2);
-        QTest::mousePress(view().viewport(), Qt::LeftButton, Qt::NoModifier, start);
-        for (const QPoint at : {start - QPoint(15, 0), (start + end) / 2, end}) {
-            QMouseEvent move(QEvent::MouseMove, at, view().viewport()->mapToGlobal(at), Qt::NoButton,
-                             Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(view().viewport(), &move);
-        }
-        QTest::mouseRelease(view().viewport(), Qt::LeftButton, Qt::NoModifier, end);
-        settle();
+        dragHeading(from, from - 2);
         EXPECT_EQ(columnOf(kPremium), from - 2);
     });
     EXPECT_EQ(columnOf(kPremium), from);
+}
+
+/// The question comes when the columns have moved already, and events go on while it stands.
+TEST_F(WindowUndo, ADraggedFactorWithItsQuestionIsOneStep) {
+    ASSERT_TRUE(open({{}, {}, {}, {QStringLiteral("CATEGORY"), QStringLiteral("PRODUCTNAME")}, true}));
+    int asked = 0;
+    host->onMsgBox = [&](const ScriptedHost::Message&) {
+        ++asked;
+        QDialog box(window.get());
+        QTimer::singleShot(120, &box, &QDialog::accept);
+        box.exec();
+        QApplication::setActiveWindow(window.get()); // as a window manager does
+        return kAnswerYes;
+    };
+    expectOneStep([&] {
+        dragHeading(1, 0);
+        EXPECT_EQ(asked, 1);
+        EXPECT_EQ(grid().ColDataField(0), QStringLiteral("PRODUCTNAME"));
+        EXPECT_EQ(groupList(1).currentData().toString(), QStringLiteral("PRODUCTNAME"));
+    });
+    EXPECT_EQ(grid().ColDataField(0), QStringLiteral("CATEGORY"));
+}
+
+/// A load lets events in once, while the columns are the new ones and the rows are not.
+TEST_F(WindowUndo, ALoadThatLetsEventsInIsNoStepOfItsOwn) {
+    ASSERT_TRUE(open());
+    host->onPendingEvents = [] { settle(); };
+    const int col = columnOf(kPremium);
+    grid().MSFlexGrid1().Select(1, col, 500, col);
+    QTest::keyClick(&view(), Qt::Key_F, Qt::ControlModifier);
+    part<QLineEdit>("findText").setText(QStringLiteral("ουδαμού"));
+    view().setFocus();
+    grid().MSFlexGrid1().userSelect(1, col);
+    expectOneStep([&] { choose(u"mnuSortDesc"); });
+}
+
+TEST_F(WindowUndo, APaletteIsNoStepAndEndsThoseBefore) {
+    ASSERT_TRUE(open());
+    choose(u"mnuAddColumn");
+    QPalette dark = window->palette();
+    dark.setColor(QPalette::Base, QColor(30, 30, 30));
+    window->setPalette(dark);
+    settle();
+    EXPECT_FALSE(action("undo").isEnabled());
 }
 
 TEST_F(WindowUndo, AResizedColumn) {

@@ -38,6 +38,8 @@ public:
     void watch(ado::Connection& connection);
     /// The control that the window shows, after each load of the window's own.
     void showReport(ZkpGridWidget* report);
+    /// The window itself has changed the report's colours: the shapes before have others.
+    void forgetSteps() { recorder_.begin(); }
 
 Q_SIGNALS:
     /// Events were let in after the report had changed; `step`: by a step of reshaping, or back.

@@ -316,6 +316,8 @@ void ReportWindow::changeEvent(QEvent* event) {
     colours_ = palette();
     fillReportColours(grid(), colours_);
     grid().DrawInterface();
+    if (isLoaded_)
+        tools_->forgetSteps();
 }
 
 void ReportWindow::showFilterKeys() {
