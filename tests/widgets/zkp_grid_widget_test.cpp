@@ -141,6 +141,7 @@ TEST_F(ZkpGridWidgetTest, TheControlMayBeDestroyedWhenARowIsChosen) {
 
 TEST_F(ZkpGridWidgetTest, TheFocusGoesToTheSurface) {
     form.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
     widget->setFocus();
     EXPECT_EQ(form.focusWidget(), &widget->view());
     widget->band().setFocus();
