@@ -84,9 +84,6 @@ inline QString fontSample() {
 inline QString fontSampleLetters() {
     return QStringLiteral("Ααβγδ 1.234,56 AaBb");
 }
-inline QString writingSystem() {
-    return QStringLiteral("Σύστημα &γραφής");
-}
 
 // The row of tools.
 inline QString moreTools() {

@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QToolButton>
@@ -18,6 +19,7 @@ namespace {
 constexpr int kWidestList = 420; // pixels
 constexpr int kFewLetters = 8;   // a list shows these at least
 constexpr int kIconSize = 16;
+constexpr int kLineEnds = 3; // what a separator leaves above and below
 
 /// A list may stand in a narrow place and opens as wide as its entries.
 class ToolCombo : public QComboBox {
@@ -34,6 +36,18 @@ public:
     }
 };
 
+/// One quiet line; the toolkit's own is bright on a dark palette.
+class SeparatorLine : public QFrame {
+public:
+    using QFrame::QFrame;
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter(this).fillRect(width() / 2, kLineEnds, 1, height() - 2 * kLineEnds,
+                                palette().color(QPalette::Mid));
+    }
+};
+
 QWidget* makeList(const Tool& tool, const BandActions& actions, QWidget* parent) {
     auto* list = new ToolCombo(parent);
     QObject::connect(list, &QComboBox::activated, list,
@@ -47,13 +61,6 @@ QWidget* makeText(const Tool& tool, const BandActions& actions, QWidget* parent)
         box, &QLineEdit::textEdited, box,
         [change = actions.changeText, name = tool.Name](const QString& text) { change(name, text); });
     return box;
-}
-
-QWidget* makeSeparator(QWidget* parent) {
-    auto* line = new QFrame(parent);
-    line->setFrameShape(QFrame::VLine);
-    line->setFrameShadow(QFrame::Sunken);
-    return line;
 }
 
 QWidget* makeButton(const Tool& tool, const BandActions& actions, const std::function<void(QMenu&)>& fillMenu,
@@ -104,7 +111,7 @@ QWidget* makeToolWidget(const Tool& tool, const BandActions& actions,
     case ToolKind::Label:
         return new QLabel(parent);
     case ToolKind::Separator:
-        return makeSeparator(parent);
+        return new SeparatorLine(parent);
     default:
         return makeButton(tool, actions, fillMenu, parent);
     }

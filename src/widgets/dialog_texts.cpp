@@ -33,7 +33,6 @@ constexpr Translation kTranslations[] = {
     {"Effects", texts::fontEffects},
     {"&Underline", texts::underline},
     {"Sample", texts::fontSample},
-    {"Wr&iting System", texts::writingSystem},
     {"OK", texts::ok},
     {"&OK", texts::ok},
     {"Cancel", texts::cancel},

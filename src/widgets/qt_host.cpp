@@ -7,11 +7,13 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QColorDialog>
+#include <QComboBox>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
@@ -101,13 +103,19 @@ QString dialogFilter(const QString& filter) {
     return entries.join(QStringLiteral(";;"));
 }
 
-/// A choice holds no strikeout: the box that would set it is hidden.
+/// A choice holds no strikeout, and fonts are not sought by alphabet: what would set these is hidden.
 QFontDialog* makeFontDialog(const QFont& font, QWidget* parent) {
     auto* dialog = new QFontDialog(font, parent);
     dialog->setOption(QFontDialog::DontUseNativeDialog);
     dialog->setWindowTitle(texts::chooseFont());
     for (auto* box : dialog->findChildren<QCheckBox*>())
-        box->setVisible(box->text() != QFontDialog::tr("Stri&keout"));
+        if (box->text() == QFontDialog::tr("Stri&keout"))
+            box->hide();
+    for (auto* label : dialog->findChildren<QLabel*>())
+        if (auto* alphabets = qobject_cast<QComboBox*>(label->buddy())) {
+            label->hide();
+            alphabets->hide();
+        }
     for (auto* line : dialog->findChildren<QLineEdit*>())
         if (line->text() == QStringLiteral("AaBbYyZz"))
             line->setText(texts::fontSampleLetters());

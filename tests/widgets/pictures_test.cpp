@@ -4,10 +4,12 @@
 #include "ui/menu_bands.h"
 #include "widgets/band_bar.h"
 #include "widgets/grid_view.h"
+#include "widgets/qt_host.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QPainter>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -152,6 +154,25 @@ TEST(Pictures, TheRowOfToolsAtManyWidths) {
         row.render(&image, QPoint(0, i * (height + 10)));
     }
     EXPECT_TRUE(image.save(QStringLiteral(ZKP_BINARY_DIR "/pictures/row_of_tools.png")));
+}
+
+TEST(Pictures, TheDialogs) {
+    const auto save = [](const char* name) {
+        QTimer::singleShot(0, qApp, [name] {
+            QWidget* dialog = QApplication::activeModalWidget();
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_TRUE(dialog->grab().save(
+                QStringLiteral(ZKP_BINARY_DIR "/pictures/%1.png").arg(QLatin1String(name))));
+            dialog->close();
+        });
+    };
+    QtHost host;
+    save("dialog_color");
+    host.colorDialog(0x8040C0);
+    save("dialog_font");
+    host.fontDialog({QStringLiteral("Liberation Sans"), 10});
+    save("dialog_box");
+    host.msgBox(QStringLiteral("Να ανανεώσω τώρα τη λίστα;"), kMsgBoxQuestion + 3, QStringLiteral("QRN"));
 }
 
 TEST(Pictures, AtAnOddSize) {
