@@ -55,18 +55,28 @@ TEST_F(WindowProgress, ALoadPaintsTheRowsReadAndLetsNoEventsIn) {
     EXPECT_EQ(events, 0);
     timer.stop();
     ASSERT_FALSE(log.painted.isEmpty());
-    EXPECT_THAT(log.painted.front().toStdString(), testing::StartsWith("Διαβάστηκαν 1"));
+    EXPECT_EQ(log.painted.front(), texts::loadBegins());
+    EXPECT_THAT(log.painted.value(1).toStdString(), testing::StartsWith("Διαβάστηκαν 1"));
     EXPECT_TRUE(log.painted.contains(texts::layingOut(QStringLiteral("45.000"))))
         << qPrintable(log.painted.join(u'|'));
     settle();
     EXPECT_EQ(label().text(), QString()) << "and is gone when the report is there";
 }
 
-TEST_F(WindowProgress, AShortLoadShowsNone) {
+TEST_F(WindowProgress, AShortLoadTellsNoRows) {
     settle();
     PaintLog log(label());
     ASSERT_TRUE(open());
-    EXPECT_TRUE(log.painted.isEmpty());
+    EXPECT_EQ(log.painted, QStringList{texts::loadBegins()});
+    settle();
+    EXPECT_EQ(label().text(), QString());
+}
+
+TEST_F(WindowProgress, ALoadThatFailsLeavesNothingBehind) {
+    ASSERT_TRUE(open());
+    applyFilter(QStringLiteral("NOSUCHFIELD=1"));
+    EXPECT_FALSE(host->messages.empty());
+    EXPECT_EQ(label().text(), QString());
 }
 
 } // namespace

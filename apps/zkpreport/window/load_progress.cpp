@@ -3,6 +3,7 @@
 #include "window/texts.h"
 
 #include <QLocale>
+#include <QTimer>
 
 namespace zkp::app {
 
@@ -39,6 +40,11 @@ LoadProgress::LoadProgress(QLabel& label)
     timer_.start();
 }
 
+void LoadProgress::begin() {
+    figures_ = {};
+    show(texts::loadBegins());
+}
+
 void LoadProgress::note(std::int64_t rows) {
     const std::int64_t now = timer_.elapsed();
     figures_.note(rows, now);
@@ -59,9 +65,12 @@ void LoadProgress::end() {
         label_->clear();
 }
 
+/// Once events come in again the load has ended, in whatever way.
 void LoadProgress::show(const QString& text) {
     if (!label_)
         return;
+    if (label_->text().isEmpty())
+        QTimer::singleShot(0, label_, &QLabel::clear);
     label_->setText(text);
     label_->repaint();
 }

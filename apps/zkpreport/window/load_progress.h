@@ -32,6 +32,8 @@ class LoadProgress {
 public:
     explicit LoadProgress(QLabel& label);
 
+    /// The statement goes to the database; until the first rows come there is nothing to tell.
+    void begin();
     /// What the connection's fetch callback reports.
     void note(std::int64_t rows);
     /// The records are there and become rows of the report; told of a fetch that was long enough to report.

@@ -18,6 +18,8 @@ void LoadWatch::begin(const ado::ConnectionPtr& connection) {
     statementMs_ = wholeMs_ = 0;
     sawBox_ = false;
     timer_.start();
+    if (began)
+        began();
 }
 
 void LoadWatch::end() {

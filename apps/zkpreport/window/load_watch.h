@@ -5,6 +5,7 @@
 
 #include <QElapsedTimer>
 
+#include <functional>
 #include <memory>
 
 namespace zkp::app {
@@ -17,6 +18,9 @@ class LoadWatch : public Host {
 public:
     explicit LoadWatch(std::shared_ptr<Host> host)
         : host_(std::move(host)) {}
+
+    /// Told when a load begins.
+    std::function<void()> began;
 
     void begin(const ado::ConnectionPtr& connection);
     void end();

@@ -84,6 +84,7 @@ void ReportWindow::connectWidgets() {
     });
     connect(sortAction_, &QAction::triggered, this, &ReportWindow::sortByCurrentColumn);
     connect(panelToggle_, &QAction::toggled, panel_, &QWidget::setVisible);
+    host_->began = [this] { tools_->loadBegins(); };
     connect(tools_, &ReportTools::settled, this, &ReportWindow::followControl);
     connectTemplates();
 }

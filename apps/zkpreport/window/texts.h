@@ -203,6 +203,9 @@ inline QString countOfCells(const QString& numbers, const QString& cells) {
 inline QString summing(int percent) {
     return QStringLiteral("Άθροισμα… %1%").arg(percent);
 }
+inline QString loadBegins() {
+    return QStringLiteral("Η βάση εκτελεί την εντολή…");
+}
 inline QString rowsRead(const QString& rows) {
     return QStringLiteral("Διαβάστηκαν %1 γραμμές").arg(rows);
 }
