@@ -145,6 +145,7 @@ TEST(GreekTexts, RawTextsAndEscapedQuotationMarksAreUnderstood) {
 
 TEST(GreekTexts, TheTextsThemselvesTestsAndProgramsAreFree) {
     EXPECT_TRUE(greekTextsOutsideTexts({{"src/base/texts.h", "\"Λάθος\""}}).empty());
+    EXPECT_TRUE(greekTextsOutsideTexts({{"src/base/dialog_texts.h", "\"Άκυρο\""}}).empty());
     EXPECT_TRUE(greekTextsOutsideTexts({{"apps/zkpreport/a.cpp", "\"Λάθος\""}}).empty());
 }
 

@@ -9,8 +9,8 @@ namespace zkp::architecture {
 /// Files with more lines than `most`.
 std::vector<Finding> filesLongerThan(std::size_t most, const std::vector<SourceFile>& files);
 
-/// Greek text between quotation marks outside base/texts.h, in files below src/. Comments and single
-/// characters may be Greek.
+/// Greek text between quotation marks outside base/texts.h and base/dialog_texts.h, in files below src/.
+/// Comments and single characters may be Greek.
 std::vector<Finding> greekTextsOutsideTexts(const std::vector<SourceFile>& files);
 
 /// Lines of build files (CMakeLists.txt, *.cmake) and test sources that compile sources of src/, apps/,
