@@ -216,6 +216,10 @@ void BandBar::popup(const Band& band) {
     menu_ = new QMenu(this);
     menu_->setAttribute(Qt::WA_DeleteOnClose);
     fillBandMenu(*menu_, *bar_, band.tools, actions());
+    if (menu_->isEmpty()) {
+        delete menu_;
+        return;
+    }
     const std::optional<QPoint> place = keyboardPlace ? keyboardPlace() : std::nullopt;
     menu_->popup(place.value_or(QCursor::pos()));
     if (place) {

@@ -11,6 +11,7 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QToolButton>
+#include <QWheelEvent>
 
 namespace zkp {
 
@@ -34,6 +35,10 @@ public:
         view()->setMinimumWidth(std::min(kWidestList, entries));
         QComboBox::showPopup();
     }
+
+protected:
+    /// A wheel that turns on its way over the row must not give a column another field.
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 
 /// One quiet line; the toolkit's own is bright on a dark palette.
@@ -120,13 +125,19 @@ QWidget* makeToolWidget(const Tool& tool, const BandActions& actions,
 void syncToolWidget(QWidget& widget, const Tool& tool) {
     const QSignalBlocker quiet(widget);
     widget.setEnabled(tool.Enabled);
-    widget.setToolTip(tip(tool));
-    widget.setAccessibleName(tip(tool));
+    if (const QString name = tip(tool);
+        widget.toolTip() != name) { // each assignment is told to screen readers
+        widget.setToolTip(name);
+        widget.setAccessibleName(name);
+    }
     if (auto* button = qobject_cast<QToolButton*>(&widget)) {
-        button->setText(tool.Caption);
+        if (button->text() != tool.Caption)
+            button->setText(tool.Caption);
         button->setChecked(tool.Checked);
     } else if (auto* label = qobject_cast<QLabel*>(&widget)) {
-        label->setText(tool.Text.isEmpty() ? tool.Caption : tool.Text);
+        const QString& text = tool.Text.isEmpty() ? tool.Caption : tool.Text;
+        if (label->text() != text)
+            label->setText(text);
     } else if (auto* box = qobject_cast<QLineEdit*>(&widget)) {
         box->setPlaceholderText(tip(tool));
         if (box->text() != tool.Text)

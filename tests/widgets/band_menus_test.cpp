@@ -93,6 +93,12 @@ TEST_F(BandMenus, AButtonWithASubbandKeepsItsOwnCommand) {
     EXPECT_EQ(done, (QStringList{QStringLiteral("mnuGraph"), QStringLiteral("mnuPieChart")}));
 }
 
+TEST_F(BandMenus, ABandWithNothingToShowOpensNoMenu) {
+    command(context(), u"gone", u"Κρυμμένη").Visible = false;
+    bar.popup(u" mnuContext");
+    EXPECT_EQ(openMenu(), nullptr);
+}
+
 TEST_F(BandMenus, EntriesHaveTheIconsOfTheirTools) {
     command(context(), u"mnuRefresh", u"Ανανέωση");
     opener(context(), u"mnuColumn", u"Στήλη", ToolKind::SubMenu);

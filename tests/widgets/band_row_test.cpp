@@ -122,6 +122,36 @@ TEST_F(BandRow, GreekIsTypedIntoTheCaption) {
     EXPECT_EQ(typed, QStringList{QStringLiteral("Ασφάλιστρα")});
 }
 
+TEST_F(BandRow, AWheelOverTheListChoosesNothing) {
+    int chosen = 0;
+    bar.listChanged = [&](Tool&) { ++chosen; };
+    auto* list = tool<QComboBox>("mnuField");
+    list->setFocus();
+    QWheelEvent wheel({5, 5}, list->mapToGlobal(QPoint(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(list, &wheel);
+    EXPECT_EQ(chosen, 0);
+    EXPECT_EQ(list->currentIndex(), -1);
+}
+
+TEST_F(BandRow, ARowThatIsInLineIsLeftAlone) {
+    row->sync();
+    int told = 0;
+    struct Counter : QObject {
+        int& told;
+        explicit Counter(int& count)
+            : told(count) {}
+        bool eventFilter(QObject*, QEvent* event) override {
+            told += event->type() == QEvent::ToolTipChange || event->type() == QEvent::UpdateRequest;
+            return false;
+        }
+    } counter(told);
+    tool<QToolButton>("mnuRefresh")->installEventFilter(&counter);
+    tool<QComboBox>("mnuField")->installEventFilter(&counter);
+    row->sync();
+    EXPECT_EQ(told, 0);
+}
+
 TEST_F(BandRow, EnterAndEscapeLeaveTheRow) {
     int left = 0;
     QObject::connect(row.get(), &BandBar::left, row.get(), [&] { ++left; });
