@@ -112,10 +112,13 @@ start_postgres() {
     as_user postgres "$postgres_bin/postgres" -D "$home/data" -p "$port" -c listen_addresses=127.0.0.1 \
         -c unix_socket_directories= -c fsync=off >"$home.log" 2>&1 9>&- </dev/null &
     wait_for PostgreSQL env PGPASSWORD=zkp psql -h 127.0.0.1 -p "$port" -U zkp -d postgres -c "SELECT 1"
-    export ZKP_TEST_POSTGRES="Driver={PostgreSQL Unicode};Server=127.0.0.1;Port=$port;UID=zkp;PWD=zkp;Database=zkp"
-    export ZKP_TEST_POSTGRES_PID="$home/data/postmaster.pid"
-    PGPASSWORD=zkp quietly psql -h 127.0.0.1 -p "$port" -U zkp -d postgres \
-        -c "DROP DATABASE IF EXISTS zkp WITH (FORCE)" -c "CREATE DATABASE zkp"
+    local login="Driver={PostgreSQL Unicode};Server=127.0.0.1;Port=$port;UID=zkp;PWD=zkp"
+    export ZKP_TEST_POSTGRES="$login;Database=zkp" ZKP_TEST_POSTGRES_DEMO="$login;Database=zkpdemo"
+    local name
+    for name in zkp zkpdemo; do
+        PGPASSWORD=zkp quietly psql -h 127.0.0.1 -p "$port" -U zkp -d postgres \
+            -c "DROP DATABASE IF EXISTS $name WITH (FORCE)" -c "CREATE DATABASE $name"
+    done
 }
 
 make_mariadb_data() {
@@ -138,11 +141,21 @@ start_mariadb() {
         --max-allowed-packet=256M >"$home.log" 2>&1 9>&- </dev/null &
     local root=(mariadb --no-defaults --protocol=tcp -h 127.0.0.1 -P "$port" -u root)
     wait_for MariaDB "${root[@]}" -e "SELECT 1"
-    export ZKP_TEST_MARIADB="Driver={MariaDB Unicode};Server=127.0.0.1;Port=$port;UID=zkp;PWD=zkp;Database=zkp"
-    export ZKP_TEST_MARIADB_PID="$home/server.pid"
-    quietly "${root[@]}" -e "DROP DATABASE IF EXISTS zkp;
+    local login="Driver={MariaDB Unicode};Server=127.0.0.1;Port=$port;UID=zkp;PWD=zkp"
+    export ZKP_TEST_MARIADB="$login;Database=zkp" ZKP_TEST_MARIADB_DEMO="$login;Database=zkpdemo"
+    quietly "${root[@]}" -e "DROP DATABASE IF EXISTS zkp; DROP DATABASE IF EXISTS zkpdemo;
         CREATE DATABASE zkp CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin;
+        CREATE DATABASE zkpdemo CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin;
         CREATE OR REPLACE USER zkp@'127.0.0.1' IDENTIFIED BY 'zkp'; GRANT ALL ON *.* TO zkp@'127.0.0.1'"
+}
+
+# The same demonstration data in a file and on each server.
+load_demo() { # PROGRAM
+    export ZKP_TEST_DEMO=$PWD/build/servers-demo.db
+    rm -f "$ZKP_TEST_DEMO"
+    quietly "$1" demo-db "$ZKP_TEST_DEMO" --rows 2000
+    quietly "$1" demo-db --into "$ZKP_TEST_POSTGRES_DEMO" --rows 2000
+    quietly "$1" demo-db --into "$ZKP_TEST_MARIADB_DEMO" --rows 2000
 }
 
 start_servers() {

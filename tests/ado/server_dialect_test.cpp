@@ -97,8 +97,16 @@ TEST(PostgresDialect, GroupsComeSortedWhereNoOrderIsGiven) {
     EXPECT_EQ(
         postgres("SELECT DISTINCT [A].[B] AS [K], Count(*) as cnt  FROM  T  Where  0=0  Group By [A].[B]"),
         u("SELECT DISTINCT \"a\".\"b\" AS \"k\", Count(*) as cnt  FROM  T  Where  0=0  Group By \"a\".\"b\" "
-          "ORDER BY \"a\" . \"b\" NULLS FIRST"));
+          "ORDER BY \"a\".\"b\" NULLS FIRST"));
     EXPECT_EQ(postgres("SELECT Count(*) FROM T Group By A"), u("SELECT Count(*) FROM T Group By A"));
+    EXPECT_EQ(
+        postgres("SELECT DISTINCT A,B, Count(*) As Cnt FROM T Group By A,B order by A"),
+        u("SELECT DISTINCT A,B, Count(*) As Cnt FROM T Group By A,B order by A NULLS FIRST, B NULLS FIRST"));
+    EXPECT_EQ(
+        mariaDb("SELECT A, YEAR(B) FROM T Group By A,YEAR(B) HAVING A>1 order by Count(*) desc,a asc"),
+        u("SELECT A, YEAR(B) FROM T Group By A,YEAR(B) HAVING A>1 order by Count(*) desc,a asc, YEAR(B)"));
+    const char* both = "SELECT A FROM T Group By A UNION SELECT B FROM U";
+    EXPECT_EQ(postgres(both), u(both));
 }
 
 TEST(PostgresDialect, FieldsKeepTheNamesThatTheStatementWrites) {

@@ -13,7 +13,7 @@ constexpr std::array kCommands{
     Command{"show", "[--database FILE] [OPTION...]", "shows the reports of a database; the usual command",
             runShow},
     Command{"run", "FILE.js [ARGUMENT...]", "runs a script, with no window and no display", runRun},
-    Command{"demo-db", "FILE [--rows N] [--seed S]", "makes the demonstration database", runDemoDb},
+    Command{"demo-db", "FILE|--into CONNECTION [--rows N] [--seed S]", "makes the demonstration database", runDemoDb},
     Command{"template", "list | export NAME FILE | import NAME FILE", "saved report shapes as text",
             runTemplate},
     Command{"shots", "FOLDER [--database FILE]", "draws the window's reports into pictures", runShots},

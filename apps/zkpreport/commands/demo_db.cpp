@@ -1,10 +1,12 @@
 #include "commands/arguments.h"
 #include "commands/command.h"
+#include "commands/database_copy.h"
 
 #include "base/error.h"
 #include "demo/demo_database.h"
 
 #include <QCoreApplication>
+#include <QTemporaryDir>
 
 namespace zkp::app {
 
@@ -25,6 +27,19 @@ std::optional<Number> numberOf(const QCommandLineParser& parser, const QString& 
     return static_cast<Number>(number);
 }
 
+/// Into a server, by way of a file that goes again.
+void makeInto(demo::Options options, const QString& connectionString) {
+    const QTemporaryDir folder;
+    options.file = folder.filePath(QStringLiteral("demo.db"));
+    demo::makeDatabase(options);
+    const auto from = std::make_shared<ado::Connection>();
+    from->Open(QStringLiteral("sqlite:") + options.file);
+    const auto into = std::make_shared<ado::Connection>();
+    into->setCommandTimeout(0);
+    into->Open(connectionString);
+    copyDemoDatabase(from, into);
+}
+
 } // namespace
 
 int runDemoDb(Start start, const QStringList& arguments) {
@@ -35,6 +50,9 @@ int runDemoDb(Start start, const QStringList& arguments) {
         QStringLiteral("Makes the demonstration database of an insurance office."));
     parser.addPositionalArgument(QStringLiteral("FILE"),
                                  QStringLiteral("Where it goes; must not exist yet."));
+    parser.addOption({QStringLiteral("into"),
+                      QStringLiteral("In place of a file: into an empty PostgreSQL or MariaDB database."),
+                      QStringLiteral("CONNECTION")});
     parser.addOption({QStringLiteral("rows"), QStringLiteral("How many policies (%1).").arg(options.policies),
                       QStringLiteral("N")});
     parser.addOption(
@@ -43,19 +61,24 @@ int runDemoDb(Start start, const QStringList& arguments) {
          QStringLiteral("S")});
     if (const auto exitCode = parseArguments(parser, QStringLiteral("demo-db"), arguments))
         return *exitCode;
-    if (parser.positionalArguments().size() != 1) {
-        printError(QStringLiteral("zkpreport demo-db: name one file to make"));
+    const QString into = parser.value(QStringLiteral("into"));
+    if (parser.positionalArguments().size() != (into.isEmpty() ? 1 : 0)) {
+        printError(QStringLiteral("zkpreport demo-db: name one file to make, or --into one database"));
         return kExitUsage;
     }
     const auto rows = numberOf<int>(parser, QStringLiteral("rows"), options.policies);
     const auto seed = numberOf<std::uint32_t>(parser, QStringLiteral("seed"), options.seed);
     if (!rows || !seed)
         return kExitUsage;
-    options.file = parser.positionalArguments().front();
     options.policies = *rows;
     options.seed = *seed;
     try {
-        demo::makeDatabase(options);
+        if (into.isEmpty()) {
+            options.file = parser.positionalArguments().front();
+            demo::makeDatabase(options);
+        } else {
+            makeInto(options, into);
+        }
     } catch (const Error& error) {
         printError(QStringLiteral("zkpreport demo-db: %1").arg(error.description()));
         return kExitFailed;

@@ -195,14 +195,16 @@ private:
     }
 
     void sortGroups() {
-        QStringList order;
-        for (const QString& group : groupsToSortBy(tokens_))
-            order << rewriteNames(group) + QStringLiteral(" NULLS FIRST");
+        const GroupOrder order = groupOrder(tokens_);
+        QStringList items;
+        for (const QString& item : order.items)
+            items << rewriteNames(item) + QStringLiteral(" NULLS FIRST");
         std::size_t last = count();
         while (last > 0 && at(last - 1).isSign(u";"))
             --last;
-        if (!order.isEmpty() && last > 0)
-            written(last - 1) += QStringLiteral(" ORDER BY ") + order.join(QStringLiteral(", "));
+        if (!items.isEmpty() && last > 0)
+            written(last - 1) += (order.behindOrder ? QStringLiteral(", ") : QStringLiteral(" ORDER BY ")) +
+                                 items.join(QStringLiteral(", "));
     }
 
     QString rewriteNames(const QString& part) const {

@@ -71,6 +71,17 @@ Item expressionOf(const Item& item) {
     return aliased ? Item(item.begin(), item.end() - 2) : item;
 }
 
+/// An item of an order without its direction.
+Item sortedBy(const Item& item) {
+    const bool directed = item.size() > 1 && isOneOf(item.back(), {u"asc", u"desc"});
+    return directed ? Item(item.begin(), item.end() - 1) : item;
+}
+
+/// As it stands in the statement, blanks included: they may mean something ahead of a bracket.
+QString sourceText(const Item& item) {
+    return QStringView(item.front().text.begin(), item.back().text.end()).toString();
+}
+
 bool sameText(const Item& a, const Item& b) {
     return textOfItem(a).compare(textOfItem(b), Qt::CaseInsensitive) == 0;
 }
@@ -116,29 +127,34 @@ QStringList sourceColumns(const std::vector<Token>& statement) {
     return columns;
 }
 
-QStringList groupsToSortBy(const std::vector<Token>& statement) {
+GroupOrder groupOrder(const std::vector<Token>& statement) {
     const std::vector<Token> tokens = solid(statement);
     std::size_t at = 0;
     const std::vector<Item> selected = selectItems(tokens, at);
     at = selected.empty() ? 0 : behindGroupBy(tokens, at);
     if (at == 0)
         return {};
-    const std::vector<Item> groups = itemsUpTo(tokens, at, [](const Token& token) {
+    const auto ends = [](const Token& token) {
         return isOneOf(token, {u"having", u"order", u"union", u"except", u"intersect", u"limit"}) ||
                token.isSign(u";");
-    });
-    // A select in brackets behind it, or a further one, would be another's order.
-    const bool ordered =
-        std::any_of(tokens.begin() + static_cast<std::ptrdiff_t>(at), tokens.end(), [](const Token& token) {
-            return isOneOf(token, {u"order", u"union", u"except", u"intersect"});
-        });
-    QStringList order;
+    };
+    const std::vector<Item> groups = itemsUpTo(tokens, at, ends);
+    if (at < tokens.size() && tokens[at].isWord(u"having"))
+        itemsUpTo(tokens, ++at, ends);
+    GroupOrder order;
+    order.behindOrder = at < tokens.size() && tokens[at].isWord(u"order");
+    at += order.behindOrder ? 2 : 0;
+    const std::vector<Item> sorted = order.behindOrder ? itemsUpTo(tokens, at, ends) : std::vector<Item>();
+    if (at < tokens.size() && !tokens[at].isSign(u";"))
+        return {};
     for (const Item& group : groups) {
-        const bool inList = std::any_of(selected.begin(), selected.end(), [&](const Item& item) {
+        const bool selectedToo = std::any_of(selected.begin(), selected.end(), [&](const Item& item) {
             return sameText(expressionOf(item), group);
         });
-        if (!ordered && inList && !group.empty())
-            order << textOfItem(group);
+        const bool sortedToo = std::any_of(sorted.begin(), sorted.end(),
+                                           [&](const Item& item) { return sameText(sortedBy(item), group); });
+        if (selectedToo && !sortedToo && !group.empty())
+            order.items << sourceText(group);
     }
     return order;
 }

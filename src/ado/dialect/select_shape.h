@@ -15,8 +15,12 @@ QStringList outputNames(const std::vector<Token>& statement);
 /// empty texts for expressions, "*" for all columns.
 QStringList sourceColumns(const std::vector<Token>& statement);
 
-/// The texts of the group items that a select also has in its list, by which a server that gives groups
-/// in any order is told to sort them; empty for a statement that has an order of its own, or no groups.
-QStringList groupsToSortBy(const std::vector<Token>& statement);
+/// How a select that groups has to be told to sort its groups, for a server that gives them in any order.
+struct GroupOrder {
+    bool behindOrder = false; ///< the select has an order of its own, which goes ahead
+    QStringList items;        ///< texts of the group items that are in the select's list and not in its order
+};
+/// No items for what does not group, or is more than one select.
+GroupOrder groupOrder(const std::vector<Token>& statement);
 
 } // namespace zkp::ado::dialect

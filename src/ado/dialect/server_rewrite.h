@@ -22,7 +22,7 @@ struct Rewritten {
 /// are folded to small letters as it folds them itself, unless its catalogue keeps them otherwise; TOP n
 /// becomes LIMIT n, Convert(Datetime,'…',102) an ISO date, exec a select from the function; flags compare
 /// with numbers and stand bare, comparisons with constants ignore case, nulls sort first and groups come
-/// sorted. Constants are never touched inside.
+/// sorted by all their items. Constants are never touched inside.
 Rewritten rewriteForPostgres(const QString& statement, const ServerFacts& server);
 
 /// The same for MariaDB, which needs names in its own signs, tables as its catalogue spells them, LIMIT,

@@ -99,8 +99,12 @@ void prepareServer(Session& session) {
     if (session.dialect() != Dialect::MariaDb)
         return;
     ask(session, "SET SESSION sql_mode = CONCAT(@@sql_mode, ',NO_BACKSLASH_ESCAPES,PIPES_AS_CONCAT')");
-    const Result sent = ask(session, "SELECT @@character_set_results");
-    const QString charset = sent.table.columns[0]->value(0).toString();
+    const Result told = ask(session, "SELECT @@character_set_results, @@collation_database");
+    const QString charset = told.table.columns[0]->value(0).toString();
+    const QString collation = told.table.columns[1]->value(0).toString();
+    // Texts that a statement makes itself are sorted and grouped as those of the tables.
+    if (collation.startsWith(QStringLiteral("utf8mb4_")))
+        ask(session, "SET collation_connection = @@collation_database");
     if (session.driverName().contains(QStringLiteral("maodbc")) && charset.startsWith(QStringLiteral("utf8")))
         session.setGivesUtf8();
 }
