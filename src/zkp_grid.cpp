@@ -89,6 +89,7 @@ void ZkpGrid::Parts::connectHooks() {
         else
             menuState.fillcombos();
     };
+    hooks.MenuRefresh = [this] { menuState.MenuRefresh(); };
     hooks.FindMaster = [this] { masterTable.FindMaster(); };
     hooks.DetailStatement = [this] { return dispatch.DetailStatement(); };
     hooks.OpenTotalRecordset = [this] { dispatch.OpenTotalRecordset(); };

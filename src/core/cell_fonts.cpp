@@ -37,7 +37,8 @@ void FontWriter::paintHeading() {
 void FontWriter::FontsRow(int row, const FontMarks& marks) {
     const SelectionQuiet quiet(state_);
     const int last = surface_.Cols() - 1;
-    mark({row, std::min(surface_.FixedCols(), last), row, last}, marks);
+    if (last >= 0)
+        mark({row, std::min(surface_.FixedCols(), last), row, last}, marks);
     surface_.setFillStyle(1); // stays so, as wanted
     report(QStringLiteral("Row"));
     report(QStringLiteral("Col"));

@@ -5,6 +5,8 @@
 #include "base/text.h"
 #include "support/utility.h"
 
+#include <algorithm>
+
 namespace zkp {
 
 void GroupColumns::InsertColumn(int whereisit) {
@@ -64,13 +66,17 @@ void GroupColumns::MakeFixedForGroup() {
     recallFactors();
     if (state_.Groupby.isEmpty())
         return;
-    state_.GroupFactors = state_.Groupby.split(u',');
-    state_.GroupFactorCount = toInt16(state_.GroupFactors.size());
-    for (int i = 0; i < state_.GroupFactorCount; ++i)
-        placeFactor(i, state_.GroupFactors[i]);
+    const QStringList factors = state_.Groupby.split(u','); // handlers may change the members
+    const int count = toInt16(factors.size());
+    state_.GroupFactors = factors;
+    state_.GroupFactorCount = toInt16(count);
+    for (int i = 0; i < count; ++i) {
+        placeFactor(i, factors[i]);
+        state_.throwIfDestroyed();
+    }
     state_.givenGroupby.reset(); // from here on the flags tell
     surface_.setMergeCells(1);
-    for (int i = 0; i < state_.GroupFactorCount; ++i)
+    for (int i = 0; i < std::min(count, surface_.Cols()); ++i)
         surface_.setMergeCol(i, true);
 }
 

@@ -17,7 +17,7 @@ void GroupFactorFlags::CheckGroupBy(int cols) {
     state_.GroupFactorCount = 0;
     state_.givenGroupby.reset();
     QStringList fields;
-    for (int c = 0; c < cols; ++c) {
+    for (int c = 0; c < std::min(cols, columns_.Count()); ++c) {
         const Column& column = columns_.ofGridColumn(c);
         if (!column.ForTot)
             continue;

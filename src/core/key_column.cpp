@@ -3,10 +3,13 @@
 #include "base/number.h"
 #include "support/utility.h"
 
+#include <algorithm>
+
 namespace zkp {
 
 double KeyColumn::FindKeyColumn() const {
-    for (int c = 0; c < surface_.Cols(); ++c)
+    const int count = std::min(surface_.Cols(), columns_.Count()); // a host may leave them different
+    for (int c = 0; c < count; ++c)
         if (columns_.ofGridColumn(c).Index_Key)
             return c;
     return -1;

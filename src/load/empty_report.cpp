@@ -24,6 +24,8 @@ void EmptyReport::prepare() {
     if (surface_.Cols() > 0)
         surface_.setCol(0);
     LoadHooks::run(hooks_.FieldListChanged);
+    LoadHooks::run(hooks_.MenuRefresh);
+    state_.throwIfDestroyed();
     menu_.Refresh();
     if (!state_.TotalForm)
         host_.setPointer(kPointerDefault);

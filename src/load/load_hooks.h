@@ -12,6 +12,7 @@ struct LoadHooks {
     // Statements.
     std::function<void()> FindMaster;         ///< the report's master table
     std::function<void()> FieldListChanged;   ///< rebuilds the field menus
+    std::function<void()> MenuRefresh;        ///< brings the tools in line with the current column
     std::function<QString()> DetailStatement; ///< empty: a source without text of its own is an error
     std::function<void()> OpenTotalRecordset; ///< empty: a totals report is an error
     std::function<void()> RunTimeSQLCounter;  ///< its text is not run

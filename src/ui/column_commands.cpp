@@ -56,9 +56,10 @@ bool ColumnCommands::makeFactor(int position) {
     if (surface_.Cols() == before)
         return false;
     properties_.setColForTot(position, true);
-    fonts_.CellFonts(0, position,
-                     {state_.FixedFontSize, state_.FixedFontBold, state_.FixedFontUnderline,
-                      state_.FixedFontItalic, std::nullopt});
+    if (surface_.Rows() > 0)
+        fonts_.CellFonts(0, position,
+                         {state_.FixedFontSize, state_.FixedFontBold, state_.FixedFontUnderline,
+                          state_.FixedFontItalic, std::nullopt});
     checkGroupBy();
     steps_.setRefreshOnChange(false);
     surface_.setRedraw(true);
@@ -127,8 +128,10 @@ void ColumnCommands::removeColumn(int& position) {
     surface_.setColPosition(surface_.Col(), last);
     surface_.setCols(last);
     columns_.Remove(position + 1);
-    if (position > surface_.Cols() - 1)
+    if (position > surface_.Cols() - 1) {
         position = surface_.Cols() - 1;
+        state_.LastClickedCol = position; // the current cell is there already, and moves without a word
+    }
     surface_.setCol(position);
     state_.throwIfDestroyed();
 }

@@ -32,6 +32,8 @@ bool HeadingDrag::prepare() {
     const int pressed = state_.LastClickedCol;
     const bool onHeading = surface_.MouseRow() == 0;
     setTag(surface_, {});
+    if (onHeading && surface_.MouseCol() < 0)
+        return true; // beside the columns
     if (state_.TotalForm && onHeading) {
         if (!exists(pressed))
             return true;
@@ -55,6 +57,7 @@ void HeadingDrag::showPointer(const SurfaceMouse& mouse) {
     if (mouse.row != 0)
         state_.MousePointer = kPointerDefault;
     else if ((mouse.button & kLeftButton) != 0)
+        // a view shows the carried heading's own picture for the custom pointer
         state_.MousePointer = isRefused(state_.LastClickedCol, mouse.col) ? kPointerNoDrop : kPointerCustom;
 }
 

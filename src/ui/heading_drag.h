@@ -39,9 +39,10 @@ public:
     bool isRefused(int from, int to) const;
     /// The entries of the collection take the widths that the surface's columns have.
     void saveWidths();
+    /// Whether surface and collection both have the column.
+    bool exists(int col) const;
 
 private:
-    bool exists(int col) const;
     void move(int from, int to);
     void writeBack(int col);
     void askForRefresh();

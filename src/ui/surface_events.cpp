@@ -25,7 +25,7 @@ void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
         guarded([this](const SurfaceMouse& mouse) { reporting([&] { drag_.showPointer(mouse); }); });
     on.click = guarded([this] { click(); });
     on.dblClick = guarded([this] { Q_EMIT events_.DblClick(); });
-    on.keyDown = guarded([this](int& code, int shift) { keyDown(code, shift); });
+    on.keyDown = guarded([this](int& code, int shift) { reporting([&] { keyDown(code, shift); }); });
     on.headingDropped = [drop = guarded([this](int from, int to) { drag_.drop(from, to); })](int from,
                                                                                              int to) {
         drop(from, to);
@@ -103,7 +103,7 @@ void SurfaceEvents::keyDown(int code, int shift) {
 void SurfaceEvents::columnResized(int col) {
     if (col < 0)
         drag_.saveWidths();
-    else
+    else if (drag_.exists(col))
         properties_.setColWidth(col, surface_.ColWidth(col));
 }
 
