@@ -12,12 +12,13 @@ namespace {
 constexpr int kScrollInterval = 250; // milliseconds between two columns while a heading is held at the edge
 constexpr int kEdge = 24;            // pixels that count as the edge
 
+/// The pointers of a drag are shown while a button is down: a control keeps the last one.
 Qt::CursorShape cursorShape(int pointer, bool isDragging) {
     switch (pointer) {
     case kPointerHourglass:
         return Qt::WaitCursor;
     case kPointerNoDrop:
-        return Qt::ForbiddenCursor;
+        return QApplication::mouseButtons() == Qt::NoButton ? Qt::ArrowCursor : Qt::ForbiddenCursor;
     case kPointerCustom: // says where a heading may go, and there is none on its way
         return isDragging ? Qt::DragMoveCursor : Qt::ArrowCursor;
     default:

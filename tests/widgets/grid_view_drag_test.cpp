@@ -69,7 +69,11 @@ TEST_F(GridViewDrag, ThePointerOfADragShowsOnlyWhileThereIsOne) {
     view->setPointer(kPointerCustom);
     EXPECT_EQ(cursor(), Qt::ArrowCursor);
     view->setPointer(kPointerNoDrop);
+    EXPECT_EQ(cursor(), Qt::ArrowCursor) << "no button is down";
+    press(cell(2, 0));
+    view->setPointer(kPointerNoDrop);
     EXPECT_EQ(cursor(), Qt::ForbiddenCursor);
+    release(cell(2, 0));
     view->setPointer(kPointerHourglass);
     EXPECT_EQ(cursor(), Qt::WaitCursor);
     view->setPointer(kPointerDefault);
