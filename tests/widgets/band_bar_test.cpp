@@ -1,48 +1,7 @@
-#include "widgets/band_bar.h"
-
-#include "print_qt.h"
-
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QToolButton>
-#include <QtTest/QTest>
-
-#include <gtest/gtest.h>
+#include "band_bar_fixture.h"
 
 namespace zkp {
 namespace {
-
-class BandBarTest : public testing::Test {
-protected:
-    BandBarTest() {
-        Band& band = bar.addBand(kBand);
-        add(band, QStringLiteral("txtRecs"), ToolKind::Label).Text = QStringLiteral("20.000");
-        add(band, QStringLiteral("mnuRefresh"), ToolKind::Button).Caption = QStringLiteral("&Ανανέωση");
-        Tool& list = add(band, QStringLiteral("mnuField"), ToolKind::List);
-        list.list = QStringList{QStringLiteral("Κλάδος"), QStringLiteral("Πελάτης")};
-        add(band, QStringLiteral("mnuCaption"), ToolKind::Text).Text = QStringLiteral("τίτλος");
-        bar.toolClicked = bar.listChanged = bar.textChanged = [](Tool&) {};
-        row = std::make_unique<BandBar>(bar, kBand);
-        row->resize(600, row->sizeHint().height());
-        row->show();
-    }
-    Tool& add(Band& band, const QString& name, ToolKind kind) {
-        Tool tool;
-        tool.Name = name;
-        tool.kind = kind;
-        return bar.addTool(band, tool);
-    }
-    template <class Widget>
-    Widget* tool(const char* name) {
-        return row->findChild<Widget*>(QString::fromLatin1(name));
-    }
-
-    const QString kBand = QStringLiteral("BndTemplate");
-    MenuBar bar;
-    std::unique_ptr<BandBar> row;
-};
 
 TEST_F(BandBarTest, TheRowShowsTheBandsToolsWithTheCountAtItsEnd) {
     EXPECT_EQ(tool<QLabel>("txtRecs")->text(), QStringLiteral("20.000"));

@@ -1,24 +1,13 @@
 // Pictures of the window for the eye, under the build folder: pictures/*.png.
 
-#include "window_fixture.h"
+#include "window_picture_fixture.h"
 
 #include <QAction>
-#include <QDir>
 
 namespace {
 
-class WindowPictures : public WindowTest {
+class WindowPictures : public WindowPictureTest {
 protected:
-    void paint(const char* name, double scale = 1) {
-        settle();
-        QImage image((QSizeF(window->size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
-        image.setDevicePixelRatio(scale);
-        image.fill(window->palette().color(QPalette::Window));
-        window->render(&image);
-        const QString folder = QStringLiteral(ZKP_BINARY_DIR "/pictures");
-        QDir().mkpath(folder);
-        EXPECT_TRUE(image.save(QStringLiteral("%1/%2.png").arg(folder, QLatin1String(name))));
-    }
     void makeDark() {
         QPalette dark;
         dark.setColor(QPalette::Window, QColor(45, 45, 48));

@@ -2,25 +2,14 @@
 // line, the progress of a load. Under the build folder: pictures/*.png.
 
 #include "window/texts.h"
-#include "window_fixture.h"
+#include "window_picture_fixture.h"
 
-#include <QDir>
 #include <QInputMethodEvent>
 
 namespace {
 
-class ToolsPictures : public WindowTest {
+class ToolsPictures : public WindowPictureTest {
 protected:
-    void paint(const char* name, double scale = 1) {
-        settle();
-        QImage image((QSizeF(window->size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
-        image.setDevicePixelRatio(scale);
-        image.fill(window->palette().color(QPalette::Window));
-        window->render(&image);
-        const QString folder = QStringLiteral(ZKP_BINARY_DIR "/pictures");
-        QDir().mkpath(folder);
-        EXPECT_TRUE(image.save(QStringLiteral("%1/%2.png").arg(folder, QLatin1String(name))));
-    }
     void find(const QString& text) {
         QTest::keyClick(&view(), Qt::Key_F, Qt::ControlModifier);
         settle();
