@@ -10,11 +10,8 @@ namespace {
 
 constexpr std::size_t kMostRows = 1024;
 constexpr std::size_t kBlockBytes = 4u << 20;
+constexpr std::size_t kBlocksOnTheWay = 4;
 constexpr std::size_t kRowsBetweenReports = 10'000;
-
-SQLPOINTER number(SQLULEN value) {
-    return reinterpret_cast<SQLPOINTER>(value);
-}
 
 } // namespace
 
@@ -26,15 +23,14 @@ Fetch::Fetch(Statement& statement, const RunOptions& options)
         columns_.push_back(describeColumn(statement, column));
     builders_.resize(columns_.size());
     plan();
-    bind();
 }
 
 /// The driver must not write into buffers that are gone, whatever the statement does next.
 Fetch::~Fetch() {
-    SQLFreeStmt(statement_.get(), SQL_UNBIND);
-    SQLSetStmtAttrW(statement_.get(), SQL_ATTR_ROWS_FETCHED_PTR, nullptr, 0);
-    SQLSetStmtAttrW(statement_.get(), SQL_ATTR_ROW_STATUS_PTR, nullptr, 0);
-    SQLSetStmtAttrW(statement_.get(), SQL_ATTR_ROW_ARRAY_SIZE, number(1), 0);
+    queue_.cancel();
+    if (fetcher_.joinable())
+        fetcher_.join();
+    unbindAll(statement_);
 }
 
 /// Where the driver can't go back into a block for a long value, rows come one by one from the first
@@ -42,7 +38,8 @@ Fetch::~Fetch() {
 void Fetch::plan() {
     const auto firstLong = std::find_if(columns_.begin(), columns_.end(),
                                         [](const ColumnType& column) { return column.isLong; });
-    const bool wholeBlocks = firstLong == columns_.end() || statement_.session().readsInsideBlocks();
+    overlaps_ = firstLong == columns_.end();
+    const bool wholeBlocks = overlaps_ || statement_.session().readsInsideBlocks();
     bound_ = wholeBlocks ? columns_.size() : static_cast<std::size_t>(firstLong - columns_.begin());
     std::size_t rowBytes = 1;
     for (const ColumnType& column : columns_)
@@ -50,44 +47,70 @@ void Fetch::plan() {
     blockRows_ = wholeBlocks ? std::clamp<std::size_t>(kBlockBytes / rowBytes, 16, kMostRows) : 1;
 }
 
-void Fetch::bind() {
-    states_.resize(blockRows_);
-    SQLSetStmtAttrW(statement_.get(), SQL_ATTR_ROW_BIND_TYPE, number(SQL_BIND_BY_COLUMN), 0);
-    statement_.check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_ROW_ARRAY_SIZE, number(blockRows_), 0));
-    statement_.check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_ROWS_FETCHED_PTR, &fetched_, 0));
-    statement_.check(SQLSetStmtAttrW(statement_.get(), SQL_ATTR_ROW_STATUS_PTR, states_.data(), 0));
-    for (std::size_t i = 0; i < columns_.size(); ++i) {
-        buffers_.emplace_back(columns_[i], static_cast<int>(i), blockRows_);
-        if (i < bound_)
-            buffers_.back().bind(statement_);
-    }
+std::unique_ptr<RowBlock> Fetch::newBlock() const {
+    return std::make_unique<RowBlock>(columns_, bound_, blockRows_);
 }
 
+/// Most results are one block.
 Result Fetch::run() {
-    while (statement_.fetch()) {
-        checkRows();
-        take();
+    const auto first = newBlock();
+    if (first->fetch(statement_)) {
+        store(*first);
+        if (overlaps_ && first->rows() == blockRows_)
+            runOverlapped();
+        else
+            runInPlace(*first);
     }
     return finish();
 }
 
-void Fetch::checkRows() const {
-    const auto end = states_.begin() + static_cast<std::ptrdiff_t>(fetched_);
-    if (std::find(states_.begin(), end, SQLUSMALLINT(SQL_ROW_ERROR)) != end)
-        statement_.check(SQL_ERROR);
+void Fetch::runInPlace(RowBlock& block) {
+    while (block.fetch(statement_))
+        store(block);
 }
 
-void Fetch::take() {
+void Fetch::store(RowBlock& block) {
     const std::size_t before = rows_;
-    for (std::size_t i = 0; i < buffers_.size(); ++i) {
-        if (i < bound_)
-            buffers_[i].appendTo(builders_[i], fetched_, values_);
-        else
-            buffers_[i].read(values_, builders_[i]);
+    block.appendTo(builders_, values_);
+    rows_ += block.rows();
+    if (!options_.progress || rows_ / kRowsBetweenReports == before / kRowsBetweenReports)
+        return;
+    // The host may use the connection while it is told.
+    const std::lock_guard lock(driver_);
+    options_.progress(static_cast<std::int64_t>(rows_));
+}
+
+void Fetch::runOverlapped() {
+    for (std::size_t i = 0; i < kBlocksOnTheWay; ++i)
+        queue_.giveFree(newBlock());
+    fetcher_ = std::thread(&Fetch::fetchAll, this);
+    for (;;) {
+        auto block = queue_.takeFilled();
+        if (block->failure)
+            throw *block->failure;
+        if (block->isLast)
+            break;
+        store(*block);
+        queue_.giveFree(std::move(block));
     }
-    rows_ += fetched_;
-    if (options_.progress && rows_ / kRowsBetweenReports != before / kRowsBetweenReports)
-        options_.progress(static_cast<std::int64_t>(rows_));
+    fetcher_.join();
+}
+
+void Fetch::fetchAll() {
+    while (auto block = queue_.takeFree()) {
+        try {
+            const std::lock_guard lock(driver_);
+            block->isLast = !block->fetch(statement_);
+        } catch (const Error& error) {
+            block->failure = error;
+        } catch (const std::exception& e) {
+            block->failure.emplace(kErrDatabase, QString::fromUtf8(e.what()));
+        }
+        const bool ends = block->isLast || block->failure;
+        queue_.giveFilled(std::move(block));
+        if (ends)
+            return;
+    }
 }
 
 Result Fetch::finish() {

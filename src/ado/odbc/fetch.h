@@ -1,37 +1,45 @@
 #pragma once
 
-#include "ado/odbc/column_buffer.h"
+#include "ado/batch_queue.h"
+#include "ado/odbc/row_block.h"
+
+#include <thread>
 
 namespace zkp::ado::odbc {
 
-/// Fetches all records of a statement's current result into columns, in blocks of rows.
+/// Fetches all records of a statement's current result into columns, in blocks of rows. Long results are
+/// fetched on a thread of their own while the calling thread fills the columns and reports progress.
 class Fetch {
 public:
     Fetch(Statement& statement, const RunOptions& options);
+    ~Fetch();
     Fetch(const Fetch&) = delete;
     Fetch& operator=(const Fetch&) = delete;
-    ~Fetch();
 
     Result run();
 
 private:
     void plan();
-    void bind();
-    void take();
-    void checkRows() const;
+    std::unique_ptr<RowBlock> newBlock() const;
+    void store(RowBlock& block);
+    void runInPlace(RowBlock& block);
+    void runOverlapped();
+    void fetchAll();
     Result finish();
 
     Statement& statement_;
     const RunOptions& options_;
     LongValues values_;
     std::vector<ColumnType> columns_;
-    std::vector<ColumnBuffer> buffers_;
     std::vector<store::ColumnBuilder> builders_;
     std::size_t bound_ = 0; ///< how many of the first columns are bound; the others are read one by one
     std::size_t blockRows_ = 1;
-    SQLULEN fetched_ = 0;
-    std::vector<SQLUSMALLINT> states_;
+    bool overlaps_ = false; ///< no value needs the statement once its block is there
     std::size_t rows_ = 0;
+
+    BatchQueue<RowBlock> queue_;
+    std::mutex driver_; ///< held while the driver fetches, and while the host is told of the progress
+    std::thread fetcher_;
 };
 
 } // namespace zkp::ado::odbc

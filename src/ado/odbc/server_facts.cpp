@@ -2,6 +2,8 @@
 
 #include "ado/odbc/run.h"
 
+#include <string_view>
+
 namespace zkp::ado::odbc {
 
 namespace {
@@ -92,20 +94,40 @@ QString chooseMariaDbCollation(Session& session) {
     return QStringLiteral("utf8mb4_uca1400_nopad_as_ci");
 }
 
+/// Constants mean what they say: no "\" opens anything, and "||" joins texts. Texts that a statement makes
+/// itself are sorted and grouped as those of the tables.
+void prepareMariaDb(Session& session) {
+    ask(session, "SET SESSION sql_mode = CONCAT(@@sql_mode, ',NO_BACKSLASH_ESCAPES,PIPES_AS_CONCAT')");
+    const Result told = ask(session, "SELECT @@collation_database");
+    if (told.table.columns[0]->value(0).toString().startsWith(QStringLiteral("utf8mb4_")))
+        ask(session, "SET collation_connection = @@collation_database");
+}
+
+/// Tries it with an omega: what a driver makes of narrow characters depends on its settings, the server's
+/// and the machine's.
+bool givesUtf8(Session& session) {
+    const bool postgres = session.dialect() == Dialect::PostgreSql;
+    try {
+        Statement statement(session, kSeconds);
+        statement.execute(QString::fromLatin1(postgres ? "SELECT chr(937)" : "SELECT _utf8mb4 X'CEA9'"));
+        char bytes[16] = {};
+        SQLLEN length = 0;
+        return statement.fetch() &&
+               SQL_SUCCEEDED(SQLGetData(statement.get(), 1, SQL_C_CHAR, bytes, sizeof bytes, &length)) &&
+               std::string_view(bytes) == "\xCE\xA9";
+    } catch (const Error&) {
+        if (session.isLost())
+            throw;
+        return false;
+    }
+}
+
 } // namespace
 
 void prepareServer(Session& session) {
-    // Constants mean what they say: no "\" opens anything, and "||" joins texts.
-    if (session.dialect() != Dialect::MariaDb)
-        return;
-    ask(session, "SET SESSION sql_mode = CONCAT(@@sql_mode, ',NO_BACKSLASH_ESCAPES,PIPES_AS_CONCAT')");
-    const Result told = ask(session, "SELECT @@character_set_results, @@collation_database");
-    const QString charset = told.table.columns[0]->value(0).toString();
-    const QString collation = told.table.columns[1]->value(0).toString();
-    // Texts that a statement makes itself are sorted and grouped as those of the tables.
-    if (collation.startsWith(QStringLiteral("utf8mb4_")))
-        ask(session, "SET collation_connection = @@collation_database");
-    if (session.driverName().contains(QStringLiteral("maodbc")) && charset.startsWith(QStringLiteral("utf8")))
+    if (session.dialect() == Dialect::MariaDb)
+        prepareMariaDb(session);
+    if (session.dialect() != Dialect::SqlServer && givesUtf8(session))
         session.setGivesUtf8();
 }
 

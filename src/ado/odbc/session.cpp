@@ -76,10 +76,6 @@ QString Session::info(SQLUSMALLINT what) const {
     return wideText(text.data(), bytes / static_cast<int>(sizeof(SQLWCHAR)));
 }
 
-QString Session::driverName() const {
-    return info(SQL_DRIVER_NAME);
-}
-
 Error Session::failure(SQLSMALLINT type, SQLHANDLE handle, Deadline deadline) {
     const Diagnostics said(type, handle);
     SQLUINTEGER dead = SQL_CD_FALSE;

@@ -27,11 +27,7 @@ Fetch::Fetch(std::shared_ptr<Database> database, Statement& statement, Deadline 
 Fetch::~Fetch() {
     if (!stepper_.joinable())
         return;
-    {
-        const std::lock_guard lock(mutex_);
-        cancelled_ = true;
-    }
-    changed_.notify_all();
+    queue_.cancel();
     // The stepper may be deep in a join that gives no row for long.
     sqlite3_interrupt(database_->handle());
     stepper_.join();
@@ -76,23 +72,23 @@ void Fetch::store(const RowBatch& batch) {
 
 void Fetch::runOverlapped() {
     for (std::size_t i = 0; i < kBatchesOnTheWay; ++i)
-        free_.push_back(std::make_unique<RowBatch>(statement_.columnCount()));
+        queue_.giveFree(std::make_unique<RowBatch>(statement_.columnCount()));
     stepper_ = std::thread(&Fetch::stepAll, this);
     bool last = false;
     while (!last) {
-        BatchPtr batch = takeFilled();
+        auto batch = queue_.takeFilled();
         store(*batch);
         if (batch->failure)
             throw *batch->failure;
         last = batch->isLast;
-        giveFree(std::move(batch));
+        queue_.giveFree(std::move(batch));
     }
     stepper_.join();
 }
 
 void Fetch::stepAll() {
     for (;;) {
-        BatchPtr batch = takeFree();
+        auto batch = queue_.takeFree();
         if (!batch)
             return;
         try {
@@ -101,45 +97,10 @@ void Fetch::stepAll() {
             batch->failure.emplace(kErrDatabase, QString::fromUtf8(e.what()));
         }
         const bool last = batch->isLast || batch->failure;
-        giveFilled(std::move(batch));
+        queue_.giveFilled(std::move(batch));
         if (last)
             return;
     }
-}
-
-Fetch::BatchPtr Fetch::takeFilled() {
-    std::unique_lock lock(mutex_);
-    changed_.wait(lock, [this] { return !filled_.empty(); });
-    BatchPtr batch = std::move(filled_.front());
-    filled_.pop_front();
-    return batch;
-}
-
-/// Nothing when the fetch has been given up.
-Fetch::BatchPtr Fetch::takeFree() {
-    std::unique_lock lock(mutex_);
-    changed_.wait(lock, [this] { return cancelled_ || !free_.empty(); });
-    if (cancelled_)
-        return nullptr;
-    BatchPtr batch = std::move(free_.front());
-    free_.pop_front();
-    return batch;
-}
-
-void Fetch::giveFilled(BatchPtr batch) {
-    {
-        const std::lock_guard lock(mutex_);
-        filled_.push_back(std::move(batch));
-    }
-    changed_.notify_all();
-}
-
-void Fetch::giveFree(BatchPtr batch) {
-    {
-        const std::lock_guard lock(mutex_);
-        free_.push_back(std::move(batch));
-    }
-    changed_.notify_all();
 }
 
 Result Fetch::finish() {

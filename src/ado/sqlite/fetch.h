@@ -1,11 +1,9 @@
 #pragma once
 
+#include "ado/batch_queue.h"
 #include "ado/sqlite/row_batch.h"
 #include "ado/sqlite/statement.h"
 
-#include <condition_variable>
-#include <deque>
-#include <memory>
 #include <thread>
 
 namespace zkp::ado::sqlite {
@@ -23,17 +21,10 @@ public:
     Result run();
 
 private:
-    using BatchPtr = std::unique_ptr<RowBatch>;
-
     void fill(RowBatch& batch);
     void store(const RowBatch& batch);
-    void reportProgress(std::size_t before);
     void runOverlapped();
     void stepAll();
-    BatchPtr takeFilled();
-    BatchPtr takeFree();
-    void giveFilled(BatchPtr batch);
-    void giveFree(BatchPtr batch);
     Result finish();
 
     std::shared_ptr<Database> database_;
@@ -44,11 +35,7 @@ private:
     std::vector<store::ColumnBuilder> builders_;
     std::size_t rows_ = 0;
 
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    std::deque<BatchPtr> filled_;
-    std::deque<BatchPtr> free_;
-    bool cancelled_ = false;
+    BatchQueue<RowBatch> queue_;
     std::thread stepper_;
 };
 
