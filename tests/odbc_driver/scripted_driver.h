@@ -1,0 +1,37 @@
+#pragma once
+
+#include <sql.h>
+#include <sqlext.h>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace zkp::scripted {
+
+/// One thing that the driver says of a failed call.
+struct Word {
+    const char* state;
+    std::int32_t native;
+    std::u16string text;
+};
+
+struct Column {
+    std::u16string name;
+    SQLSMALLINT type = SQL_WVARCHAR;
+    SQLULEN size = 50;
+};
+
+/// What a statement is answered with; every record holds the same values.
+struct Answer {
+    std::vector<Column> columns;
+    std::vector<std::u16string> values;
+    std::size_t rows = 0;
+    std::size_t failsBehind = SIZE_MAX; ///< records until the link breaks
+    std::vector<Word> words;            ///< of the failure; without columns the statement itself fails
+};
+
+/// By the statement's text; no records of one text column for any that has no answer of its own.
+Answer answerTo(const std::u16string& statement);
+
+} // namespace zkp::scripted
