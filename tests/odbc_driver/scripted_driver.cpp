@@ -276,4 +276,10 @@ SQLRETURN SQL_API SQLGetDiagRecW(SQLSMALLINT, SQLHANDLE handle, SQLSMALLINT reco
     return code;
 }
 
+/// The manager asks no driver for words that lacks this.
+SQLRETURN SQL_API SQLGetDiagFieldW(SQLSMALLINT, SQLHANDLE, SQLSMALLINT, SQLSMALLINT, SQLPOINTER, SQLSMALLINT,
+                                   SQLSMALLINT*) {
+    return SQL_ERROR;
+}
+
 } // extern "C"
