@@ -25,15 +25,18 @@ install_servers() {
     [ -z "$made_policy" ] || as_root rm -f "$made_policy"
 }
 
-# as_user USER COMMAND...: nobody else's rights are needed when we are not root.
+# become USER: sets what stands ahead of a command for that user; nothing when we are not root.
+become() {
+    user_words=()
+    [ "$(id -u)" != 0 ] ||
+        user_words=(setpriv --reuid="$1" --regid="$(id -g "$1")" --clear-groups env HOME=/nonexistent)
+}
+
+# as_user USER COMMAND...
 as_user() {
-    local user=$1
+    become "$1"
     shift
-    if [ "$(id -u)" = 0 ]; then
-        setpriv --reuid="$user" --regid="$(id -g "$user")" --clear-groups env HOME=/nonexistent "$@"
-    else
-        "$@"
-    fi
+    "${user_words[@]}" "$@"
 }
 
 # The build folder may stand where the servers' users can't reach it.
@@ -92,6 +95,23 @@ stop_servers() {
     stop_server "$servers_home/mariadb/server.pid" "$servers_home/mariadb/data"
 }
 
+# run_server NAME USER PIDFILE SIGNAL COMMAND...: starts it, and writes the script that kills it with a
+# signal and starts it again, for the tests that need a server to die.
+run_server() {
+    local log=$servers_home/$1.log restart=$servers_home/restart-$1 pidfile=$3 signal=$4
+    become "$2"
+    shift 4
+    cat >"$restart" <<END
+#!/bin/bash
+pid=\$(head -n 1 "$pidfile")
+kill -$signal "\$pid"
+while kill -0 "\$pid" 2>/dev/null; do sleep 0.1; done
+$(printf '%q ' "${user_words[@]}" "$@") >>"$log" 2>&1 </dev/null &
+END
+    chmod 755 "$restart"
+    "${user_words[@]}" "$@" >"$log" 2>&1 9>&- </dev/null &
+}
+
 # A data folder gets its name once it is complete, so that an interrupted start leaves none half-made.
 make_postgres_data() {
     local home=$servers_home/postgres
@@ -109,13 +129,15 @@ start_postgres() {
     postgres_bin=$(ls -d /usr/lib/postgresql/*/bin | sort -V | tail -n 1)
     make_postgres_data
     port=$(free_port)
-    as_user postgres "$postgres_bin/postgres" -D "$home/data" -p "$port" -c listen_addresses=127.0.0.1 \
-        -c unix_socket_directories= -c fsync=off >"$home.log" 2>&1 9>&- </dev/null &
+    run_server postgres postgres "$home/data/postmaster.pid" QUIT "$postgres_bin/postgres" -D "$home/data" \
+        -p "$port" -c listen_addresses=127.0.0.1 -c unix_socket_directories= -c fsync=off
+    export ZKP_TEST_POSTGRES_RESTART=$servers_home/restart-postgres
     wait_for PostgreSQL env PGPASSWORD=zkp psql -h 127.0.0.1 -p "$port" -U zkp -d postgres -c "SELECT 1"
     local login="Driver={PostgreSQL Unicode};Server=127.0.0.1;Port=$port;UID=zkp;PWD=zkp"
     export ZKP_TEST_POSTGRES="$login;Database=zkp" ZKP_TEST_POSTGRES_DEMO="$login;Database=zkpdemo"
+    export ZKP_TEST_POSTGRES_CASES="$login;Database=zkpcases"
     local name
-    for name in zkp zkpdemo; do
+    for name in zkp zkpdemo zkpcases; do
         PGPASSWORD=zkp quietly psql -h 127.0.0.1 -p "$port" -U zkp -d postgres \
             -c "DROP DATABASE IF EXISTS $name WITH (FORCE)" -c "CREATE DATABASE $name"
     done
@@ -136,14 +158,17 @@ start_mariadb() {
     folder_for mysql mariadb
     make_mariadb_data
     port=$(free_port)
-    as_user mysql mariadbd --no-defaults --datadir="$home/data" --port="$port" --bind-address=127.0.0.1 \
-        --socket=server.sock --pid-file="$home/server.pid" --innodb-flush-log-at-trx-commit=0 \
-        --max-allowed-packet=256M >"$home.log" 2>&1 9>&- </dev/null &
+    run_server mariadb mysql "$home/server.pid" KILL mariadbd --no-defaults --datadir="$home/data" \
+        --port="$port" --bind-address=127.0.0.1 --socket=server.sock --pid-file="$home/server.pid" \
+        --innodb-flush-log-at-trx-commit=2 --max-allowed-packet=256M --max-recursive-iterations=4294967295
+    export ZKP_TEST_MARIADB_RESTART=$servers_home/restart-mariadb
     local root=(mariadb --no-defaults --protocol=tcp -h 127.0.0.1 -P "$port" -u root)
     wait_for MariaDB "${root[@]}" -e "SELECT 1"
     local login="Driver={MariaDB Unicode};Server=127.0.0.1;Port=$port;UID=zkp;PWD=zkp"
     export ZKP_TEST_MARIADB="$login;Database=zkp" ZKP_TEST_MARIADB_DEMO="$login;Database=zkpdemo"
+    export ZKP_TEST_MARIADB_CASES="$login;Database=zkpcases"
     quietly "${root[@]}" -e "DROP DATABASE IF EXISTS zkp; DROP DATABASE IF EXISTS zkpdemo;
+        DROP DATABASE IF EXISTS zkpcases; CREATE DATABASE zkpcases;
         CREATE DATABASE zkp CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin;
         CREATE DATABASE zkpdemo CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin;
         CREATE OR REPLACE USER zkp@'127.0.0.1' IDENTIFIED BY 'zkp'; GRANT ALL ON *.* TO zkp@'127.0.0.1'"
