@@ -66,14 +66,14 @@ TEST_P(ServerBadInputTest, AConnectionThatCouldNotBeOpened) {
 
 TEST_P(ServerBadInputTest, TypesThatHaveNoNumberOfTheirOwnAreTexts) {
     const std::pair<const char*, const char*> postgres[] = {{"'10.0.0.1'::inet", "10.0.0.1"},
-                                                            {"ARRAY[1,2]", "{1,2}"},
+                                                            {"string_to_array('1,2', ',')", "{1,2}"},
                                                             {"'{\"a\": \"ά\"}'::json", "{\"a\": \"ά\"}"},
                                                             {"point(1,2)", "(1,2)"},
                                                             {"ROW(1,'x')", "(1,x)"},
                                                             {"int4range(1,3)", "[1,3)"},
                                                             {"'ά'::unknown", "ά"}};
     const std::pair<const char*, const char*> mariaDb[] = {
-        {"CAST('10.0.0.1' AS INET6)", "::10.0.0.1"},
+        {"CAST('2001:db8::1' AS INET6)", "2001:db8::1"},
         {"JSON_ARRAY(1,'ά')", "[1, \"ά\"]"},
         {"CAST('123e4567-e89b-12d3-a456-426655440000' AS UUID)", "123e4567-e89b-12d3-a456-426655440000"}};
     const auto expectText = [&](const auto& pair) {
@@ -100,7 +100,7 @@ TEST_P(ServerBadInputTest, TimesOfDayAndBlobsOfGeometryDoNotEndALoad) {
 /// PostgreSQL takes no text that is none, but in a database that knows no encoding.
 TEST_P(ServerBadInputTest, TextInABrokenEncodingIsShownOrRefusedInTheServersWords) {
     if (isPostgres()) {
-        run("DROP DATABASE IF EXISTS zkp_ascii");
+        run("DROP DATABASE IF EXISTS zkp_ascii WITH (FORCE)");
         run("CREATE DATABASE zkp_ascii ENCODING 'SQL_ASCII' TEMPLATE template0 LC_COLLATE 'C' LC_CTYPE 'C'");
         const auto main = std::exchange(cn, std::make_shared<Connection>());
         cn->Open(connectionString().replace(u"Database=zkp"_s, u"Database=zkp_ascii"_s));
@@ -110,7 +110,7 @@ TEST_P(ServerBadInputTest, TextInABrokenEncodingIsShownOrRefusedInTheServersWord
         expectUsable();
         cn->Close();
         cn = main;
-        run("DROP DATABASE zkp_ascii");
+        run("DROP DATABASE zkp_ascii WITH (FORCE)");
     } else {
         make("ZT_GREEK", "A VARCHAR(20) CHARACTER SET greek, B VARCHAR(20) CHARACTER SET latin1");
         run("INSERT INTO ZT_GREEK VALUES (X'C1EDEDE1', X'C1EDEDE1')");
@@ -146,16 +146,11 @@ TEST_P(ServerBadInputTest, ABinaryValueOfFiftyMegabytesComesWhole) {
     expectUsable();
 }
 
-TEST_P(ServerBadInputTest, AFieldNameOf128GreekLettersIsShownOrRefusedInTheServersWords) {
+TEST_P(ServerBadInputTest, AFieldNameOf128GreekLettersIsShown) {
     const QString name(128, u'Ω');
-    const QStringList boxes = load(u"SELECT 'ά' AS ["_s + name + u"]"_s, name);
-    if (isPostgres()) {
-        EXPECT_EQ(boxes, QStringList());
-        EXPECT_EQ(grid.TextMatrix(1, 0), u"ά"_s);
-    } else {
-        ASSERT_EQ(boxes.size(), 1);
-        EXPECT_TRUE(boxes[0].contains(u"too long"_s)) << boxes[0].toStdString();
-    }
+    EXPECT_EQ(load(u"SELECT 'ά' AS ["_s + name + u"]"_s, name), QStringList());
+    EXPECT_EQ(grid.TextMatrix(1, 0), u"ά"_s);
+    EXPECT_EQ(load(u"SELECT ["_s + name + u"] FROM ZT_NAME"_s, name).size(), 1);
     const QString longest(isPostgres() ? 31 : 64, u'Ω');
     make("ZT_NAME", "A INTEGER");
     run(u"ALTER TABLE ZT_NAME ADD ["_s + longest + u"] VARCHAR(20)"_s);
@@ -165,24 +160,20 @@ TEST_P(ServerBadInputTest, AFieldNameOf128GreekLettersIsShownOrRefusedInTheServe
     expectUsable();
 }
 
-TEST_P(ServerBadInputTest, NumbersAndDaysBeyondAllMeasureAreToldOrShown) {
-    const QStringList values =
-        isPostgres() ? QStringList{u"'99999999999999999999.5'::numeric"_s,
-                                   u"'NaN'::numeric"_s,
-                                   u"'infinity'::date"_s,
-                                   u"DATE '0044-03-15 BC'"_s,
-                                   u"'NaN'::float8"_s,
-                                   u"'-infinity'::timestamp"_s}
-                     : QStringList{u"99999999999999999999.5"_s, u"18446744073709551615"_s,
-                                   u"CAST('0000-00-00' AS DATE)"_s, u"DATE'9999-12-31'"_s, u"1e308"_s};
-    for (const QString& value : values) {
-        const QStringList boxes = load(u"SELECT "_s + value + u" AS V"_s, u"V"_s);
-        EXPECT_LE(boxes.size(), 1) << value.toStdString();
-        EXPECT_FALSE(boxes.value(0, u"-"_s).isEmpty()) << value.toStdString();
-        std::cerr << value.toStdString() << " | " << boxes.join(u'/').toStdString() << " | "
-                  << grid.TextMatrix(1, 0).toStdString() << "\n";
-        expectUsable();
+TEST_P(ServerBadInputTest, NumbersBeyondAllMeasureAreShownAsFarAsADoubleGoes) {
+    const std::pair<const char*, double> postgres[] = {{"'99999999999999999999.5'::numeric", 1e20},
+                                                       {"9223372036854775807", 9223372036854775807.0},
+                                                       {"1e308::float8", 1e308}};
+    const std::pair<const char*, double> mariaDb[] = {
+        {"99999999999999999999.5", 1e20}, {"18446744073709551615", 18446744073709551615.0}, {"1e308", 1e308}};
+    for (const auto& [value, number] : isPostgres() ? postgres : mariaDb) {
+        const QString statement = u"SELECT "_s + u(value) + u" AS V"_s;
+        EXPECT_EQ(one(statement.toUtf8().constData()).toDouble(), number) << value;
+        EXPECT_EQ(load(statement, u"V"_s), QStringList()) << value;
     }
+    if (isPostgres())
+        EXPECT_EQ(load("SELECT 'NaN'::numeric AS V", "V"), QStringList());
+    expectUsable();
 }
 
 } // namespace zkp::servers

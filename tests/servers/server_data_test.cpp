@@ -56,6 +56,28 @@ TEST_P(ServerDataTest, CountsAndSumsOfWholeNumbersAreIntegers) {
     EXPECT_EQ(rs->Collect(u("SUM_M")).value<Currency>().scaled, 307500);
 }
 
+TEST_P(ServerDataTest, TypesOfTheServersOwnComeAsWhatTheyMean) {
+    const auto rs = isPostgres()
+                        ? open("SELECT CAST(-12.5 AS MONEY), point '(1,2)', time '10:11:12', CAST('NaN' AS "
+                               "NUMERIC), CAST('x' AS CHAR(3)), 5000000000")
+                        : open("SELECT CAST(-12.5 AS DECIMAL(10,2)), 18446744073709551615, TIME '10:11:12', "
+                               "NULL, CAST(7 AS UNSIGNED), 5000000000");
+    const auto value = [&](int field) { return rs->Fields().Item(field).Value(); };
+    EXPECT_EQ(rs->Fields().Item(0).Type(), 6);
+    EXPECT_EQ(value(0).value<Currency>().scaled, -125'000);
+    EXPECT_EQ(value(2).toString(), u("10:11:12"));
+    EXPECT_EQ(value(5).toLongLong(), 5'000'000'000);
+    EXPECT_EQ(rs->Fields().Item(5).Type(), 20);
+    if (isPostgres()) {
+        EXPECT_EQ(value(1).toString(), u("(1,2)"));
+        EXPECT_EQ(value(4).toString(), u("x  "));
+    } else {
+        EXPECT_EQ(value(1).toDouble(), 18446744073709551615.0);
+        EXPECT_FALSE(value(3).isValid());
+        EXPECT_EQ(value(4).toInt(), 7);
+    }
+}
+
 TEST_P(ServerDataTest, TextsAndBytesOfAnyLengthComeWhole) {
     make("ZT_LONG", "K INTEGER PRIMARY KEY, T LONGTEXT, X BYTES");
     const QString text = u("Ω😀a").repeated(40'000);

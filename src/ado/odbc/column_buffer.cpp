@@ -1,5 +1,6 @@
 #include "ado/odbc/column_buffer.h"
 
+#include "ado/constants.h"
 #include "ado/odbc/amount_text.h"
 #include "ado/odbc/wide_text.h"
 
@@ -84,7 +85,7 @@ void ColumnBuffer::appendTo(store::ColumnBuilder& builder, std::size_t rows, Lon
     case Transfer::Boolean:
         return appendFixed<char>(builder, rows, [&](char v) { builder.appendBoolean(v != 0); });
     case Transfer::Double:
-        return appendFixed<double>(builder, rows, [&](double v) { builder.appendReal(v); });
+        return appendFixed<double>(builder, rows, [&](double v) { appendReal(builder, v); });
     case Transfer::Date:
         return appendFixed<SQL_DATE_STRUCT>(
             builder, rows, [&](const SQL_DATE_STRUCT& v) { builder.appendDate(milliseconds(v)); });
@@ -113,6 +114,14 @@ void ColumnBuffer::appendFixed(store::ColumnBuilder& builder, std::size_t rows, 
     }
 }
 
+void ColumnBuffer::appendReal(store::ColumnBuilder& builder, double value) const {
+    const auto amount = type_.info.type == adCurrency ? Currency::fromDouble(value) : std::nullopt;
+    if (amount)
+        builder.appendAmount(*amount);
+    else
+        builder.appendReal(value);
+}
+
 void ColumnBuffer::appendAmounts(store::ColumnBuilder& builder, std::size_t rows) {
     for (std::size_t row = 0; row < rows; ++row) {
         if (lengths_[row] == SQL_NULL_DATA) {
@@ -121,7 +130,7 @@ void ColumnBuffer::appendAmounts(store::ColumnBuilder& builder, std::size_t rows
         }
         const std::string_view digits(at(row),
                                       std::min(static_cast<std::size_t>(lengths_[row]), type_.width - 1));
-        if (const auto whole = type_.byValues ? wholeFromText(digits) : std::nullopt)
+        if (const auto whole = type_.isWhole ? wholeFromText(digits) : std::nullopt)
             builder.appendInteger(*whole);
         else if (const auto amount = amountFromText(digits))
             builder.appendAmount(*amount);

@@ -21,6 +21,7 @@ private:
     SQLSMALLINT cType() const;
     void appendText(store::ColumnBuilder& builder, std::size_t rows, LongValues& values);
     void appendBinary(store::ColumnBuilder& builder, std::size_t rows, LongValues& values);
+    void appendReal(store::ColumnBuilder& builder, double value) const;
     void appendAmounts(store::ColumnBuilder& builder, std::size_t rows);
     template <class T, class F>
     void appendFixed(store::ColumnBuilder& builder, std::size_t rows, F&& append);

@@ -167,13 +167,21 @@ ColumnType describeColumn(const Statement& statement, int column) {
                                     static_cast<SQLSMALLINT>(name.size()), &length, &sqlType, &size, &digits,
                                     &nullable));
     ColumnType described;
-    int type = publishedType(sqlType, isUnsignedColumn(statement, column));
-    // PostgreSQL's driver calls a flag a text unless it is told not to.
+    const bool isUnsigned = isUnsignedColumn(statement, column);
+    int type = publishedType(sqlType, isUnsigned);
+    // PostgreSQL's driver calls a flag a text unless it is told not to, and its money a double, which it
+    // gives as one: its digits have signs of the server's country.
     if (type >= adVarChar && attributeText(statement, column, SQL_DESC_TYPE_NAME) == QLatin1String("bool"))
         type = adBoolean;
+    const bool isMoney =
+        type == adDouble && attributeText(statement, column, SQL_DESC_TYPE_NAME) == QLatin1String("money");
+    type = isMoney ? int(adCurrency) : type;
     const bool whole = type == adBigInt || (type == adCurrency && digits == 0);
     described.byValues = whole && attributeText(statement, column, SQL_DESC_BASE_TABLE_NAME).isEmpty();
-    described.transfer = transferOf(type);
+    // What has no sign may need more than 63 bits, and then comes as digits.
+    const bool isHuge = sqlType == SQL_BIGINT && isUnsigned;
+    described.isWhole = described.byValues || isHuge;
+    described.transfer = isHuge ? Transfer::Amount : isMoney ? Transfer::Double : transferOf(type);
     described.isUtf8 = statement.session().givesUtf8();
     chooseWidth(described, size, isLongType(sqlType));
     described.info = {wideText(name.data(), std::min<int>(length, int(name.size()) - 1)), type,

@@ -15,6 +15,7 @@ struct ColumnType {
     std::size_t width = 0; ///< bytes of one value in a buffer
     bool isUtf8 = false;   ///< texts come as UTF-8 bytes, not in wide characters
     bool isLong = false;   ///< the driver may hold more than the buffer takes
+    bool isWhole = false;  ///< digits without a fraction are an integer, not an amount
     bool byValues = false; ///< an expression of whole numbers: its type is that of its values
 };
 
