@@ -25,7 +25,8 @@ QByteArray dateBytes(const QDate& date) {
                                    static_cast<SQLUSMALLINT>(date.day())});
 }
 
-QByteArray momentBytes(const QDateTime& moment) {
+/// A column without fractions of a second refuses them.
+QByteArray momentBytes(const QDateTime& moment, SQLSMALLINT digits) {
     const QDate date = moment.date();
     const QTime time = moment.time();
     SQL_TIMESTAMP_STRUCT value{};
@@ -35,19 +36,19 @@ QByteArray momentBytes(const QDateTime& moment) {
     value.hour = static_cast<SQLUSMALLINT>(time.hour());
     value.minute = static_cast<SQLUSMALLINT>(time.minute());
     value.second = static_cast<SQLUSMALLINT>(time.second());
-    value.fraction = static_cast<SQLUINTEGER>(time.msec()) * 1'000'000;
+    value.fraction = digits > 0 ? static_cast<SQLUINTEGER>(time.msec()) * 1'000'000 : 0;
     return bytesOf(value);
 }
 
 /// The C type that a value goes as, and its bytes.
-std::pair<SQLSMALLINT, QByteArray> transferred(const QVariant& value, SQLSMALLINT columnType) {
+std::pair<SQLSMALLINT, QByteArray> transferred(const QVariant& value, const ColumnKind& kind) {
     if (value.metaType() == QMetaType::fromType<Currency>())
         return {SQL_C_CHAR, value.value<Currency>().toPlainText().toLatin1()};
     // A column of days takes no time of day, and a flag no -1.
     const bool dated = value.typeId() == QMetaType::QDateTime || value.typeId() == QMetaType::QDate;
-    if (dated && columnType == SQL_TYPE_DATE)
+    if (dated && kind.type == SQL_TYPE_DATE)
         return {SQL_C_TYPE_DATE, dateBytes(value.toDate())};
-    if (columnType == SQL_BIT && value.canConvert<bool>() && value.typeId() != QMetaType::QString)
+    if (kind.type == SQL_BIT && value.canConvert<bool>() && value.typeId() != QMetaType::QString)
         return {SQL_C_BIT, QByteArray(1, value.toBool() ? '\1' : '\0')};
     switch (value.typeId()) {
     case QMetaType::Bool:
@@ -62,7 +63,7 @@ std::pair<SQLSMALLINT, QByteArray> transferred(const QVariant& value, SQLSMALLIN
     case QMetaType::QDate:
         return {SQL_C_TYPE_DATE, dateBytes(value.toDate())};
     case QMetaType::QDateTime:
-        return {SQL_C_TYPE_TIMESTAMP, momentBytes(value.toDateTime())};
+        return {SQL_C_TYPE_TIMESTAMP, momentBytes(value.toDateTime(), kind.digits)};
     case QMetaType::QByteArray:
         return {SQL_C_BINARY, value.toByteArray()};
     default:
@@ -76,6 +77,18 @@ SQLULEN sizeFor(const ColumnKind& kind, SQLSMALLINT cType, qsizetype bytes) {
     return std::max({kind.size, static_cast<SQLULEN>(units), SQLULEN(1)});
 }
 
+/// A type without a bound where a bounded one would be too short for some driver.
+SQLSMALLINT typeFor(SQLSMALLINT type, qsizetype bytes) {
+    constexpr qsizetype kBoundedBytes = 8000;
+    if (bytes <= kBoundedBytes)
+        return type;
+    if (type == SQL_VARBINARY)
+        return SQL_LONGVARBINARY;
+    if (type == SQL_WVARCHAR)
+        return SQL_WLONGVARCHAR;
+    return type == SQL_VARCHAR ? SQL_LONGVARCHAR : type;
+}
+
 } // namespace
 
 Parameters::Parameters(const QVariantList& values, const std::vector<ColumnKind>& kinds) {
@@ -83,7 +96,8 @@ Parameters::Parameters(const QVariantList& values, const std::vector<ColumnKind>
         Place place;
         place.kind = kinds[static_cast<std::size_t>(i)];
         if (values[i].isValid())
-            std::tie(place.cType, place.bytes) = transferred(values[i], place.kind.type);
+            std::tie(place.cType, place.bytes) = transferred(values[i], place.kind);
+        place.kind.type = typeFor(place.kind.type, place.bytes.size());
         place.kind.size = sizeFor(place.kind, place.cType, place.bytes.size());
         place.length = values[i].isValid() ? static_cast<SQLLEN>(place.bytes.size()) : SQL_NULL_DATA;
         places_.push_back(std::move(place));

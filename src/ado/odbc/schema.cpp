@@ -3,6 +3,7 @@
 #include "ado/constants.h"
 #include "ado/odbc/column_types.h"
 #include "ado/odbc/fetch.h"
+#include "ado/odbc/translate.h"
 #include "ado/odbc/wide_text.h"
 #include "ado/result_builder.h"
 #include "base/text.h"
@@ -69,21 +70,11 @@ Result tablesResult(Session& session, bool viewsOnly, const std::optional<QStrin
     return rows.finish();
 }
 
-/// Names are compared without case, whatever the server does.
-std::optional<QString> asKept(Session& session, const std::optional<QString>& table) {
-    if (!table || session.dialect() == Dialect::SqlServer)
-        return table;
-    for (const CatalogueTable& found : readTables(session)) {
-        if (sameName(found.name, *table))
-            return found.name;
-    }
-    return table;
-}
-
 Result columnsResult(Session& session, const std::optional<QString>& table) {
     ResultBuilder rows({textField("TABLE_NAME"), textField("COLUMN_NAME"), numberField("ORDINAL_POSITION"),
                         numberField("DATA_TYPE"), numberField("CHARACTER_MAXIMUM_LENGTH")});
-    for (const CatalogueColumn& column : readColumns(session, std::nullopt, asKept(session, table))) {
+    const auto kept = table ? std::optional(nameAsKept(session, *table)) : std::nullopt;
+    for (const CatalogueColumn& column : readColumns(session, std::nullopt, kept)) {
         if (table && !sameName(column.table, *table))
             continue;
         const int type = publishedType(column.kind.type);
@@ -121,7 +112,7 @@ std::vector<CatalogueColumn> readColumns(Session& session, const std::optional<Q
     for (std::size_t row = 0; row < result.table.rows; ++row) {
         const Record record(result, row);
         // The name was a pattern.
-        if (isServersOwn(record.text(2)) || (table && record.text(3) != *table))
+        if (isServersOwn(record.text(2)) || (table && !sameName(record.text(3), *table)))
             continue;
         columns.push_back(
             {record.text(3),

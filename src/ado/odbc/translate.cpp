@@ -1,5 +1,7 @@
 #include "ado/odbc/translate.h"
 
+#include "base/text.h"
+
 namespace zkp::ado::odbc {
 
 dialect::Rewritten translate(Session& session, const QString& statement) {
@@ -14,6 +16,15 @@ dialect::Rewritten translate(Session& session, const QString& statement) {
     default:
         return {statement, {}};
     }
+}
+
+/// The catalogue has all names that are not kept in small letters, or on MariaDB all tables.
+QString nameAsKept(Session& session, const QString& name) {
+    if (session.dialect() == Dialect::SqlServer)
+        return name;
+    const QString quoted = u'[' + name + u']';
+    const QString usual = session.dialect() == Dialect::PostgreSql ? name.toLower() : name;
+    return session.catalogue().namesIn(dialect::tokenize(quoted)).spelling.value(nameKey(name), usual);
 }
 
 QString quotedName(const Session& session, const QString& name) {

@@ -8,6 +8,9 @@ namespace zkp::ado::odbc {
 /// A statement in the words of the session's server; SQL Server's is passed through as it is.
 dialect::Rewritten translate(Session& session, const QString& statement);
 
+/// A table's name as the server keeps it.
+QString nameAsKept(Session& session, const QString& name);
+
 /// A name in the server's signs.
 QString quotedName(const Session& session, const QString& name);
 
