@@ -171,8 +171,9 @@ TEST_P(ServerBadInputTest, NumbersBeyondAllMeasureAreShownAsFarAsADoubleGoes) {
         EXPECT_EQ(one(statement.toUtf8().constData()).toDouble(), number) << value;
         EXPECT_EQ(load(statement, u"V"_s), QStringList()) << value;
     }
-    if (isPostgres())
+    if (isPostgres()) {
         EXPECT_EQ(load("SELECT 'NaN'::numeric AS V", "V"), QStringList());
+    }
     expectUsable();
 }
 
