@@ -102,6 +102,16 @@ TEST_P(ServerEditTest, ATransactionIsKeptOrUndoneAsAWhole) {
     EXPECT_EQ(errorOf([&] { cn->CommitTrans(); }).number(), kErrDatabase);
 }
 
+// The comparison's means may be made for the session, inside a transaction or before it.
+TEST_P(ServerEditTest, ComparisonsIgnoreCaseAfterATransactionIsUndone) {
+    for (int i = 0; i < 2; ++i) {
+        cn->BeginTrans();
+        EXPECT_EQ(one("SELECT Count(*) FROM (SELECT 'Α' AS A) B WHERE A = 'α'").toInt(), 1);
+        cn->RollbackTrans();
+        EXPECT_EQ(one("SELECT Count(*) FROM (SELECT 'Α' AS A) B WHERE A = 'α'").toInt(), 1);
+    }
+}
+
 TEST_P(ServerEditTest, FiftyMegabytesComeBackByteForByte) {
     make("ZT_HUGE", "lstCode INTEGER PRIMARY KEY, ZKP_ BYTES");
     QByteArray bytes(50 * 1024 * 1024, '\0');
@@ -116,6 +126,24 @@ TEST_P(ServerEditTest, FiftyMegabytesComeBackByteForByte) {
     make("ZT_HUGE", "A INTEGER");
 }
 
+TEST_P(ServerEditTest, AConnectionForReadingRunsNoProcedureThatWrites) {
+    make("ZT_READ", "A INTEGER");
+    if (isPostgres()) {
+        run("DROP FUNCTION IF EXISTS Writes()");
+        run("CREATE FUNCTION Writes() RETURNS INTEGER LANGUAGE sql AS 'INSERT INTO ZT_READ VALUES (1); "
+            "SELECT 1'");
+    } else {
+        run("DROP PROCEDURE IF EXISTS Writes");
+        run("CREATE PROCEDURE Writes() INSERT INTO ZT_READ VALUES (1)");
+    }
+    const auto reader = std::make_shared<Connection>();
+    reader->setMode(adModeRead);
+    reader->Open(connectionString());
+    EXPECT_EQ(errorOf([&] { reader->Execute(u("exec Writes")); }).number(), kErrDatabase);
+    EXPECT_EQ(one("SELECT Count(*) FROM ZT_READ").toInt(), 0);
+    EXPECT_EQ(reader->Execute(u("SELECT 'Α' AS A WHERE 'Α' = 'α'"))->RecordCount(), 1);
+}
+
 TEST_P(ServerEditTest, AConnectionForReadingWritesTemplatesAndSettingsOnly) {
     make("frms2", "lstCode VARCHAR(50), ZKP_ BYTES, datein DATE");
     make("ZT_READ", "A INTEGER");
@@ -124,6 +152,7 @@ TEST_P(ServerEditTest, AConnectionForReadingWritesTemplatesAndSettingsOnly) {
     reader->Open(connectionString());
     EXPECT_EQ(errorOf([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }).number(), kErrDatabase);
     EXPECT_EQ(errorOf([&] { reader->Execute(u("DROP TABLE ZT_READ")); }).number(), kErrDatabase);
+    reader->Execute(u("DELETE FROM frms2"));
     const auto rs = std::make_shared<Recordset>();
     rs->Open(u("select * from frms2 where lstCode = 'x'"), reader, adOpenDynamic, adLockOptimistic);
     rs->AddNew();

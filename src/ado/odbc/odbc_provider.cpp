@@ -5,6 +5,7 @@
 #include "ado/odbc/run.h"
 #include "ado/odbc/schema.h"
 #include "ado/odbc/translate.h"
+#include "base/scope_guard.h"
 
 #include <algorithm>
 
@@ -20,19 +21,47 @@ bool changesNames(const QString& statement) {
     });
 }
 
+/// A statement that a connection for reading may write with.
+class WritingStream final : public ResultStream {
+public:
+    WritingStream(std::shared_ptr<Session> session, std::unique_ptr<ResultStream> stream)
+        : session_(std::move(session))
+        , stream_(std::move(stream)) {}
+
+    std::optional<Result> next() override {
+        session_->setWritable(true);
+        const ScopeGuard guard([this] {
+            try {
+                session_->setWritable(false);
+            } catch (const Error&) {
+                // The connection is gone.
+            }
+        });
+        return stream_->next();
+    }
+
+private:
+    std::shared_ptr<Session> session_;
+    std::unique_ptr<ResultStream> stream_;
+};
+
 } // namespace
 
 OdbcProvider::OdbcProvider(const QString& connectionString, bool readOnly)
     : session_(std::make_shared<Session>(connectionString, readOnly)) {}
 
 std::unique_ptr<ResultStream> OdbcProvider::start(const QString& statement, const RunOptions& options) {
-    if (session_->isReadOnly() && !isAllowedReadOnly(statement))
+    const Reading reading = session_->isReadOnly() ? readingOf(statement) : Reading::Reads;
+    if (reading == Reading::Refused)
         refuseWriting();
     dialect::Rewritten sent = translate(*session_, statement);
     if (changesNames(statement))
         session_->forgetCatalogue();
-    return std::make_unique<StatementStream>(session_, std::move(sent.text), std::move(sent.outputNames),
-                                             options);
+    auto stream = std::make_unique<StatementStream>(session_, std::move(sent.text),
+                                                    std::move(sent.outputNames), options);
+    if (reading == Reading::WritesAllowed && !session_->isInTransaction())
+        return std::make_unique<WritingStream>(session_, std::move(stream));
+    return stream;
 }
 
 QString OdbcProvider::lastStatementSent() const {

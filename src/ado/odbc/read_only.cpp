@@ -42,21 +42,22 @@ bool isWritableReadOnly(const QString& table) {
     return key == u"FRMS" || key == u"FRMS2" || key == u"QRN_MAIN";
 }
 
-bool isAllowedReadOnly(const QString& statement) {
+Reading readingOf(const QString& statement) {
     std::vector<Token> tokens = dialect::tokenize(statement);
     std::erase_if(tokens, [](const Token& token) { return token.kind == dialect::TokenKind::Space; });
     if (tokens.empty())
-        return true;
+        return Reading::Reads;
     const auto writes = [](const Token& token) {
         return isOneOf(token, {u"insert", u"update", u"delete", u"merge", u"into", u"truncate"});
     };
     if (const QString table = writtenTable(tokens); !table.isEmpty()) {
         const bool intoOnly = std::none_of(tokens.begin() + 2, tokens.end(), writes);
-        return isWritableReadOnly(table) && intoOnly;
+        return isWritableReadOnly(table) && intoOnly ? Reading::WritesAllowed : Reading::Refused;
     }
-    return isOneOf(tokens[0], {u"select", u"with", u"values", u"table", u"show", u"explain", u"describe",
-                               u"exec", u"execute", u"call"}) &&
-           std::none_of(tokens.begin(), tokens.end(), writes);
+    const bool reads = isOneOf(tokens[0], {u"select", u"with", u"values", u"table", u"show", u"explain",
+                                           u"describe", u"exec", u"execute", u"call"}) &&
+                       std::none_of(tokens.begin(), tokens.end(), writes);
+    return reads ? Reading::Reads : Reading::Refused;
 }
 
 void refuseWriting() {

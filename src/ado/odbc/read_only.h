@@ -4,9 +4,10 @@
 
 namespace zkp::ado::odbc {
 
-/// Whether a statement only reads, or writes to the template and settings tables alone. What a
-/// procedure or function does is the server's to refuse.
-bool isAllowedReadOnly(const QString& statement);
+/// What a statement does on a connection for reading: it reads, writes to the template and settings tables
+/// alone, or must not run. What a procedure or function does is the server's to refuse.
+enum class Reading { Reads, WritesAllowed, Refused };
+Reading readingOf(const QString& statement);
 bool isWritableReadOnly(const QString& table);
 
 /// Error kErrDatabase.

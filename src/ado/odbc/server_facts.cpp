@@ -72,8 +72,9 @@ QString choosePostgresCollation(Session& session) {
     if (kept.table.rows > 0)
         return kept.table.columns[0]->value(0).toString() + QStringLiteral(".zkp_text");
     try {
-        ask(session, "CREATE COLLATION pg_temp.zkp_text (provider = icu, locale = 'und-u-ks-level2', "
-                     "deterministic = false)");
+        ask(session,
+            "CREATE COLLATION IF NOT EXISTS pg_temp.zkp_text (provider = icu, locale = 'und-u-ks-level2', "
+            "deterministic = false)");
     } catch (const Error&) {
         if (session.isLost())
             throw;
@@ -129,6 +130,14 @@ void prepareServer(Session& session) {
         prepareMariaDb(session);
     if (session.dialect() != Dialect::SqlServer && givesUtf8(session))
         session.setGivesUtf8();
+}
+
+void allowWriting(Session& session, bool writable) {
+    const char* words = writable ? "READ WRITE" : "READ ONLY";
+    if (session.dialect() == Dialect::PostgreSql)
+        ask(session, (QByteArray("SET SESSION CHARACTERISTICS AS TRANSACTION ") + words).constData());
+    else if (session.dialect() == Dialect::MariaDb)
+        ask(session, (QByteArray("SET SESSION TRANSACTION ") + words).constData());
 }
 
 dialect::Catalogue readCatalogue(Session& session) {

@@ -8,6 +8,8 @@ class Session;
 
 /// Settings of a new session that the dialects rest on.
 void prepareServer(Session& session);
+/// From the next transaction on; a server that can't be told so is left to its own rights.
+void allowWriting(Session& session, bool writable);
 /// What the dialect needs of the server's catalogue; empty where names are found in any case.
 dialect::Catalogue readCatalogue(Session& session);
 /// A collation that takes no notice of case but of accents and of blanks at the end; empty where the

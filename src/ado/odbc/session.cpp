@@ -66,6 +66,10 @@ void Session::prepare() {
         SQLSetConnectAttrW(connection_.get(), SQL_ATTR_ACCESS_MODE, number(SQL_MODE_READ_ONLY),
                            SQL_IS_UINTEGER);
     prepareServer(*this);
+    if (readOnly_) {
+        collation(); // which may have to be made
+        setWritable(false);
+    }
 }
 
 QString Session::info(SQLUSMALLINT what) const {
@@ -101,16 +105,20 @@ void Session::setAutoCommit(bool on) {
 void Session::begin() {
     if (inTransaction_)
         throw Error(kErrDatabase, QStringLiteral("There is a transaction already."), serverName_);
+    if (readOnly_)
+        setWritable(true);
     setAutoCommit(false);
     inTransaction_ = true;
+    collationIsOfTransaction_ = false;
 }
 
 void Session::commit() {
     endTransaction(SQL_COMMIT);
 }
 void Session::rollback() {
-    // What was made for the session inside the transaction goes with it.
-    collation_.reset();
+    // What was made inside the transaction goes with it.
+    if (collationIsOfTransaction_)
+        collation_.reset();
     endTransaction(SQL_ROLLBACK);
 }
 
@@ -126,6 +134,12 @@ void Session::endTransaction(SQLSMALLINT how) {
         throw error;
     }
     setAutoCommit(true);
+    if (readOnly_)
+        setWritable(false);
+}
+
+void Session::setWritable(bool writable) {
+    allowWriting(*this, writable);
 }
 
 const dialect::Catalogue& Session::catalogue() {
@@ -135,8 +149,10 @@ const dialect::Catalogue& Session::catalogue() {
 }
 
 const QString& Session::collation() {
-    if (!collation_)
+    if (!collation_) {
         collation_ = chooseCollation(*this);
+        collationIsOfTransaction_ = inTransaction_;
+    }
     return *collation_;
 }
 

@@ -24,6 +24,8 @@ public:
     SQLHDBC connection() const { return connection_.get(); }
     Dialect dialect() const { return dialect_; }
     bool isReadOnly() const { return readOnly_; }
+    /// Asks the server, where it can, to refuse or allow writing from the next transaction on.
+    void setWritable(bool writable);
     const QString& serverName() const { return serverName_; }
     Canceller& canceller() { return canceller_; }
     /// Whether a value that did not fit its buffer can be read in the middle of a block of rows.
@@ -75,6 +77,7 @@ private:
     QString lastStatement_;
     std::optional<dialect::Catalogue> catalogue_;
     std::optional<QString> collation_;
+    bool collationIsOfTransaction_ = false;
     Canceller canceller_;
 };
 
