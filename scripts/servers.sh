@@ -171,7 +171,8 @@ start_mariadb() {
         DROP DATABASE IF EXISTS zkpcases; CREATE DATABASE zkpcases;
         CREATE DATABASE zkp CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin;
         CREATE DATABASE zkpdemo CHARACTER SET utf8mb4 COLLATE utf8mb4_nopad_bin;
-        CREATE OR REPLACE USER zkp@'127.0.0.1' IDENTIFIED BY 'zkp'; GRANT ALL ON *.* TO zkp@'127.0.0.1'"
+        CREATE OR REPLACE USER zkp@'127.0.0.1' IDENTIFIED BY 'zkp';
+        GRANT ALL ON *.* TO zkp@'127.0.0.1' WITH GRANT OPTION"
 }
 
 # The same demonstration data in a file and on each server.

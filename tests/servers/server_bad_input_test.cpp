@@ -97,16 +97,16 @@ TEST_P(ServerBadInputTest, TimesOfDayAndBlobsOfGeometryDoNotEndALoad) {
     expectUsable();
 }
 
-/// PostgreSQL takes no text that is none, but in a database that knows no encoding.
-TEST_P(ServerBadInputTest, TextInABrokenEncodingIsShownOrRefusedInTheServersWords) {
+/// PostgreSQL keeps no such text, but in a database without an encoding.
+TEST_P(ServerBadInputTest, TextInABrokenEncodingIsRefusedInTheServersWords) {
     if (isPostgres()) {
         run("DROP DATABASE IF EXISTS zkp_ascii WITH (FORCE)");
         run("CREATE DATABASE zkp_ascii ENCODING 'SQL_ASCII' TEMPLATE template0 LC_COLLATE 'C' LC_CTYPE 'C'");
         const auto main = std::exchange(cn, std::make_shared<Connection>());
         cn->Open(connectionString().replace(u"Database=zkp"_s, u"Database=zkp_ascii"_s));
         const QStringList boxes = load("SELECT 'a' || chr(225) || 'b' AS A", "A");
-        EXPECT_TRUE(boxes.size() == 1 || grid.TextMatrix(1, 0).startsWith(u'a'))
-            << grid.TextMatrix(1, 0).toStdString();
+        ASSERT_EQ(boxes.size(), 1);
+        EXPECT_TRUE(boxes[0].contains(u"0xe1"_s)) << boxes[0].toStdString();
         expectUsable();
         cn->Close();
         cn = main;
