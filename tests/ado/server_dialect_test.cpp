@@ -85,6 +85,14 @@ TEST(PostgresDialect, FlagsCompareWithNumbersAndNumbersStandForFlags) {
         EXPECT_EQ(postgres(sql), u(sql));
 }
 
+TEST(PostgresDialect, WhatAnUpdateGivesIsNotCompared) {
+    EXPECT_EQ(postgres("update dict set [Sum] = 0, cptn='x', A = (B = 'y') where isgroup = 1 and C='z'"),
+              u("update dict set \"sum\" = '0', cptn='x', A = (B = 'y' COLLATE zkp) where isgroup::int = 1 "
+                "and C='z' COLLATE zkp"));
+    EXPECT_EQ(mariaDb("update T set A='x', B=1 where C='z'"),
+              u("update T set A='x', B=1 where C='z' COLLATE zkp"));
+}
+
 TEST(PostgresDialect, NullsSortFirstAsElsewhere) {
     EXPECT_EQ(postgres("SELECT A FROM T order by  1,[B] desc, C asc"),
               u("SELECT A FROM T order by  1 NULLS FIRST,\"b\" desc NULLS LAST, C asc NULLS FIRST"));

@@ -126,14 +126,16 @@ private:
     }
 
     /// A flag that is compared with a number becomes one; a number that stands for a condition is asked
-    /// whether it is a flag that is set.
+    /// whether it is a flag that is set. What a flag is given must not be a number.
     void rewriteFlag(std::size_t k) {
         const bool flag = names_.flags.contains(nameKey(nameOf(at(k))));
         const auto isBit = [](const Token& token) { return token.text == u"0" || token.text == u"1"; };
         const std::size_t first = at(k - 1).isSign(u".") && k > 1 ? k - 2 : k;
-        const bool compared = (isComparison(at(k + 1)) && isBit(at(k + 2))) ||
-                              (first > 1 && isComparison(at(first - 1)) && isBit(at(first - 2)));
-        if (flag && compared)
+        const bool compared = (compares(k + 1) && isBit(at(k + 2))) ||
+                              (first > 1 && compares(first - 1) && isBit(at(first - 2)));
+        if (flag && assigns(k + 1) && isBit(at(k + 2)))
+            written(k + 2) = QStringLiteral("'%1'").arg(at(k + 2).text);
+        else if (flag && compared)
             written(k) += QStringLiteral("::int");
         else if (!flag && at(k + 1).text != u"." && isCondition(first, k))
             written(k) += QStringLiteral("::text NOT IN ('0', 'false')");

@@ -59,6 +59,24 @@ bool Rewriter::isComparison(const Token& token) {
            std::find(std::begin(signs), std::end(signs), token.text) != std::end(signs);
 }
 
+bool Rewriter::assigns(std::size_t k) const {
+    if (!at(0).isWord(u"update") || !at(k).isSign(u"="))
+        return false;
+    int depth = 0;
+    bool awaited = false;
+    for (std::size_t i = 1; i < k; ++i) {
+        const Token& token = at(i);
+        depth += token.isSign(u"(") ? 1 : token.isSign(u")") ? -1 : 0;
+        if (depth != 0)
+            continue;
+        if (token.isWord(u"set") || token.isSign(u","))
+            awaited = true;
+        else if (token.isWord(u"where") || token.isSign(u"="))
+            awaited = false;
+    }
+    return awaited && depth == 0;
+}
+
 bool Rewriter::hasCase(QStringView constant) {
     return std::any_of(constant.begin(), constant.end(), [](QChar c) { return c.unicode() >= u'A'; }) &&
            !isUniqueKey(constant.sliced(1, std::max<qsizetype>(0, constant.size() - 2)));
@@ -160,10 +178,10 @@ bool Rewriter::isCompared(std::size_t k) const {
     std::size_t before = k;
     while (before > 0 && at(before - 1).isSign(u"("))
         --before;
-    const bool behindSign = before > 0 && isComparison(at(before - 1));
+    const bool behindSign = before > 0 && compares(before - 1);
     const bool lower = k > 0 && at(k - 1).isWord(u"between");
     const bool upper = k > 2 && at(k - 1).isWord(u"and") && at(k - 3).isWord(u"between");
-    return behindSign || isComparison(at(k + 1)) || lower || upper;
+    return behindSign || compares(k + 1) || lower || upper;
 }
 
 void Rewriter::collateConstants(const QString& collation) {

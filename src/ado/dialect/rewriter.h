@@ -22,7 +22,10 @@ protected:
     const QString& now(std::size_t k) const { return written_[static_cast<qsizetype>(solid_[k])]; }
     QString& written(std::size_t k);
 
-    static bool isComparison(const Token& token);
+    /// Whether the token at a place compares what stands on its two sides.
+    bool compares(std::size_t k) const { return isComparison(at(k)) && !assigns(k); }
+    /// Whether it is the "=" by which an UPDATE gives a column its value.
+    bool assigns(std::size_t k) const;
     static bool isName(const Token& token) {
         return token.kind == TokenKind::Word || token.kind == TokenKind::Name;
     }
@@ -50,6 +53,7 @@ protected:
     std::size_t endOfSelect(std::size_t k, bool isMember) const;
 
 private:
+    static bool isComparison(const Token& token);
     void rewriteConvert(std::size_t k);
     void rewriteTop(std::size_t k, const QString& beforeMember, const QString& behindMember);
     bool isCompared(std::size_t k) const;
