@@ -48,7 +48,6 @@ QString fieldOf(const QString& word) {
 
 CaseRunner::CaseRunner(const Case& one, bool withHandler)
     : one_(one) {
-    connection_->Open(u"sqlite:"_s);
     for (const QString& statement : {
              u"create table DICT (dtfld text, Cptn text, wdth money, Algn integer, isgroup bit, isTot bit, "
              "visbl integer, IsPublic integer, [Sum] bit, [Avg] bit, [Min] bit, [Max] bit, crosstabdate bit, "
@@ -57,7 +56,7 @@ CaseRunner::CaseRunner(const Case& one, bool withHandler)
              u"create table QRN_Main (GenKey integer, GenSubKey integer, GenValue text)"_s,
              u"insert into QRN_Main values (2, 6, '30'), (2, 7, '120')"_s,
          })
-        connection_->Execute(statement);
+        database_.run(connection_, statement);
     grid_->setLocale(QLocale(u"el_GR"_s));
     if (withHandler)
         QObject::connect(&grid_->events(), &Events::RetrieveRow, [this](RetrieveRowArgs& e) { onRecord(e); });
@@ -120,19 +119,19 @@ void CaseRunner::makeRecords(const Step& step) {
         refuse(step, u"no columns"_s);
     const QString table = step.name.isEmpty() ? u"T"_s : step.name;
     QStringList columns, types;
-    connection_->Execute(u"delete from DICT"_s);
+    database_.run(connection_, u"delete from DICT"_s);
     for (const QString& column : step.table.front()) {
         const QString name = column.section(u' ', 0, 0);
         types << column.section(u' ', 1).trimmed();
         columns << u"[%1] %2"_s.arg(name, types.back());
-        connection_->Execute(
-            u"insert into DICT values ('%1', '%1', 1000, 1, 1, 1, 1, 1, 1, 1, 1, 1, 0, '%1', "
-            "'%2', null, null, null)"_s.arg(name, table));
+        database_.run(connection_,
+                      u"insert into DICT values ('%1', '%1', 1000, 1, 1, 1, 1, 1, 1, 1, 1, 1, 0, '%1', "
+                      "'%2', null, null, null)"_s.arg(name, table));
     }
-    connection_->Execute(u"delete from Reports"_s);
-    connection_->Execute(u"insert into Reports values ('%1', '%1', null, null)"_s.arg(table));
-    connection_->Execute(u"drop table if exists %1"_s.arg(table));
-    connection_->Execute(u"create table %1 (%2)"_s.arg(table, columns.join(u", "_s)));
+    database_.run(connection_, u"delete from Reports"_s);
+    database_.run(connection_, u"insert into Reports values ('%1', '%1', null, null)"_s.arg(table));
+    database_.run(connection_, u"drop table if exists %1"_s.arg(table));
+    database_.run(connection_, u"create table %1 (%2)"_s.arg(table, columns.join(u", "_s)));
     for (std::size_t r = 1; r < step.table.size(); ++r) {
         QStringList values = step.table[r];
         if (values.size() != types.size())
@@ -140,7 +139,7 @@ void CaseRunner::makeRecords(const Step& step) {
         for (qsizetype c = 0; c < values.size(); ++c)
             if (isText(types[c]) && values[c] != u"null")
                 values[c] = u'\'' + withBlanks(values[c]).replace(u"'"_s, u"''"_s) + u'\'';
-        connection_->Execute(u"insert into %1 values (%2)"_s.arg(table, values.join(u", "_s)));
+        database_.run(connection_, u"insert into %1 values (%2)"_s.arg(table, values.join(u", "_s)));
     }
 }
 

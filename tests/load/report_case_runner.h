@@ -2,6 +2,7 @@
 
 #include "platform/scripted_host.h"
 #include "report_case.h"
+#include "test_database.h"
 #include "zkp_grid.h"
 
 #include <map>
@@ -9,7 +10,7 @@
 
 namespace zkp::reportcases {
 
-/// Runs one case on a control of its own, in the Greek locale, over a database of its own in memory.
+/// Runs one case on a control of its own, in the Greek locale, over an empty database.
 /// Whatever is not as wanted becomes a GoogleTest failure at the step's line.
 ///
 /// What there is:
@@ -58,7 +59,8 @@ private:
     [[noreturn]] void refuse(const Step& step, const QString& why) const;
 
     Case one_;
-    std::shared_ptr<ado::Connection> connection_ = std::make_shared<ado::Connection>();
+    test::TestDatabase database_;
+    ado::ConnectionPtr connection_ = database_.connect();
     std::shared_ptr<ScriptedHost> host_ = std::make_shared<ScriptedHost>();
     std::unique_ptr<ZkpGrid> grid_ = std::make_unique<ZkpGrid>(host_);
     QString statement_ = QStringLiteral("select * from T");

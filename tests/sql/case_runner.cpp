@@ -39,7 +39,6 @@ QStringList splitAssignments(const QString& row) {
 } // namespace
 
 CaseRunner::CaseRunner() {
-    connection_->Open(u"sqlite:"_s);
     grid_.setLocale(QLocale(u"el_GR"_s));
     grid_.setCn(connection_);
 }
@@ -70,7 +69,7 @@ void CaseRunner::perform(const Step& step) {
 
 void CaseRunner::performOnDatabase(const Step& step) {
     if (step.verb == u"sql")
-        connection_->Execute(step.value);
+        database_.run(connection_, step.value);
     else
         insertRow(step.name, step.value);
 }
@@ -82,9 +81,9 @@ void CaseRunner::insertRow(const QString& table, const QString& row) {
         names << assignment.left(equals).trimmed();
         values << assignment.mid(equals + 1).trimmed();
     }
-    connection_->Execute(u"delete from %1 where %2 = %3"_s.arg(table, names[0], values[0]));
-    connection_->Execute(u"insert into %1 (%2) values (%3)"_s.arg(table, u"[%1]"_s.arg(names.join(u"],["_s)),
-                                                                  values.join(u", "_s)));
+    database_.run(connection_, u"delete from %1 where %2 = %3"_s.arg(table, names[0], values[0]));
+    database_.run(connection_, u"insert into %1 (%2) values (%3)"_s.arg(
+                                   table, u"[%1]"_s.arg(names.join(u"],["_s)), values.join(u", "_s)));
 }
 
 void CaseRunner::performOnControl(const Step& step) {

@@ -2,13 +2,14 @@
 
 #include "case_file.h"
 #include "platform/scripted_host.h"
+#include "test_database.h"
 #include "zkp_grid.h"
 
 #include <memory>
 
 namespace zkp::sqlcases {
 
-/// Runs one case over a database of its own in memory, and reports every difference as a GoogleTest
+/// Runs one case over an empty database, and reports every difference as a GoogleTest
 /// failure with the position of the first unlike character.
 ///
 /// To the database: `sql: STATEMENT`; `row TABLE: column=literal, ...`, which takes the place of the row
@@ -50,7 +51,8 @@ private:
     void fail(const Step& step, const QString& what);
     void checkNothingLeft(const Step& step);
 
-    std::shared_ptr<ado::Connection> connection_ = std::make_shared<ado::Connection>();
+    test::TestDatabase database_;
+    ado::ConnectionPtr connection_ = database_.connect();
     std::shared_ptr<ScriptedHost> host_ = std::make_shared<ScriptedHost>();
     ZkpGrid grid_{host_};
     QString file_;

@@ -3,6 +3,7 @@
 #include "ado/recordset.h"
 #include "base/error.h"
 #include "print_qt.h"
+#include "test_database.h"
 
 #include <gtest/gtest.h>
 
@@ -19,19 +20,18 @@ std::uint32_t errorNumber(F&& call) {
     return 0;
 }
 
-/// A connection to an empty database in memory.
+/// A connection to an empty database.
 class DatabaseTest : public testing::Test {
 protected:
-    DatabaseTest() { cn->Open(QStringLiteral("sqlite:")); }
-
-    void run(const QString& statement) { cn->Execute(statement); }
+    void run(const QString& statement) { database.run(cn, statement); }
     ado::RecordsetPtr open(const QString& statement) {
         auto records = std::make_shared<ado::Recordset>();
         records->Open(statement, cn, ado::adOpenStatic);
         return records;
     }
 
-    ado::ConnectionPtr cn = std::make_shared<ado::Connection>();
+    TestDatabase database;
+    ado::ConnectionPtr cn = database.connect();
 };
 
 } // namespace zkp::test

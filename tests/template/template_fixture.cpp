@@ -150,10 +150,8 @@ QStringList linesLike(ZkpGrid& grid, const char* name) {
 
 TemplateTest::TemplateTest() {
     setApplicationFolder(dir.path());
-    writeFile(file, {});
-    cn->Open(u"sqlite:"_s + file);
-    cn->Execute(u"CREATE TABLE frms (lstCode INTEGER, ZKP_ BLOB)"_s);
-    cn->Execute(u"CREATE TABLE frms2 (lstCode TEXT, ZKP_ BLOB, datein DATETIME)"_s);
+    database.run(cn, u"CREATE TABLE frms (lstCode INTEGER, ZKP_ BLOB)"_s);
+    database.run(cn, u"CREATE TABLE frms2 (lstCode TEXT, ZKP_ BLOB, datein DATETIME)"_s);
     cn->Execute(u"INSERT INTO frms (lstCode) VALUES (0), (7), (12)"_s);
     grid->setCn(cn);
 }

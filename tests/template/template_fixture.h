@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grid_fixture.h"
+#include "test_database.h"
 
 #include "platform/property_bag.h"
 
@@ -57,7 +58,8 @@ protected:
 
     QTemporaryDir dir;
     QString file = dir.filePath(QStringLiteral("templates.db"));
-    ado::ConnectionPtr cn = std::make_shared<ado::Connection>();
+    TestDatabase database{file};
+    ado::ConnectionPtr cn = database.connect();
 };
 
 } // namespace zkp::test

@@ -140,10 +140,10 @@ TEST_F(MigrationTest, AnEmptyVariantFillsNothing) {
 
 TEST_F(MigrationTest, ADatabaseThatTakesNothingLeavesTheFileWhereItIs) {
     writeFile(path(u"Forms/ABCD7"_s), variantOf(shape(u"K"_s)));
-    open(u"PRAGMA query_only = 1"_s);
+    database.refuseWriting(cn, true);
     EXPECT_EQ(errorNumberOf([&] { grid->opentemplate(cn, {}, u"ABCD7"_s); }), kErrDatabase);
     EXPECT_TRUE(exists(u"Forms/ABCD7"_s));
-    open(u"PRAGMA query_only = 0"_s);
+    database.refuseWriting(cn, false);
     grid->opentemplate(cn, {}, u"ABCD7"_s);
     EXPECT_EQ(grid->KeyName(), u"K"_s);
 }
@@ -221,8 +221,7 @@ TEST_F(MigrationTest, OpeningWithoutANameAfterAListingLooksForTheEmptyName) {
     EXPECT_TRUE(host->messages.empty()) << "a name of frms2, passed over";
     PropertyBag bag;
     bag.WriteProperty(u"KeyName"_s, u"K"_s);
-    open(u"insert into frms2 (lstCode, ZKP_) values ('', x'"_s + QString::fromLatin1(bag.Contents().toHex()) +
-         u"')"_s);
+    open(u"insert into frms2 (lstCode, ZKP_) values ('', "_s + database.constant(bag.Contents()) + u")"_s);
     grid->opentemplate(cn);
     EXPECT_EQ(grid->KeyName(), u"K"_s);
 }
