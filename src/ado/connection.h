@@ -26,8 +26,8 @@ public:
     Connection();
     ~Connection();
 
-    /// "sqlite:FILE" opens (never creates) a SQLite file; "sqlite:" with no name (or ":memory:") an empty one in memory.
-    /// An empty argument takes the property's text.
+    /// "sqlite:FILE" opens (never creates) a SQLite file, "sqlite:" with no name an empty one in memory; any other text
+    /// is an ODBC connection string (docs/databases.md). An empty argument takes the property's text.
     void Open(const QString& connectionString = {});
     /// Ends the connection. Recordsets that are open stay readable; they can't be requeried.
     void Close();
