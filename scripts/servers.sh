@@ -11,8 +11,9 @@ keep_services_still() {
         made_policy=$policy
     fi
     if [ ! -e "$conf" ]; then
-        as_root mkdir -p "${conf%/*}"
-        echo 'create_main_cluster = false' | as_root tee "$conf" >/dev/null
+        quietly as_root apt-get -o DPkg::Lock::Timeout=300 update
+        quietly as_root apt-get -o DPkg::Lock::Timeout=300 install -y --no-install-recommends postgresql-common
+        as_root sed -i 's/^#*create_main_cluster.*/create_main_cluster = false/' "$conf"
     fi
 }
 
