@@ -32,10 +32,12 @@ constexpr TypeWord kTypeWords[] = {
 TestDatabase::TestDatabase(const QString& file)
     : server_(qEnvironmentVariable("ZKP_TEST_ON"))
     , connectionString_(isServer() ? qEnvironmentVariable(server_.toUtf8()) : u"sqlite:"_s + file) {
-    if (isServer())
+    if (isServer()) {
         emptyServer();
-    else if (!file.isEmpty())
+        embedded_->Open(u"sqlite:"_s);
+    } else if (!file.isEmpty()) {
         QFile(file).open(QIODevice::WriteOnly | QIODevice::Truncate);
+    }
 }
 
 ado::ConnectionPtr TestDatabase::connect() const {
@@ -62,6 +64,7 @@ void TestDatabase::emptyServer() const {
 ado::RecordsetPtr TestDatabase::run(const ado::ConnectionPtr& connection, const QString& statement) const {
     if (!isServer())
         return connection->Execute(statement);
+    embedded_->Execute(statement);
     const ado::RecordsetPtr result = connection->Execute(withServerTypes(statement));
     if (statement.contains(u" procedures"))
         makeProcedure(connection);

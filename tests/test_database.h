@@ -17,6 +17,8 @@ public:
     bool isServer() const { return !server_.isEmpty(); }
     const QString& connectionString() const { return connectionString_; }
     ado::ConnectionPtr connect() const;
+    /// An embedded database that a server's is to be compared with, prepared by the same statements.
+    const ado::ConnectionPtr& embedded() const { return embedded_; }
     /// Runs a statement that prepares a test.
     ado::RecordsetPtr run(const ado::ConnectionPtr& connection, const QString& statement) const;
     /// Whether the database refuses what the connection would write.
@@ -32,6 +34,7 @@ private:
 
     QString server_; ///< name of the variable; empty for an embedded one
     QString connectionString_;
+    ado::ConnectionPtr embedded_ = std::make_shared<ado::Connection>();
 };
 
 } // namespace zkp::test

@@ -20,7 +20,8 @@ namespace zkp::sqlcases {
 /// reached the database); `rows` (what the result gives; cells joined by "; ", rows by " / "),
 /// `sortedrows` (the same where the statement leaves the order open), `refused` (the database does not
 /// take the result); `box: text` (critical, no title; in order), `box: any`. Of the control:
-/// `expect NAME: value`. Of the database: `count TABLE: n`. A case whose calls show other boxes, or fail
+/// `expect NAME: value`. Of the database: `count TABLE: n`. On a server, what a `result` selects is what the
+/// embedded database gives for it. A case whose calls show other boxes, or fail
 /// without saying so, fails.
 class CaseRunner {
 public:
@@ -41,12 +42,13 @@ private:
     QString invoke(const QString& name, const QString& value);
     QString invokeBuilder(const QString& name);
     QString property(const QString& name);
-    QStringList rowsOf(const QString& statement);
     QStringList rowsOf(const ado::RecordsetPtr& recordset);
     QString reportRows();
     void checkRefused(const Step& step);
     void checkAnyBox(const Step& step);
     void checkBox(const Step& step);
+    void compareWithEmbedded(const Step& step);
+    QStringList rowsOrRefused(const ado::ConnectionPtr& connection);
     void same(const Step& step, const QString& actual, const QString& expected);
     void fail(const Step& step, const QString& what);
     void checkNothingLeft(const Step& step);
