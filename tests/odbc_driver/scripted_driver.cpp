@@ -82,11 +82,22 @@ SQLRETURN fail(Statement& statement) {
     return SQL_ERROR;
 }
 
+SQLRETURN answer(Statement& statement, Answer with) {
+    statement.answer = std::move(with);
+    statement.at = 0;
+    return statement.answer.failsBehind == 0 ? fail(statement) : SQL_SUCCESS;
+}
+
+const std::vector<std::u16string>& recordAt(const Statement& statement, std::size_t row) {
+    const auto& records = statement.answer.records;
+    return records[std::min(row, records.size() - 1)];
+}
+
 void store(const Statement& statement, const Bound& bound, std::size_t row) {
     const auto place = static_cast<SQLLEN>(row);
     if (bound.type == SQL_C_WCHAR)
-        give(statement.answer.values[bound.column - 1u], bound.target + place * bound.room, bound.room,
-             bound.length + place);
+        give(recordAt(statement, statement.at + row)[bound.column - 1u], bound.target + place * bound.room,
+             bound.room, bound.length + place);
     else
         bound.length[place] = SQL_NULL_DATA;
 }
@@ -190,9 +201,35 @@ SQLRETURN SQL_API SQLExecDirectW(SQLHSTMT handle, SQLWCHAR* text, SQLINTEGER len
     log << given.size() << '\n';
     log.write(reinterpret_cast<const char*>(given.data()),
               static_cast<std::streamsize>(given.size() * sizeof(char16_t)));
-    statement.answer = zkp::scripted::answerTo(given);
-    statement.at = 0;
-    return statement.answer.columns.empty() ? fail(statement) : SQL_SUCCESS;
+    return answer(statement, zkp::scripted::answerTo(given));
+}
+
+SQLRETURN SQL_API SQLTablesW(SQLHSTMT handle, SQLWCHAR*, SQLSMALLINT, SQLWCHAR*, SQLSMALLINT, SQLWCHAR*,
+                             SQLSMALLINT, SQLWCHAR*, SQLSMALLINT) {
+    return answer(of(handle), zkp::scripted::tables());
+}
+SQLRETURN SQL_API SQLColumnsW(SQLHSTMT handle, SQLWCHAR*, SQLSMALLINT, SQLWCHAR*, SQLSMALLINT,
+                              SQLWCHAR* table, SQLSMALLINT length, SQLWCHAR*, SQLSMALLINT) {
+    return answer(of(handle), zkp::scripted::columnsOf(textOf(table, length)));
+}
+SQLRETURN SQL_API SQLPrimaryKeysW(SQLHSTMT handle, SQLWCHAR*, SQLSMALLINT, SQLWCHAR*, SQLSMALLINT, SQLWCHAR*,
+                                  SQLSMALLINT) {
+    return answer(of(handle), zkp::scripted::primaryKey());
+}
+
+SQLRETURN SQL_API SQLBindParameter(SQLHSTMT, SQLUSMALLINT, SQLSMALLINT, SQLSMALLINT, SQLSMALLINT, SQLULEN,
+                                   SQLSMALLINT, SQLPOINTER, SQLLEN, SQLLEN*) {
+    return SQL_SUCCESS;
+}
+
+/// Of the record fetched last; there are no bytes in any.
+SQLRETURN SQL_API SQLGetData(SQLHSTMT handle, SQLUSMALLINT column, SQLSMALLINT type, SQLPOINTER target,
+                             SQLLEN room, SQLLEN* length) {
+    const Statement& statement = of(handle);
+    if (type == SQL_C_WCHAR)
+        return give(recordAt(statement, statement.at - 1)[column - 1u], target, room, length);
+    *length = SQL_NULL_DATA;
+    return SQL_SUCCESS;
 }
 
 SQLRETURN SQL_API SQLCancel(SQLHSTMT) {
@@ -201,8 +238,8 @@ SQLRETURN SQL_API SQLCancel(SQLHSTMT) {
 SQLRETURN SQL_API SQLMoreResults(SQLHSTMT) {
     return SQL_NO_DATA;
 }
-SQLRETURN SQL_API SQLRowCount(SQLHSTMT, SQLLEN* count) {
-    *count = -1;
+SQLRETURN SQL_API SQLRowCount(SQLHSTMT handle, SQLLEN* count) {
+    *count = of(handle).answer.written;
     return SQL_SUCCESS;
 }
 

@@ -22,16 +22,22 @@ struct Column {
     SQLULEN size = 50;
 };
 
-/// What a statement is answered with; every record holds the same values.
+/// What a statement is answered with.
 struct Answer {
     std::vector<Column> columns;
-    std::vector<std::u16string> values;
+    std::vector<std::vector<std::u16string>> records; ///< the last one for all that follow
     std::size_t rows = 0;
-    std::size_t failsBehind = SIZE_MAX; ///< records until the link breaks
-    std::vector<Word> words;            ///< of the failure; without columns the statement itself fails
+    std::size_t failsBehind = SIZE_MAX; ///< records until the link breaks; 0 for the statement itself
+    std::vector<Word> words;            ///< of the failure
+    SQLLEN written = -1;                ///< records that the statement changed
 };
 
 /// By the statement's text; no records of one text column for any that has no answer of its own.
 Answer answerTo(const std::u16string& statement);
+
+/// The catalogue: one table, dbo.frms2, without a key.
+Answer tables();
+Answer columnsOf(const std::u16string& table);
+Answer primaryKey();
 
 } // namespace zkp::scripted

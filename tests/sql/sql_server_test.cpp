@@ -137,6 +137,26 @@ TEST(SqlServer, AControlAsksWhoTheUserIsByTheProcedure) {
     EXPECT_EQ(sent.statements(), QStringList(u" exec Sec_GetUserIerarxiaID 'P1'"_s));
 }
 
+TEST(SqlServer, TemplatesAreWrittenByParameters) {
+    const Sent sent(u"Name=Microsoft SQL Server"_s);
+    ZkpGrid grid(std::make_shared<ScriptedHost>());
+    grid.setCn(sent.connection);
+    grid.setCols(1);
+    grid.SaveTemplate({}, u"new"_s);
+    EXPECT_EQ(sent.statements(),
+              QStringList({u"select * from frms2 where lstCode = 'new'"_s,
+                           u"INSERT INTO [dbo].[frms2] ([lstCode],[datein],[ZKP_]) OUTPUT INSERTED.[lstCode] "
+                           u"VALUES (?,?,?)"_s,
+                           u"select * FROM  frms2  WHERE [lstCode] = ?"_s}));
+    grid.SaveTemplate({}, u"old"_s);
+    EXPECT_EQ(sent.statements().mid(3),
+              QStringList(
+                  {u"select * from frms2 where lstCode = 'old'"_s,
+                   u"select * , [lstCode] from frms2 where lstCode = 'old'"_s,
+                   u"UPDATE TOP (1) [dbo].[frms2] SET [lstCode]=?,[datein]=?,[ZKP_]=? WHERE [lstCode] = ?"_s,
+                   u"select * FROM  frms2  WHERE [lstCode] = ?"_s}));
+}
+
 TEST(SqlServer, TheStatementsHaveItsGrammar) {
     QStringList refused;
     for (const QString& statement : expectedStatements() + otherStatements()) {
