@@ -63,7 +63,7 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
                      {[this](int count) { setCols(count); }, [this](bool on) { setRefreshOnChange(on); },
                       [this] { driver.FillGrid(); }})
     , headingDrag(state, columns, columnProperties, groupFactors, surface, *host,
-                  [this] { driver.refresh(errorSink); })
+                  {[this] { driver.refresh(errorSink); }, [this] { menuState.MenuRefresh(); }})
     , fieldTools(state, columns, columnProperties, groupColumns, surface, children.Picture1,
                  [this] { driver.FillGrid(); })
     , menuState(state, columns, columnProperties, surface, children.Picture1, dictionary)

@@ -89,6 +89,8 @@ void HeadingDrag::drop(int from, int to) {
         if (isRefused(from, to) || from == to)
             return;
         move(from, to);
+        control_.MenuRefresh();
+        state_.throwIfDestroyed();
         if (properties_.ColForTot(to))
             askForRefresh();
         else
@@ -113,6 +115,10 @@ void HeadingDrag::move(int from, int to) {
         writeBack(c);
         state_.throwIfDestroyed();
     }
+    // A caption typed next is the moved column's. The user has moved no cell: nobody hears of it.
+    const SelectionQuiet quiet(state_);
+    surface_.setCol(std::min(to, surface_.Cols() - 1));
+    state_.LastClickedCol = surface_.Col();
 }
 
 /// Hosts that listen hear of every property of every column, in this order.
@@ -147,7 +153,7 @@ void HeadingDrag::askForRefresh() {
         return;
     flags_.CheckGroupBy(surface_.Cols());
     state_.throwIfDestroyed();
-    refresh_();
+    control_.refresh();
 }
 
 } // namespace zkp

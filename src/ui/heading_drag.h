@@ -14,16 +14,21 @@ namespace zkp {
 /// the way, and the drop.
 class HeadingDrag {
 public:
-    /// `refresh` is the control's.
+    /// What a drop asks of the control: its `refresh`, and `MenuRefresh`.
+    struct Control {
+        std::function<void()> refresh;
+        std::function<void()> MenuRefresh;
+    };
+
     HeadingDrag(ReportState& state, ColumnList& columns, ColumnProperties& properties,
-                GroupFactorFlags& flags, GridSurface& surface, Host& host, std::function<void()> refresh)
+                GroupFactorFlags& flags, GridSurface& surface, Host& host, Control control)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
         , flags_(flags)
         , surface_(surface)
         , host_(host)
-        , refresh_(std::move(refresh)) {}
+        , control_(std::move(control)) {}
 
     /// A left press on the column pressed last: the surface's `Tag` takes its number when a drag may start.
     /// False when the host is not to hear of the press: one on a data row, or in a detail report on the
@@ -31,8 +36,9 @@ public:
     bool prepare();
     /// The pointer over the heading row tells what a drop there would do.
     void showPointer(const SurfaceMouse& mouse);
-    /// Moves a column with its data, heading and look. For a group factor the user is asked whether to load
-    /// again; without it the rows stay grouped as they were. A failure shows the error box.
+    /// Moves a column with its data, heading and look; the current cell goes along. For a group factor the
+    /// user is asked whether to load again; without it the rows stay grouped as they were. A failure shows
+    /// the error box.
     void drop(int from, int to);
     /// No column crosses the border between group factors and others, and a factor changes its place only
     /// when both have a field.
@@ -53,7 +59,7 @@ private:
     GroupFactorFlags& flags_;
     GridSurface& surface_;
     Host& host_;
-    std::function<void()> refresh_;
+    Control control_;
 };
 
 } // namespace zkp

@@ -58,7 +58,9 @@ protected:
     ColumnProperties properties{columns, surface, events};
     GroupFactorFlags flags{state, columns, events};
     int refreshed = 0;
-    HeadingDrag drag{state, columns, properties, flags, surface, host, [this] { ++refreshed; }};
+    int menus = 0;
+    HeadingDrag drag{state, columns, properties, flags, surface, host,
+                     {[this] { ++refreshed; }, [this] { ++menus; }}};
     int answer = kAnswerNo;
     ScriptedHost::Message asked;
 };

@@ -234,7 +234,7 @@ protected:
     EmptyReport empty{state, properties, surface, children.Picture1, dictionary, host, hooks};
     MenuState menus{state, columns, properties, surface, children.Picture1, dictionary};
     SelectionEvents selection{state, key, surface, events, marking, drawing, menus, host, {}};
-    HeadingDrag drag{state, columns, properties, flags, surface, host, {}};
+    HeadingDrag drag{state, columns, properties, flags, surface, host, {[] {}, [] {}}};
     SurfaceEvents events_{
         state,  properties, surface, children.Picture1,
         events, dictionary, empty,   menus,

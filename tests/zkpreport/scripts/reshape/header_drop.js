@@ -112,4 +112,16 @@ grid.Rows = 1;
 dropped(grid, 0, 2);
 check("heading row only", [fieldsOf(grid), rowOf(grid, 0)], [["PREMIUM", "NOTE", "AGENT"], ["PREMIUM", "NOTE", "AGENT"]]);
 
+// The current cell goes along without a word: the tools and a typed caption are those of the moved column.
+grid = loaded(["AGENT", "BRANCH", "PREMIUM", "NOTE"]);
+grid.MSFlexGrid1.userSelect(2, 1);
+var selectings = 0;
+grid.events.Selecting.connect(function () { ++selectings; });
+drop(grid, 1, 3);
+check("moved", fieldsOf(grid), ["AGENT", "PREMIUM", "NOTE", "BRANCH"]);
+check("the current cell", [grid.Row, grid.Col, selectings], [2, 3, 0]);
+check("its caption in the tool", tool(grid, "mnuCaption").Text, "BRANCH");
+grid.Picture1.changeText("mnuCaption", "Κλάδος");
+check("a typed caption", rowOf(grid, 0), ["AGENT", "PREMIUM", "NOTE", "Κλάδος"]);
+
 finish();
