@@ -121,6 +121,6 @@ TEST_F(Settings, AClosedOrMissingConnectionIsAFailure) {
 TEST_F(Settings, AnotherConnectionInTheVariableIsUsedFromThenOn) {
     cn = std::make_shared<ado::Connection>();
     cn->Open(u"sqlite:"_s);
-    run(u"create table QRN_Main (GenKey SMALLINT, GenSubKey SMALLINT, GenValue TEXT)"_s);
+    cn->Execute(u"create table QRN_Main (GenKey SMALLINT, GenSubKey SMALLINT, GenValue TEXT)"_s);
     EXPECT_EQ(get(2, 6), u"NULL"_s);
 }
