@@ -12,6 +12,8 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDialog>
+#include <QFontInfo>
+#include <QFontMetrics>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -28,6 +30,10 @@ constexpr int kButtonBits = 0x0F;
 constexpr int kIconBits = 0x70;
 constexpr int kDefaultBits = 0x300;
 enum Buttons { kOkCancel = 1, kYesNoCancel = 3, kYesNo = 4 };
+
+// Pixels.
+constexpr int kBesideTitle = 180;
+constexpr int kWidestForTitle = 720;
 
 constexpr int kShellDone = 33; // above 32: success
 constexpr int kShellFileNotFound = 2;
@@ -88,6 +94,31 @@ auto run(Dialog* made, QWidget* parent, Read read) -> std::optional<decltype(rea
         answer = read(*dialog);
     delete dialog;
     return answer;
+}
+
+/// A frame writes the title in a font of its own, between its buttons.
+int widthForTitle(const QWidget& window) {
+    QFont bold = window.font();
+    bold.setBold(true);
+    return std::min(kWidestForTitle,
+                    QFontMetrics(bold).horizontalAdvance(window.windowTitle()) + kBesideTitle);
+}
+
+/// What was not changed in the dialog is as it was: a list of fonts knows only those that are there, and
+/// a report keeps the name that it was given.
+FontChoice chosenFont(const FontChoice& start, const QFont& shown, const QFont& chosen) {
+    FontChoice choice = start;
+    if (chosen.family() != shown.family())
+        choice.FontName = chosen.family();
+    if (chosen.pointSizeF() != shown.pointSizeF())
+        choice.FontSize = chosen.pointSizeF();
+    if (chosen.bold() != shown.bold())
+        choice.FontBold = chosen.bold();
+    if (chosen.italic() != shown.italic())
+        choice.FontItalic = chosen.italic();
+    if (chosen.underline() != shown.underline())
+        choice.FontUnderline = chosen.underline();
+    return choice;
 }
 
 /// "Βιβλίο (*.xlsx)|*.xlsx|..." as hosts write it, or a filter in the toolkit's own form.
@@ -158,6 +189,8 @@ std::optional<QString> QtHost::inputBox(const QString& prompt, const QString& ti
     dialog->setWindowTitle(title);
     dialog->setLabelText(prompt);
     dialog->setTextValue(text);
+    if (auto* line = dialog->findChild<QLineEdit*>()) // the dialog's own width follows its parts
+        line->setMinimumWidth(widthForTitle(*dialog));
     dialog->setOkButtonText(texts::ok());
     dialog->setCancelButtonText(texts::cancel());
     return run(dialog, parent_, [](QInputDialog& d) { return d.textValue(); });
@@ -187,11 +220,10 @@ std::optional<FontChoice> QtHost::fontDialog(const FontChoice& start) {
     font.setBold(start.FontBold);
     font.setItalic(start.FontItalic);
     font.setUnderline(start.FontUnderline);
-    return run(makeFontDialog(font, parent_), parent_, [](QFontDialog& d) {
-        const QFont chosen = d.selectedFont();
-        return FontChoice{chosen.family(), chosen.pointSizeF(), chosen.bold(), chosen.italic(),
-                          chosen.underline()};
-    });
+    font.setFamily(QFontInfo(font).family()); // what cells in it are painted with
+    auto* dialog = makeFontDialog(font, parent_);
+    const QFont shown = dialog->currentFont();
+    return run(dialog, parent_, [&](QFontDialog& d) { return chosenFont(start, shown, d.selectedFont()); });
 }
 
 void QtHost::beep() {

@@ -83,6 +83,20 @@ TEST(QtHostTest, AnInputIsTheTextOrNothing) {
     EXPECT_EQ(host.inputBox(QStringLiteral("Όνομα"), {}, {}), std::nullopt);
 }
 
+TEST(QtHostTest, AnInputIsAsWideAsItsTitle) {
+    QtHost host;
+    const QString title = QStringLiteral("Αλλαγή Τίτλου Υποδείγματος");
+    int width = 0;
+    int titleWidth = 0;
+    whenOpen<QInputDialog>([&](QInputDialog& dialog) {
+        width = dialog.width();
+        titleWidth = dialog.fontMetrics().horizontalAdvance(title);
+        dialog.reject();
+    });
+    host.inputBox(QStringLiteral("Τίτλος"), title, {});
+    EXPECT_GE(width, titleWidth + 120) << "and room for the frame's buttons";
+}
+
 TEST(QtHostTest, AColourComesBackAsItIsStored) {
     QtHost host;
     whenOpen<QColorDialog>([](QColorDialog& dialog) {
@@ -111,6 +125,34 @@ TEST(QtHostTest, AFontComesBackAsItWasChosen) {
     EXPECT_TRUE(chosen->FontItalic);
     whenOpen<QFontDialog>([](QFontDialog& dialog) { dialog.reject(); });
     EXPECT_FALSE(host.fontDialog({}));
+}
+
+TEST(QtHostTest, AFontThatIsNotInstalledStaysWhatItWas) {
+    QtHost host;
+    const FontChoice start{QStringLiteral("No Such Family"), 8.25, true, true, true};
+    whenOpen<QFontDialog>([](QFontDialog& dialog) {
+        EXPECT_EQ(dialog.currentFont().family(), QFontInfo(QFont(QStringLiteral("No Such Family"))).family());
+        EXPECT_TRUE(dialog.currentFont().bold());
+        dialog.accept();
+    });
+    const auto same = host.fontDialog(start);
+    ASSERT_TRUE(same);
+    EXPECT_EQ(same->FontName, start.FontName);
+    EXPECT_EQ(same->FontSize, 8.25);
+    EXPECT_TRUE(same->FontBold);
+    EXPECT_TRUE(same->FontItalic);
+    EXPECT_TRUE(same->FontUnderline);
+    whenOpen<QFontDialog>([](QFontDialog& dialog) {
+        QFont font = dialog.currentFont();
+        font.setPointSize(10);
+        dialog.setCurrentFont(font);
+        dialog.accept();
+    });
+    const auto larger = host.fontDialog(start);
+    ASSERT_TRUE(larger);
+    EXPECT_EQ(larger->FontName, start.FontName);
+    EXPECT_EQ(larger->FontSize, 10);
+    EXPECT_TRUE(larger->FontBold);
 }
 
 /// Every text of a dialog that is still English.
