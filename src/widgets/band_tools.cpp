@@ -1,15 +1,18 @@
 #include "widgets/band_tools.h"
 
+#include "widgets/full_text_tip.h"
 #include "widgets/tool_icons.h"
 
 #include <QComboBox>
 #include <QFrame>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QStylePainter>
 #include <QToolButton>
 #include <QWheelEvent>
 
@@ -20,9 +23,11 @@ namespace {
 constexpr int kWidestList = 420; // pixels
 constexpr int kFewLetters = 8;   // a list shows these at least
 constexpr int kIconSize = 16;
-constexpr int kLineEnds = 3; // what a separator leaves above and below
+constexpr int kBesideText = 1; // what a list leaves free left and right of its text
+constexpr int kLineEnds = 3;   // what a separator leaves above and below
 
-/// A list may stand in a narrow place and opens as wide as its entries.
+/// A list may stand in a narrow place and opens as wide as its entries; a text that has no room ends with
+/// an ellipsis and shows under a resting pointer.
 class ToolCombo : public QComboBox {
 public:
     explicit ToolCombo(QWidget* parent)
@@ -37,8 +42,34 @@ public:
     }
 
 protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::ToolTip || shownText() == currentText())
+            return QComboBox::event(event);
+        showFullText(*static_cast<QHelpEvent*>(event), *this, rect(), currentText());
+        return true;
+    }
+    void paintEvent(QPaintEvent*) override {
+        QStylePainter painter(this);
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        painter.drawComplexControl(QStyle::CC_ComboBox, option);
+        if (currentIndex() < 0)
+            option.palette.setBrush(QPalette::ButtonText, option.palette.placeholderText());
+        option.currentText = shownText();
+        painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    }
     /// A wheel that turns on its way over the row must not give a column another field.
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+private:
+    QString shownText() const {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const QRect field =
+            style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+        return fontMetrics().elidedText(currentIndex() < 0 ? placeholderText() : currentText(),
+                                        Qt::ElideRight, field.width() - 2 * kBesideText);
+    }
 };
 
 /// One quiet line; the toolkit's own is bright on a dark palette.
@@ -140,8 +171,11 @@ void syncToolWidget(QWidget& widget, const Tool& tool) {
             label->setText(text);
     } else if (auto* box = qobject_cast<QLineEdit*>(&widget)) {
         box->setPlaceholderText(tip(tool));
-        if (box->text() != tool.Text)
+        if (box->text() != tool.Text) {
             box->setText(tool.Text);
+            if (!box->hasFocus())
+                box->setCursorPosition(0); // a long text shows its beginning
+        }
     } else if (auto* list = qobject_cast<QComboBox*>(&widget)) {
         syncList(*list, tool);
     }

@@ -1,5 +1,7 @@
 #include "widgets/drag_mark.h"
 
+#include "widgets/palette_colors.h"
+
 #include <QPainter>
 #include <QPalette>
 
@@ -7,9 +9,9 @@ namespace zkp {
 
 namespace {
 
-constexpr double kCarried = 0.85;
 constexpr double kFaded = 0.6;
 constexpr int kLine = 3;
+constexpr int kFrame = 2;
 
 } // namespace
 
@@ -19,14 +21,13 @@ void DragMark::paint(QPainter& painter, const QPalette& palette) const {
     painter.fillRect(from, fade);
     const QColor mark = palette.color(QPalette::Highlight);
     if (!heading.isNull()) {
-        const QSize size = heading.deviceIndependentSize().toSize();
-        painter.setOpacity(line ? kCarried : kFaded);
-        painter.drawPixmap(left, 0, heading);
-        painter.setPen(mark);
-        painter.drawRect(left, 0, size.width() - 1, size.height() - 1);
-        painter.setOpacity(1);
+        const QRect carried(QPoint(left, 0), heading.deviceIndependentSize().toSize());
+        painter.drawPixmap(carried.topLeft(), heading);
+        painter.setPen(isRefused ? refusalColor(palette) : mark);
+        for (int inset = 0; inset < kFrame; ++inset)
+            painter.drawRect(carried.adjusted(inset, inset, -inset - 1, -inset - 1));
     }
-    if (!line)
+    if (!line || isRefused)
         return;
     painter.fillRect(*line - kLine / 2, 0, kLine, headingsHeight, mark);
     painter.fillRect(*line, headingsHeight, 1, height - headingsHeight, mark);

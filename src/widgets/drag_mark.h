@@ -16,7 +16,8 @@ struct DragMark {
     QPixmap heading;
     int left = 0;            ///< of the heading that is carried
     QRect from;              ///< the place that it was taken from; empty when that does not show
-    std::optional<int> line; ///< nothing where a drop would be refused
+    std::optional<int> line; ///< nothing where there is no place for it
+    bool isRefused = false;  ///< a drop here would change nothing
     int headingsHeight = 0;
     int height = 0; ///< of all that shows
 

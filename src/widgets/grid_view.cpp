@@ -119,7 +119,8 @@ bool GridView::event(QEvent* event) {
         return true;
     setEnabled(surface_->look().Enabled);
     syncBars();
-    if (!report([this](GridSurface& surface) { surface.setVisibleRows(roomForRows_); }))
+    if (!report([this](GridSurface& surface) { surface.setVisibleRows(roomForRows_); }) ||
+        !followCurrentColumn())
         return true;
     announcer_.announce(*this);
     Q_EMIT surfaceChanged();

@@ -70,6 +70,7 @@ Q_SIGNALS:
 
 protected:
     bool event(QEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
@@ -110,8 +111,10 @@ private:
     void moveColumn(int arrow);
     void followColumn(CellPlace from, CellPlace to, const SurfaceMouse& drop);
     bool showCell(CellPlace cell);
+    bool followCurrentColumn();
 
     CellPlace cellAt(QPoint at);
+    bool showWholeText(const QHelpEvent& event);
     SurfaceMouse mouseAt(QPoint at, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers);
     void startSelecting(CellPlace cell, CellPlace anchor, bool extend);
     void extendSelection(QPoint at);
@@ -126,6 +129,7 @@ private:
     bool dropHeading(int from, const SurfaceMouse& mouse);
     void endGesture();
     void finishResize();
+    void resizeTo(int col, int pixels);
     void fitColumn(int col);
     QPixmap pictureOfHeading(const Span& col);
     void paintGesture(QPainter& painter) const;
@@ -139,6 +143,7 @@ private:
     QPoint dragAt_;
     GridAnnouncer announcer_;
     CellPlace pressed_{-1, -1};
+    std::optional<int> currentCol_; // at the last notice of the surface
     std::optional<QPoint> menuPlace_;
     bool selecting_ = false;
     QBasicTimer scrollTimer_; // while a selection or heading is dragged to the edge

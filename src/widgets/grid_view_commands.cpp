@@ -56,12 +56,8 @@ void GridView::resizeColumnBy(int pixels) {
     const int col = surface_->Col();
     if (!showCell({surface_->Row(), col}))
         return;
-    const Span* span = spanOf(page().cols, col);
-    if (!span)
-        return;
-    const int width = std::max(kWidthStep, span->size + pixels);
-    report(
-        [&](GridSurface& surface) { surface.userResizeColumn(col, static_cast<int>(scale_.twips(width))); });
+    if (const Span* span = spanOf(page().cols, col))
+        resizeTo(col, std::max(kWidthStep, span->size + pixels));
 }
 
 void GridView::fitCurrentColumn() {

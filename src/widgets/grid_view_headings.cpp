@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QPainter>
 
+#include <cmath>
+
 namespace zkp {
 
 namespace {
@@ -100,19 +102,20 @@ void GridView::finishResize() {
     const int width = gesture_.width();
     endGesture();
     const Span* span = spanOf(page().cols, col);
-    if (!span || span->size == width)
-        return;
-    report(
-        [&](GridSurface& surface) { surface.userResizeColumn(col, static_cast<int>(scale_.twips(width))); });
+    if (span && span->size != width)
+        resizeTo(col, width);
+}
+
+void GridView::resizeTo(int col, int pixels) {
+    const int twips = static_cast<int>(std::lround(scale_.twips(pixels)));
+    report([&](GridSurface& surface) { surface.userResizeColumn(col, twips); });
 }
 
 /// As wide as the texts that show.
 void GridView::fitColumn(int col) {
     endGesture();
     const SurfacePainter::Frame frame{*surface_, page(), palette(), hasFocus()};
-    const int width = painter_.widestText(frame, *spanOf(page_.cols, col));
-    report(
-        [&](GridSurface& surface) { surface.userResizeColumn(col, static_cast<int>(scale_.twips(width))); });
+    resizeTo(col, painter_.widestText(frame, col));
 }
 
 QPixmap GridView::pictureOfHeading(const Span& col) {
@@ -120,6 +123,7 @@ QPixmap GridView::pictureOfHeading(const Span& col) {
     const QRect heading(col.start, 0, col.size, page_.bodyTop());
     QPixmap picture((QSizeF(heading.size()) * ratio).toSize());
     picture.setDevicePixelRatio(ratio);
+    picture.fill(palette().color(QPalette::Button)); // the last pixel may be the heading's only in part
     QPainter painter(&picture);
     painter.translate(-heading.left(), 0);
     painter_.paint(painter, {*surface_, page_, palette(), hasFocus()}, heading);
@@ -131,11 +135,10 @@ void GridView::paintGesture(QPainter& painter) const {
         painter.fillRect(*gesture_.markX(), 0, 1, page_.bottom(), palette().color(QPalette::Highlight));
     if (!gesture_.isDragging())
         return;
-    DragMark mark{ghost_, gesture_.ghostX(), {}, {}, page_.bodyTop(), page_.bottom()};
+    DragMark mark{ghost_,          gesture_.ghostX(), {}, gesture_.markX(), pointer_ == kPointerNoDrop,
+                  page_.bodyTop(), page_.bottom()};
     if (const Span* span = spanOf(page_.cols, gesture_.column()))
         mark.from = QRect(span->start, 0, span->size, page_.bodyTop());
-    if (pointer_ != kPointerNoDrop)
-        mark.line = gesture_.markX();
     mark.paint(painter, palette());
 }
 

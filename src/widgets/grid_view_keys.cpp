@@ -5,6 +5,8 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
+#include <utility>
+
 namespace zkp {
 
 void GridView::keyPressEvent(QKeyEvent* event) {
@@ -95,6 +97,19 @@ bool GridView::showCell(CellPlace cell) {
         return true;
     // One direction after the other: of a move in both, a listener takes note of the one to the side alone.
     return report([&](GridSurface& surface) { surface.userScroll(top, surface.LeftCol()); }) &&
+           report([&](GridSurface& surface) { surface.userScroll(surface.TopRow(), left); });
+}
+
+/// A command has moved the current cell to another column, which is then looked for. Where a user is at
+/// work with the mouse, nothing moves away under the pointer.
+bool GridView::followCurrentColumn() {
+    const int col = surface_->Col();
+    const std::optional<int> before = std::exchange(currentCol_, col);
+    const bool byMouse = selecting_ || gesture_.isPressed() || gesture_.isActive();
+    if (!before || *before == col || byMouse || col >= surface_->Cols() || surface_->ColHidden(col))
+        return true;
+    const int left = firstToShow(page().colAxis, col);
+    return left == surface_->LeftCol() ||
            report([&](GridSurface& surface) { surface.userScroll(surface.TopRow(), left); });
 }
 

@@ -1,9 +1,11 @@
 #include "widgets/grid_view.h"
 
+#include "widgets/full_text_tip.h"
 #include "widgets/key_codes.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QHelpEvent>
 #include <QMouseEvent>
 
 namespace zkp {
@@ -19,6 +21,25 @@ CellPlace GridView::cellAt(QPoint at) {
     const Span* row = spanAt(shown.rows, at.y());
     const Span* col = spanAt(shown.cols, at.x());
     return {row ? row->index : -1, col ? col->index : -1};
+}
+
+bool GridView::viewportEvent(QEvent* event) {
+    return (event->type() == QEvent::ToolTip && showWholeText(*static_cast<QHelpEvent*>(event))) ||
+           QAbstractScrollArea::viewportEvent(event);
+}
+
+/// False where nothing is cut.
+bool GridView::showWholeText(const QHelpEvent& event) {
+    if (!surface_)
+        return false;
+    const PageLayout& shown = page();
+    const Span* row = spanAt(shown.rows, event.y());
+    const Span* col = spanAt(shown.cols, event.x());
+    if (!row || !col || !painter_.isCut({*surface_, shown, palette(), hasFocus()}, *row, *col))
+        return false;
+    showFullText(event, *viewport(), shown.cellRect(row->index, col->index),
+                 surface_->TextMatrix(row->index, col->index));
+    return true;
 }
 
 SurfaceMouse GridView::mouseAt(QPoint at, Qt::MouseButtons buttons, Qt::KeyboardModifiers modifiers) {

@@ -59,6 +59,12 @@ QColor paintedColor(Color color, const QPalette& palette) {
                   static_cast<int>(color >> 16 & 0xFF));
 }
 
+QColor refusalColor(const QPalette& palette) {
+    const QColor text = palette.color(QPalette::WindowText);
+    const auto mix = [](int red, int share) { return (3 * red + share) / 4; };
+    return QColor(mix(220, text.red()), mix(20, text.green()), mix(20, text.blue()));
+}
+
 Color storedColor(const QColor& color) {
     return static_cast<Color>(color.red() | color.green() << 8 | color.blue() << 16);
 }

@@ -15,6 +15,9 @@ QColor paintedColor(Color color, const QPalette& palette);
 /// light desktop may meet the palette's text colour of a dark one.
 QColor readableOn(const QColor& back, const QColor& fore);
 
+/// Red, as dark or light as the palette's texts need to be read.
+QColor refusalColor(const QPalette& palette);
+
 /// An opaque colour as the control stores it.
 Color storedColor(const QColor& color);
 

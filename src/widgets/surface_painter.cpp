@@ -5,14 +5,16 @@
 #include "widgets/surface_selection.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 namespace zkp {
 
 namespace {
 
-constexpr int kSidePadding = 4; // pixels left and right of a text
-constexpr int kEdgePadding = 3; // pixels between a text and the top or bottom of a tall cell
+constexpr int kSidePadding = 4;                // pixels left and right of a text
+constexpr int kPadding = 2 * kSidePadding + 1; // and the line at the right
+constexpr int kEdgePadding = 3;                // pixels between a text and the top or bottom of a tall cell
 constexpr int kAlignGeneral = 9;
 constexpr int kAlignLeftCentre = 1;
 constexpr int kAlignRightCentre = 7;
@@ -235,17 +237,28 @@ void SurfacePainter::drawText(QPainter& painter, const Cell& cell) {
         painter.fillRect(left, baseline - cell.face->strikeOut(), width, cell.face->lineWidth(), cell.fore);
 }
 
-int SurfacePainter::widestText(const Frame& frame, const Span& col) {
+/// The column stands alone on a page of its own, so that its present width cuts no text.
+int SurfacePainter::widestText(const Frame& frame, int col) {
     cache_.trim();
-    PageTexts texts(frame.surface, frame.page);
-    const auto position =
-        static_cast<std::size_t>(spanOf(frame.page.cols, col.index) - frame.page.cols.data());
+    PageLayout page = frame.page;
+    page.cols = {{col, 0, frame.page.size.width()}};
+    PageTexts texts(frame.surface, page);
     float widest = 0;
-    for (std::size_t row = 0; row < frame.page.rows.size(); ++row) {
-        const CellStyle style = frame.surface.styleAt(frame.page.rows[row].index, col.index);
-        widest = std::max(widest, cache_.face(style).shape(texts.at(row, position)).width);
+    for (std::size_t row = 0; row < page.rows.size(); ++row) {
+        const CellStyle style = frame.surface.styleAt(page.rows[row].index, col);
+        widest = std::max(widest, cache_.face(style).shape(texts.at(row, 0)).width);
     }
-    return static_cast<int>(widest + 0.5F) + 2 * kSidePadding + 1;
+    return static_cast<int>(std::ceil(widest)) + kPadding;
+}
+
+bool SurfacePainter::isCut(const Frame& frame, const Span& row, const Span& col) {
+    cache_.trim();
+    PageLayout page = frame.page;
+    page.rows = {row};
+    page.cols = {col};
+    const QString text = PageTexts(frame.surface, page).at(0, 0);
+    const CellStyle style = frame.surface.styleAt(row.index, col.index);
+    return cache_.face(style).shape(text).width > static_cast<float>(std::max(0, col.size - kPadding));
 }
 
 } // namespace zkp

@@ -24,7 +24,9 @@ public:
 
     void paint(QPainter& painter, const Frame& frame, const QRect& dirty);
     /// Pixels that the widest of the column's texts on the page needs.
-    int widestText(const Frame& frame, const Span& col);
+    int widestText(const Frame& frame, int col);
+    /// Whether a cell of the page has no room for all of its text.
+    bool isCut(const Frame& frame, const Span& row, const Span& col);
 
 private:
     struct Cell {

@@ -6,10 +6,12 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFrame>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QToolButton>
+#include <QToolTip>
 #include <QtTest/QTest>
 
 #include <gtest/gtest.h>

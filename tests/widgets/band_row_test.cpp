@@ -49,6 +49,35 @@ TEST_F(BandRow, ListAndTextGetNarrowerBeforeAToolGoes) {
     EXPECT_GE(tool<QComboBox>("mnuField")->width(), 70);
 }
 
+TEST_F(BandRow, ATitleShowsItsBeginning) {
+    const QString title = QStringLiteral("Ασφαλισμένα Κεφάλαια Συμβολαίου");
+    bar.Tools(u"mnuCaption").Text = title;
+    bar.Refresh();
+    EXPECT_EQ(tool<QLineEdit>("mnuCaption")->cursorPosition(), 0);
+}
+
+TEST_F(BandRow, AListEntryWithoutRoomEndsWithAnEllipsisAndShowsUnderTheRestingPointer) {
+    const QString entry = QStringLiteral("Μικτά Ασφάλιστρα (Άθροισμα) όλων των Υποκαταστημάτων");
+    bar.Tools(u"mnuField").list = QStringList{entry, QStringLiteral("Κλάδος")};
+    bar.Tools(u"mnuField").ListIndex = 0;
+    bar.Refresh();
+    resize(300);
+    auto* list = tool<QComboBox>("mnuField");
+    const auto rest = [&] {
+        QHelpEvent event(QEvent::ToolTip, {5, 5}, list->mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(list, &event);
+        return QToolTip::text();
+    };
+    EXPECT_TRUE(rest().contains(entry)) << rest().toStdString();
+    const QImage cut = list->grab().toImage();
+    bar.Tools(u"mnuField").list = QStringList{entry + entry, QStringLiteral("Κλάδος")};
+    bar.Refresh();
+    EXPECT_EQ(list->grab().toImage(), cut) << "no letter is cut in two";
+    bar.Tools(u"mnuField").list = QStringList{QStringLiteral("Κλάδος")};
+    bar.Refresh();
+    EXPECT_FALSE(rest().contains(QStringLiteral("Κλάδος")));
+}
+
 TEST_F(BandRow, ACheckedToolIsPressed) {
     add(bar.Bands(kBand), QStringLiteral("mnuAlignLeft"), ToolKind::Check);
     bar.Refresh();

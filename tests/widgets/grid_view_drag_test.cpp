@@ -1,6 +1,7 @@
 #include "view_fixture.h"
 
 #include "platform/host.h"
+#include "widgets/palette_colors.h"
 
 namespace zkp {
 namespace {
@@ -65,6 +66,28 @@ TEST_F(GridViewDrag, WhereADropIsRefusedThereIsNoLine) {
     release(cell(0, 2));
 }
 
+TEST_F(GridViewDrag, WhereADropIsRefusedTheHeadingIsFramedInRed) {
+    dragTo(cell(0, 2));
+    EXPECT_EQ(pixel(2 * kCol, 10), mark());
+    view->setPointer(kPointerNoDrop);
+    EXPECT_EQ(pixel(2 * kCol, 10), refusalColor(view->palette()));
+    EXPECT_EQ(pixel(3 * kCol - 1, 10), refusalColor(view->palette()));
+    release(cell(0, 2));
+}
+
+TEST_F(GridViewDrag, NothingBelowShowsThroughTheHeading) {
+    const QImage before = picture();
+    surface->setTextMatrix(0, 1, QStringLiteral("ΩΩΩΩΩΩΩΩΩΩ"));
+    dragTo(cell(0, 1));
+    const auto inside = [](const QImage& image, int col) {
+        return image.copy(col * kCol + 3, 2, kCol - 7, kRow - 5);
+    };
+    EXPECT_EQ(inside(picture(), 1), inside(before, 0));
+    view->setPointer(kPointerNoDrop);
+    EXPECT_EQ(inside(picture(), 1), inside(before, 0)) << "also where it is refused";
+    release(cell(0, 1));
+}
+
 TEST_F(GridViewDrag, ThePointerOfADragShowsOnlyWhileThereIsOne) {
     view->setPointer(kPointerCustom);
     EXPECT_EQ(cursor(), Qt::ArrowCursor);
@@ -83,7 +106,7 @@ TEST_F(GridViewDrag, ThePointerOfADragShowsOnlyWhileThereIsOne) {
 TEST_F(GridViewDrag, OffTheHeadingsThereIsNoLineAndADropDoesNothing) {
     dragTo(cell(0, 2));
     move(cell(5, 2));
-    EXPECT_NE(pixel(299, 10), mark());
+    EXPECT_NE(pixel(299, 100), mark());
     release(cell(5, 2));
     press(cell(0, 0));
     move(cell(0, 2));

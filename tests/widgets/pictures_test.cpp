@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -91,7 +92,7 @@ void fillBar(MenuBar& bar) {
     bar.Tools(u"txtRecs").Text = QStringLiteral("20.000");
     bar.Tools(u"mnuAlignRight").Checked = true;
     bar.Tools(u"mnuGraph").Enabled = false;
-    bar.Tools(u"mnuField").list = QStringList{QStringLiteral("Ασφάλιστρα")};
+    bar.Tools(u"mnuField").list = QStringList{QStringLiteral("Μικτά Ασφάλιστρα (Άθροισμα)")};
     bar.Tools(u"mnuField").ListIndex = 0;
     bar.Tools(u"mnuCaption").Text = QStringLiteral("Ασφάλιστρα");
 }
@@ -173,6 +174,42 @@ TEST(Pictures, TheDialogs) {
     host.fontDialog({QStringLiteral("Liberation Sans"), 10});
     save("dialog_box");
     host.msgBox(QStringLiteral("Να ανανεώσω τώρα τη λίστα;"), kMsgBoxQuestion + 3, QStringLiteral("QRN"));
+    save("dialog_input");
+    host.inputBox(QStringLiteral("Τίτλος"), QStringLiteral("Αλλαγή Τίτλου Υποδείγματος"), {});
+}
+
+/// A heading carried over others, where it may be dropped and where not.
+void paintDrag(const QString& name, double scale, const QPalette& palette, int pointer) {
+    GridSurface surface;
+    fill(surface);
+    GridView view(surface);
+    view.setPalette(palette);
+    view.resize(700, 120);
+    view.show();
+    QApplication::processEvents();
+    QWidget* port = view.viewport();
+    const auto send = [&](QEvent::Type type, QPoint at) {
+        QMouseEvent event(type, at, port->mapToGlobal(at), Qt::LeftButton, Qt::LeftButton, {});
+        QApplication::sendEvent(port, &event);
+    };
+    send(QEvent::MouseButtonPress, {40, 8});
+    send(QEvent::MouseMove, {90, 8});
+    send(QEvent::MouseMove, {240, 8});
+    view.setPointer(pointer);
+    QApplication::processEvents();
+    QImage image((QSizeF(port->size()) * scale).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    port->render(&image);
+    EXPECT_TRUE(image.save(QStringLiteral(ZKP_BINARY_DIR "/pictures/%1.png").arg(name)));
+    send(QEvent::MouseButtonRelease, {240, 8});
+}
+
+TEST(Pictures, AHeadingOnItsWay) {
+    paintDrag(QStringLiteral("drag_100"), 1, QApplication::palette(), kPointerCustom);
+    paintDrag(QStringLiteral("drag_200"), 2, QApplication::palette(), kPointerCustom);
+    paintDrag(QStringLiteral("drag_refused_100"), 1, QApplication::palette(), kPointerNoDrop);
+    paintDrag(QStringLiteral("drag_refused_200"), 2, QApplication::palette(), kPointerNoDrop);
+    paintDrag(QStringLiteral("drag_refused_dark"), 1, darkPalette(), kPointerNoDrop);
 }
 
 TEST(Pictures, AtAnOddSize) {
