@@ -15,10 +15,13 @@ namespace {
 
 bool changesNames(const QString& statement) {
     const std::vector<dialect::Token> tokens = dialect::tokenize(statement);
-    return std::any_of(tokens.begin(), tokens.end(), [](const dialect::Token& token) {
-        return token.isWord(u"create") || token.isWord(u"alter") || token.isWord(u"drop") ||
-               token.isWord(u"rename") || token.isWord(u"into");
-    });
+    const auto has = [&tokens](QStringView word) {
+        return std::any_of(tokens.begin(), tokens.end(),
+                           [word](const dialect::Token& token) { return token.isWord(word); });
+    };
+    // An INSERT INTO makes no table, a SELECT INTO does.
+    return has(u"create") || has(u"alter") || has(u"drop") || has(u"rename") ||
+           (has(u"into") && !has(u"insert"));
 }
 
 /// A statement that a connection for reading may write with.
