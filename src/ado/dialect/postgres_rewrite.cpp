@@ -201,12 +201,7 @@ private:
         QStringList items;
         for (const QString& item : order.items)
             items << rewriteNames(item) + QStringLiteral(" NULLS FIRST");
-        std::size_t last = count();
-        while (last > 0 && at(last - 1).isSign(u";"))
-            --last;
-        if (!items.isEmpty() && last > 0)
-            written(last - 1) += (order.behindOrder ? QStringLiteral(", ") : QStringLiteral(" ORDER BY ")) +
-                                 items.join(QStringLiteral(", "));
+        orderBy(items, order.behindOrder);
     }
 
     QString rewriteNames(const QString& part) const {

@@ -159,6 +159,15 @@ void Rewriter::rewriteTop(std::size_t k, const QString& beforeMember, const QStr
     }
 }
 
+void Rewriter::orderBy(const QStringList& items, bool behindOrder) {
+    std::size_t last = count();
+    while (last > 0 && at(last - 1).isSign(u";"))
+        --last;
+    if (!items.isEmpty() && last > 0)
+        written(last - 1) += (behindOrder ? QStringLiteral(", ") : QStringLiteral(" ORDER BY ")) +
+                             items.join(QStringLiteral(", "));
+}
+
 std::size_t Rewriter::endOfSelect(std::size_t k, bool isMember) const {
     int depth = 0;
     for (; k < solid_.size(); ++k) {

@@ -49,6 +49,8 @@ protected:
     void topToLimit(const QString& beforeMember, const QString& behindMember);
     /// Lets comparisons of a text constant ignore case: `collation` goes behind the constant.
     void collateConstants(const QString& collation);
+    /// Adds items to the end of the statement: behind an order that it has, or as its order.
+    void orderBy(const QStringList& items, bool behindOrder);
     /// The place behind the last token of the select that a place is in.
     std::size_t endOfSelect(std::size_t k, bool isMember) const;
 
