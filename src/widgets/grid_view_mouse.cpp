@@ -68,6 +68,7 @@ void GridView::mousePressEvent(QMouseEvent* event) {
     pressed_ = left ? CellPlace{mouse.row, mouse.col} : CellPlace{-1, -1};
     if (!report([&](GridSurface& surface) { surface.userPress(mouse); }))
         return;
+    currentCol_ = surface_->Col(); // a second click must find what the first one found
     if (left && heading && mouse.col >= 0)
         pressHeading(mouse.col, at);
     const QPointer<GridView> self(this);

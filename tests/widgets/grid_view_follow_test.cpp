@@ -80,6 +80,16 @@ TEST_F(GridViewFollow, NothingMovesUnderAButtonThatIsDown) {
     EXPECT_EQ(surface->LeftCol(), 0);
 }
 
+TEST_F(GridViewFollow, AHeadingThatIsClickedStaysUnderThePointer) {
+    view->resize(450, 210);
+    settle();
+    surface->notifications.mouseDown = [this](const SurfaceMouse& mouse) { surface->setCol(mouse.col); };
+    click({430, 10});
+    settle();
+    EXPECT_EQ(surface->Col(), 4);
+    EXPECT_EQ(surface->LeftCol(), 0) << "though half of it shows";
+}
+
 TEST_F(GridViewFollow, AHiddenColumnAndOneWiderThanTheViewDoNoHarm) {
     surface->setColHidden(9, true);
     surface->setCol(9);

@@ -24,6 +24,24 @@ TEST_F(ReportSession, AToolAlignsTheCurrentColumn) {
     EXPECT_NE(picture(), before);
 }
 
+TEST_F(ReportSession, AColumnThatIsAddedComesIntoSightAndNothingElseIsPaintedAnew) {
+    widget.resize(500, 500);
+    click(4, 2);
+    const int before = surface().LeftCol();
+    bool shows = false;
+    QObject::connect(&grid().events(), &Events::addcolumn, [&] {
+        shows = !widget.view().page().cellRect(0, 5).isEmpty();
+        surface().takeCosts();
+    });
+    grid().mnuAddColumn_Click();
+    EXPECT_FALSE(shows) << "it was added where nobody sees it";
+    settle();
+    EXPECT_GT(surface().LeftCol(), before);
+    EXPECT_FALSE(widget.view().page().cellRect(0, 5).isEmpty());
+    EXPECT_EQ(surface().takeCosts().styleWrites, 0) << "a move to the side";
+    EXPECT_EQ(surface().TopRow(), 1);
+}
+
 TEST_F(ReportSession, ACaptionIsTypedInGreek) {
     click(4, 2);
     auto& box = tool<QLineEdit>("mnuCaption");
