@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QTimer>
@@ -210,6 +211,23 @@ TEST(Pictures, AHeadingOnItsWay) {
     paintDrag(QStringLiteral("drag_refused_100"), 1, QApplication::palette(), kPointerNoDrop);
     paintDrag(QStringLiteral("drag_refused_200"), 2, QApplication::palette(), kPointerNoDrop);
     paintDrag(QStringLiteral("drag_refused_dark"), 1, darkPalette(), kPointerNoDrop);
+}
+
+TEST(Pictures, ACutTextUnderTheRestingPointer) {
+    GridSurface surface;
+    fill(surface);
+    GridView view(surface);
+    view.resize(700, 120);
+    view.show();
+    QApplication::processEvents();
+    QHelpEvent event(QEvent::ToolTip, {350, 60}, view.viewport()->mapToGlobal(QPoint(350, 60)));
+    QApplication::sendEvent(view.viewport(), &event);
+    QWidget* tip = nullptr;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (window->isVisible() && window->windowType() == Qt::ToolTip)
+            tip = window;
+    ASSERT_NE(tip, nullptr);
+    EXPECT_TRUE(tip->grab().save(QStringLiteral(ZKP_BINARY_DIR "/pictures/tip.png")));
 }
 
 TEST(Pictures, AtAnOddSize) {
