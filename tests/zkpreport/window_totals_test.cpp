@@ -2,6 +2,8 @@
 #include "window/texts.h"
 #include "window_fixture.h"
 
+#include <QPlainTextEdit>
+
 // The totals form: a row for each group, worked out by the database.
 
 namespace {
@@ -30,7 +32,7 @@ protected:
         };
         const QString premium = QStringLiteral("SUM(PREMIUM)");
         const QString count = QStringLiteral("COUNT(*)");
-        EXPECT_EQ(cell(row, QStringLiteral("CNT")), greek(sum(count, group), 0)) << qPrintable(group);
+        EXPECT_EQ(cell(row, QStringLiteral("Cnt")), greek(sum(count, group), 0)) << qPrintable(group);
         EXPECT_EQ(cell(row, QStringLiteral("SUM_PREMIUM")), greek(sum(premium, group))) << qPrintable(group);
         EXPECT_EQ(cell(row, QStringLiteral("POS_CNT")), greek(sum(count, group) * 100 / sum(count, parent)))
             << qPrintable(group);
@@ -50,7 +52,7 @@ protected:
             expectRow(row, source, all, QStringLiteral("CATEGORY='%1'").arg(cell(row, kCategory)));
         const int last = grid().Rows() - 1;
         EXPECT_EQ(rowsOfKind(ZKPTotals), std::vector<int>{last});
-        EXPECT_EQ(cell(last, QStringLiteral("CNT")),
+        EXPECT_EQ(cell(last, QStringLiteral("Cnt")),
                   greek(amount(QStringLiteral("SELECT COUNT(*) FROM ") + source), 0));
         EXPECT_EQ(cell(last, QStringLiteral("SUM_PREMIUM")),
                   greek(amount(QStringLiteral("SELECT SUM(PREMIUM) FROM ") + source)));
@@ -61,12 +63,30 @@ TEST_F(WindowTotals, FactorsThenTheCountThenSumsWithTheirShares) {
     openByProduct();
     EXPECT_TRUE(grid().TotalForm());
     EXPECT_EQ(fields(),
-              (QStringList{kCategory, kProduct, QStringLiteral("CNT"), QStringLiteral("POS_CNT"),
+              (QStringList{kCategory, kProduct, QStringLiteral("Cnt"), QStringLiteral("POS_CNT"),
                            QStringLiteral("SUM_PREMIUM"), QStringLiteral("POS_PREMIUM"),
-                           QStringLiteral("AVG_PREMIUM"), QStringLiteral("MIN_PREMIUM"),
-                           QStringLiteral("MAX_PREMIUM"), QStringLiteral("SUM_NET"),
+                           QStringLiteral("Avg_PREMIUM"), QStringLiteral("Min_PREMIUM"),
+                           QStringLiteral("Max_PREMIUM"), QStringLiteral("SUM_NET"),
                            QStringLiteral("POS_NET"), QStringLiteral("SUM_TAX"), QStringLiteral("POS_TAX")}));
     EXPECT_TRUE(host->messages.empty());
+}
+
+TEST_F(WindowTotals, TheFieldListShowsTheFieldOfEveryColumn) {
+    openByProduct();
+    for (int col = 2; col < grid().Cols(); ++col) {
+        grid().MSFlexGrid1().userSelect(1, col);
+        settle();
+        EXPECT_NE(grid().Picture1().Tools(u"mnuField").Text, QString())
+            << qPrintable(grid().ColDataField(col));
+    }
+}
+
+/// The statement finds its columns in capitals, whatever a column's letters.
+TEST_F(WindowTotals, TheStatementAsksForEveryAggregate) {
+    openByProduct(QStringLiteral("QRYPRODUCT"));
+    const QString sql = part<QPlainTextEdit>("built").toPlainText();
+    for (const char* wanted : {"Count(*) As Cnt", "AS POS_CNT", " As AVG_"})
+        EXPECT_TRUE(sql.contains(QLatin1String(wanted))) << wanted << '\n' << qPrintable(sql);
 }
 
 TEST_F(WindowTotals, EveryRowIsWhatTheDatabaseSays) {
@@ -87,11 +107,11 @@ TEST_F(WindowTotals, TheOtherAggregatesAreOfTheGroupsRecords) {
     const int row = rowsOfKind(ZKPSingleRow).front();
     const QString where =
         QStringLiteral(" FROM POLICIESDATA WHERE PRODUCTNAME='%1'").arg(cell(row, kProduct));
-    EXPECT_EQ(cell(row, QStringLiteral("AVG_PREMIUM")),
+    EXPECT_EQ(cell(row, QStringLiteral("Avg_PREMIUM")),
               greek(amount(QStringLiteral("SELECT ROUND(AVG(PREMIUM), 2)") + where)));
-    EXPECT_EQ(cell(row, QStringLiteral("MIN_PREMIUM")),
+    EXPECT_EQ(cell(row, QStringLiteral("Min_PREMIUM")),
               greek(amount(QStringLiteral("SELECT MIN(PREMIUM)") + where)));
-    EXPECT_EQ(cell(row, QStringLiteral("MAX_PREMIUM")),
+    EXPECT_EQ(cell(row, QStringLiteral("Max_PREMIUM")),
               greek(amount(QStringLiteral("SELECT MAX(PREMIUM)") + where)));
 }
 

@@ -18,14 +18,15 @@ constexpr double kShareWidth = 750;
 constexpr double kLeastAmountWidth = 1350;
 constexpr double kHeadingLetter = 100;
 constexpr double kHeadingEnds = 150;
-constexpr QStringView kCount = u"CNT";
+constexpr QStringView kCount = u"Cnt";
 
-/// Collects aggregate columns, in the order in which a report shows them.
+/// Collects aggregate columns, in the order in which a report shows them. They are spelled as the list of
+/// fields spells them, which knows its own by the exact letters.
 class TotalsColumns {
 public:
     void addCount() {
         add(kCount.toString(), texts::countHeading(), kCountWidth, true);
-        addShare(kCount);
+        addShare(u"CNT");
     }
     void addSum(const DictionaryField& field) {
         add(QStringLiteral("SUM_") + field.key, field.caption, widthOf(field), true);
@@ -33,11 +34,11 @@ public:
     }
     void addOthers(const DictionaryField& field) {
         if (field.hasAverage)
-            add(QStringLiteral("AVG_") + field.key, texts::averageHeading(), widthOf(field), false);
+            add(QStringLiteral("Avg_") + field.key, texts::averageHeading(), widthOf(field), false);
         if (field.hasMinimum)
-            add(QStringLiteral("MIN_") + field.key, texts::minimumHeading(), widthOf(field), false);
+            add(QStringLiteral("Min_") + field.key, texts::minimumHeading(), widthOf(field), false);
         if (field.hasMaximum)
-            add(QStringLiteral("MAX_") + field.key, texts::maximumHeading(), widthOf(field), false);
+            add(QStringLiteral("Max_") + field.key, texts::maximumHeading(), widthOf(field), false);
     }
     void addRatio(const DictionaryField& field, bool isDifference) {
         add(field.key, field.caption, widthOf(field), isDifference);
