@@ -173,6 +173,20 @@ TEST_F(WindowFind, F3OpensTheLineAndGoesOnWithTheLastText) {
     EXPECT_TRUE(marks() && !marks()->marked().empty());
 }
 
+TEST_F(WindowFind, AHitNearTheEndStandsOnAFullPage) {
+    ASSERT_TRUE(open());
+    const int last = grid().Rows() - 1;
+    grid().MSFlexGrid1().setTextMatrix(last - 2, 1, QStringLiteral("κοντά στο τέλος"));
+    openFind();
+    type(QStringLiteral("κοντα στο τελος"));
+    ASSERT_EQ(current().row, last - 2);
+    EXPECT_TRUE(isInSight());
+    const PageLayout& page = view().page();
+    EXPECT_EQ(page.rows.back().index, last);
+    EXPECT_LE(page.bottom(), page.size.height()) << "and the last row is whole";
+    EXPECT_GT(page.bottom() + 2 * page.rows.back().size, page.size.height()) << "with no blank below it";
+}
+
 TEST_F(WindowFind, AHitFarToTheRightComesIntoSight) {
     ASSERT_TRUE(open());
     const int last = grid().Cols() - 1;

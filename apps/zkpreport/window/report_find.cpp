@@ -147,7 +147,7 @@ void ReportFind::tell(FindSearch::State state) {
 }
 
 /// The cell becomes the current one, as if the user had gone there. A row out of sight comes to stand in
-/// the upper half, with rows around it.
+/// the upper half, with rows around it, and the report's end at the end of the page.
 void ReportFind::showFound(FoundCell cell) {
     GridSurface& surface = report_->grid().MSFlexGrid1();
     const QPointer<ReportFind> self(this);
@@ -157,7 +157,9 @@ void ReportFind::showFound(FoundCell cell) {
     const PageLayout& page = report_->view().page();
     const int whole = page.wholeRows();
     const bool isInSight = cell.row >= surface.TopRow() && cell.row < surface.TopRow() + whole;
-    const int top = isInSight ? surface.TopRow() : std::max(surface.FixedRows(), cell.row - whole / 3);
+    const int top =
+        isInSight ? surface.TopRow()
+                  : std::max(surface.FixedRows(), std::min(cell.row - whole / 3, lastFirst(page.rowAxis)));
     const int left = firstToShow(page.colAxis, cell.col);
     // One direction after the other: of a move in both, a listener takes note of the one to the side.
     if (top != surface.TopRow())
