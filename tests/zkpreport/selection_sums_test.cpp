@@ -1,5 +1,6 @@
 #include "window/selection_sums.h"
 
+#include "core/enums.h"
 #include "print_qt.h"
 #include "window/selected_block.h"
 #include "window/texts.h"
@@ -68,6 +69,23 @@ TEST_F(SelectionSumsTest, AddsWhatIsANumberAndCountsIt) {
               texts::sums(QStringLiteral("60"), QStringLiteral("3"), QStringLiteral("20,00")));
     EXPECT_EQ(sums.numbers(), 3);
     EXPECT_EQ(textOf({1, 0, 4, 0}), QString()) << "no number, no sum";
+}
+
+TEST_F(SelectionSumsTest, RowsOfSumsCountInABlockOfNothingElse) {
+    fill(1, {QStringLiteral("10"), QStringLiteral("20"), QStringLiteral("30"), QStringLiteral("60")});
+    surface.setRowData(1, ZKPSingleRow);
+    surface.setRowData(2, ZKPSingleRow);
+    surface.setRowData(3, ZKPSubTotals);
+    surface.setRowData(4, ZKPTotals);
+    const auto text = [](const char* sum, const char* count, const char* average) {
+        return texts::sums(QLatin1String(sum), QLatin1String(count), QLatin1String(average));
+    };
+    EXPECT_EQ(textOf({1, 1, 4, 1}), texts::withoutSummaries(text("30", "2", "15,00")));
+    EXPECT_EQ(textOf({1, 1, 2, 1}), text("30", "2", "15,00"));
+    EXPECT_EQ(textOf({3, 1, 4, 1}), text("90", "2", "45,00")) << "rows of sums alone are summed";
+    surface.setTextMatrix(1, 1, QStringLiteral("x"));
+    surface.setTextMatrix(2, 1, QStringLiteral("y"));
+    EXPECT_EQ(textOf({1, 1, 4, 1}), QString()) << "no number among the rows that count";
 }
 
 TEST_F(SelectionSumsTest, HiddenColumnsDoNotCount) {

@@ -6,6 +6,7 @@
 #include "support/utility.h"
 #include "widgets/grid_view.h"
 #include "window/report_window.h"
+#include "window/texts.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -43,9 +44,20 @@ class WindowTest : public testing::Test {
 protected:
     WindowTest() {
         host = std::make_shared<zkp::ScriptedHost>();
+        host->onMsgBox = [this](const zkp::ScriptedHost::Message& box) { return answerTo(box); };
         window = std::make_unique<zkp::app::ReportWindow>(host);
         window->show();
         QApplication::setActiveWindow(window.get());
+    }
+
+    /// A user who keeps nothing unless the test says so; all else is answered with OK or Yes.
+    int answerTo(const zkp::ScriptedHost::Message& box) {
+        constexpr int kButtons = 7;
+        if (box.text != zkp::app::texts::keepChanges())
+            return (box.style & kButtons) < 3 ? zkp::kAnswerOk : zkp::kAnswerYes;
+        host->messages.pop_back();
+        ++questions;
+        return keepAnswer;
     }
 
     bool open(const zkp::app::FirstReport& first = {}) {
@@ -109,7 +121,10 @@ protected:
         return span ? QPoint(span->start + span->size / 2, page.bodyTop() / 2) : QPoint(-1, -1);
     }
     void clickHeading(int column) {
-        QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier, heading(column));
+        const QPoint at = heading(column);
+        QTest::mousePress(view().viewport(), Qt::LeftButton, Qt::NoModifier, at);
+        settle(); // a finger is slower than the event loop
+        QTest::mouseRelease(view().viewport(), Qt::LeftButton, Qt::NoModifier, at);
         settle();
     }
 
@@ -172,6 +187,8 @@ protected:
         return QLocale(QLocale::Greek, QLocale::Greece).toString(amount, 'f', decimals);
     }
 
+    int keepAnswer = zkp::kAnswerNo; // to the question whether to save what was reshaped
+    int questions = 0;               // of that kind
     std::shared_ptr<zkp::ScriptedHost> host;
     std::unique_ptr<zkp::app::ReportWindow> window;
 };

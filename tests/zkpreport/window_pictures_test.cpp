@@ -97,6 +97,28 @@ TEST_F(WindowPictures, ReportsWithTemplates) {
     paint("window_templates_dark");
 }
 
+TEST_F(WindowPictures, FourFactorsInASmallWindow) {
+    ASSERT_TRUE(open({QStringLiteral("CLAIMSDATA"),
+                      QStringLiteral("P0010"),
+                      {},
+                      {QStringLiteral("REGION"), QStringLiteral("BRANCH"), QStringLiteral("CATEGORY"),
+                       QStringLiteral("PRODUCTNAME")}}));
+    openPanel();
+    window->resize(800, 600);
+    paint("window_small");
+    paint("window_small_200", 2);
+    const QTemporaryDir folder;
+    QFile notes(folder.filePath(QStringLiteral("σημειώσεις.txt")));
+    ASSERT_TRUE(notes.open(QIODevice::WriteOnly));
+    notes.write("not a database at all");
+    notes.close();
+    EXPECT_FALSE(window->showDatabase(notes.fileName()));
+    paint("window_no_database");
+    ASSERT_TRUE(open({QStringLiteral("CLAIMSDATA"), {}, {}}));
+    window->resize(1500, 700);
+    paint("window_claims");
+}
+
 TEST_F(WindowPictures, NoReports) {
     const QTemporaryDir folder;
     const QString file = folder.filePath(QStringLiteral("empty.db"));

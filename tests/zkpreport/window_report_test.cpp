@@ -112,14 +112,12 @@ TEST_F(WindowTest, ARefusedFilterIsToldAndLeavesTheRows) {
     const int before = recordCount();
     applyFilter(QStringLiteral("1=1) or (1=1"));
     EXPECT_EQ(window->message(), texts::bracketClosedFirst());
-    EXPECT_TRUE(part<QLabel>("message").isVisible());
     EXPECT_EQ(recordCount(), before);
     EXPECT_EQ(filter().text(), QStringLiteral("1=1) or (1=1"));
     QTest::keyClick(&filter(), Qt::Key_Escape);
     EXPECT_EQ(filter().text(), QStringLiteral("PREMIUM>100")) << "Escape brings back what is in force";
     applyFilter(QStringLiteral("PREMIUM>100"));
     EXPECT_EQ(window->message(), QString());
-    EXPECT_FALSE(part<QLabel>("message").isVisible());
 }
 
 TEST_F(WindowTest, AFilterThatTheDatabaseRefusesShowsABoxAndNoRows) {
@@ -180,6 +178,8 @@ TEST_F(WindowTest, AColumnStaysAsWideAsTheUserMadeIt) {
     applyFilter(QStringLiteral("PREMIUM>100"));
     EXPECT_EQ(grid().ColWidth(0), 2100);
     chooseReport(2);
+    settle();
+    EXPECT_EQ(questions, 1) << "the width is lost unless it is saved";
     EXPECT_EQ(grid().ColDataField(0), QStringLiteral("POLICYNO"));
     EXPECT_EQ(grid().ColWidth(0), 1350) << "another report has widths of its own";
 }
@@ -205,6 +205,66 @@ TEST_F(OtherDatabase, WithoutTheTableReportsThereIsAMessage) {
     EXPECT_FALSE(users().isEnabled());
     EXPECT_FALSE(filter().isEnabled());
     EXPECT_FALSE(reports().isVisible());
+}
+
+TEST_F(OtherDatabase, AFileThatIsNoDatabaseIsNamedWithoutABox) {
+    const QString file = folder.filePath(QStringLiteral("σημειώσεις.txt"));
+    QFile notes(file);
+    ASSERT_TRUE(notes.open(QIODevice::WriteOnly));
+    notes.write("not a database, but longer than its signature");
+    notes.close();
+    ASSERT_TRUE(open());
+    EXPECT_FALSE(window->showDatabase(file));
+    EXPECT_EQ(window->message(), texts::noDatabase(QStringLiteral("σημειώσεις.txt")));
+    EXPECT_TRUE(host->messages.empty());
+    EXPECT_FALSE(reports().isVisible());
+    EXPECT_FALSE(filter().isEnabled());
+    EXPECT_FALSE(groupList(1).isEnabled());
+    EXPECT_EQ(recordCount(), 0);
+    QTest::keyClick(window->focusWidget() ? window->focusWidget() : window.get(), Qt::Key_F2);
+    EXPECT_NE(window->message(), QString()) << "it stands in the report's place";
+    EXPECT_FALSE(window->showDatabase(folder.filePath(QStringLiteral("none.db"))));
+    EXPECT_EQ(window->message(), texts::noFile(QStringLiteral("none.db")));
+    EXPECT_TRUE(open()) << "and another file opens";
+    EXPECT_TRUE(filter().isEnabled());
+    EXPECT_TRUE(groupList(1).isEnabled());
+}
+
+TEST_F(WindowTest, AMessageMovesNothingAndGoesWithTheNextKeyOrClick) {
+    ASSERT_TRUE(open());
+    const QPoint place = view().mapTo(window.get(), QPoint());
+    applyFilter(QStringLiteral("BRANCH='"));
+    ASSERT_EQ(window->message(), texts::quoteLeftOpen());
+    EXPECT_EQ(view().mapTo(window.get(), QPoint()), place);
+    filter().setFocus();
+    QTest::keyClick(&filter(), Qt::Key_Escape);
+    EXPECT_EQ(window->message(), QString());
+    applyFilter(QStringLiteral("BRANCH='"));
+    ASSERT_EQ(window->message(), texts::quoteLeftOpen());
+    QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier,
+                      view().page().cellRect(3, 1).center());
+    EXPECT_EQ(window->message(), QString());
+    EXPECT_EQ(view().mapTo(window.get(), QPoint()), place);
+}
+
+TEST_F(WindowTest, FourFactorsFitASmallWindow) {
+    ASSERT_TRUE(open({{},
+                      {},
+                      {},
+                      {QStringLiteral("REGION"), QStringLiteral("BRANCH"), QStringLiteral("CATEGORY"),
+                       QStringLiteral("PRODUCTNAME")}}));
+    QTest::keyClick(window.get(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    settle();
+    EXPECT_LE(window->minimumSizeHint().width(), 800);
+    window->resize(window->minimumSizeHint().width(), 600);
+    settle();
+    EXPECT_GE(filter().width(), 12 * filter().fontMetrics().averageCharWidth());
+    EXPECT_EQ(groupList(4).currentData().toString(), QStringLiteral("PRODUCTNAME"));
+    EXPECT_TRUE(groupList(4).isVisible());
+    window->resize(1600, 800);
+    settle();
+    EXPECT_EQ(groupList(4).width(), groupList(1).width());
+    EXPECT_GT(groupList(4).width(), 150) << "with room they have the width that they like";
 }
 
 TEST_F(OtherDatabase, AnEmptyTableReportsAndAReportWithoutADictionaryAreTold) {

@@ -112,7 +112,7 @@ TEST_F(WindowTemplates, NamesThatTheTablesCannotTakeAreTold) {
     saveAs(kMonthly);
     const QStringList before = rows();
     saveAs(QStringLiteral("Του Γ'"));
-    expectRefusal(texts::templateNotSaved(QStringLiteral("Του Γ'")), QString());
+    expectRefusal(texts::templateNotSaved(QStringLiteral("Του Γ'")), texts::quoteInName());
     saveAs(QStringLiteral("Έτος 2024")); // no row of frms
     expectRefusal(texts::templateNotSaved(QStringLiteral("Έτος 2024")), texts::numberedTemplate());
     saveAs(QStringLiteral("ABCD12.Zkp"));
@@ -151,6 +151,7 @@ TEST_F(WindowTemplates, AnotherTemplateIsReplacedOnlyWhenTheUserSaysSo) {
     host->onMsgBox = [](const auto&) { return kAnswerNo; };
     saveAs(QStringLiteral("ΜΗΝΙΑίΟ"));
     ASSERT_EQ(host->messages.size(), 1u);
+    EXPECT_EQ(host->messages.front().style & 0x300, 0x100) << "Enter says no";
     EXPECT_EQ(host->messages.front().text, texts::replaceTemplate(QStringLiteral("ΜΗΝΙΑίΟ")));
     EXPECT_NE(bagOf(kMonthly).read<double>(u"ColWidth0", 0.0), 2222);
     EXPECT_EQ(window->templateName(), kOther);
@@ -183,6 +184,16 @@ TEST_F(WindowTemplates, ALockedFileRefusesForAWhile) {
     EXPECT_EQ(grid().ColWidth(0), 2222) << "what was not saved is still there";
     save();
     EXPECT_EQ(bagOf(kMonthly).read<double>(u"ColWidth0", 0.0), 2222);
+}
+
+TEST_F(WindowTemplates, AFileThatIsGoneIsNamed) {
+    ASSERT_TRUE(openCopy());
+    ASSERT_TRUE(QFile::remove(file));
+    saveAs(kMonthly);
+    expectRefusal(texts::templateNotSaved(kMonthly), texts::fileGone(QStringLiteral("demo.db")));
+    chooseReport(1);
+    settle();
+    EXPECT_EQ(window->message(), texts::fileGone(QStringLiteral("demo.db")));
 }
 
 /// The process without the right to write the file, root or not.

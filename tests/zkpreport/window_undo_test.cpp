@@ -1,3 +1,4 @@
+#include "base/texts.h"
 #include "window/reshape_snapshot.h"
 #include "window/texts.h"
 #include "window_fixture.h"
@@ -350,6 +351,16 @@ TEST_F(WindowUndo, AnotherReportBeginsWithoutSteps) {
     EXPECT_FALSE(action("undo").isEnabled());
 }
 
+TEST_F(WindowUndo, AnAddedFactorIsColouredAtOnce) {
+    ASSERT_TRUE(open({{}, {}, {}, {QStringLiteral("CATEGORY")}}));
+    choose(u"mnuAddGroup");
+    const int added = 1;
+    ASSERT_EQ(grid().Cols() > added, true);
+    const CellStyle before = grid().MSFlexGrid1().styleAt(1, added);
+    grid().DrawInterface();
+    EXPECT_EQ(grid().MSFlexGrid1().styleAt(1, added), before) << "nothing is left to be drawn later";
+}
+
 TEST_F(WindowUndo, ATextFieldKeepsItsOwnUndo) {
     ASSERT_TRUE(open());
     choose(u"mnuAddColumn");
@@ -365,7 +376,10 @@ TEST_F(WindowUndo, ATextFieldKeepsItsOwnUndo) {
 TEST_F(WindowUndo, PrintingSaysThatItIsNotThereYet) {
     ASSERT_TRUE(open());
     choose(u"mnuPrint");
-    EXPECT_EQ(window->message(), texts::noPrintYet());
+    ASSERT_EQ(host->messages.size(), 1u);
+    EXPECT_EQ(host->messages.front().text,
+              zkp::texts::notThereYet(grid().Picture1().Tools(u"mnuPrint").Caption));
+    EXPECT_EQ(window->message(), QString());
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 #include "window/group_choice.h"
 
+#include "window/shrinking_list.h"
 #include "window/texts.h"
 
 #include <QAbstractItemView>
 #include <QCheckBox>
-#include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSignalBlocker>
@@ -27,10 +27,9 @@ GroupChoice::GroupChoice(QWidget* parent)
     auto* label = new QLabel(texts::groupsLabel());
     row->addWidget(label);
     for (int place = 0; place < kMostFactors; ++place) {
-        auto* list = new QComboBox;
+        auto* list = new ShrinkingList(kListWidth);
         list->setObjectName(QStringLiteral("group%1").arg(place + 1));
         list->setAccessibleName(texts::groupName(place + 1));
-        list->setFixedWidth(kListWidth);
         connect(list, &QComboBox::activated, this, [this, place] { onChosen(place); });
         lists_.push_back(list);
         row->addWidget(list);

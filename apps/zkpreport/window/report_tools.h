@@ -42,6 +42,9 @@ public:
     void showReport(ZkpGridWidget* report);
     /// The window itself has changed the report's colours: the shapes before have others.
     void forgetSteps() { recorder_.begin(); }
+    /// Whether the report has been reshaped since it was opened or last saved.
+    bool hasChanges() const { return recorder_.hasChanges(); }
+    void setSaved() { recorder_.setSaved(); }
 
 Q_SIGNALS:
     /// Events were let in after the report had changed; `step`: by a step of reshaping, or back.

@@ -1,13 +1,17 @@
 #include "window/report_window.h"
 
 #include "base/error.h"
+#include "base/texts.h"
 #include "support/utility.h"
 #include "widgets/qt_host.h"
 #include "window/filter_line.h"
 #include "window/group_choice.h"
+#include "window/message_strip.h"
 #include "window/report_colours.h"
 #include "window/report_filter.h"
 #include "window/report_tools.h"
+#include "window/shrinking_list.h"
+#include "window/sqlite_file.h"
 #include "window/statement_panel.h"
 #include "window/template_pane.h"
 #include "window/texts.h"
@@ -26,6 +30,7 @@ namespace zkp::app {
 namespace {
 
 constexpr QSize kUsualSize{1280, 800};
+constexpr int kUserWidth = 210;
 
 /// While a report loads, keys and clicks wait: one of them might take its control away.
 class WindowHost : public QtHost {
@@ -40,7 +45,7 @@ ReportWindow::ReportWindow(std::shared_ptr<Host> host)
     : host_(std::make_shared<LoadWatch>(host ? std::move(host) : std::make_shared<WindowHost>(this)))
     , reports_(new ReportListModel(this))
     , reportList_(new QListView)
-    , userList_(new QComboBox)
+    , userList_(new ShrinkingList(kUserWidth))
     , rights_(new QLabel)
     , filter_(new FilterLine)
     , groups_(new GroupChoice)
@@ -49,7 +54,7 @@ ReportWindow::ReportWindow(std::shared_ptr<Host> host)
     , templates_(new TemplatePane(saveAction_, saveAsAction_))
     , sortAction_(new QAction(texts::sortAction(), this))
     , panelToggle_(new QAction(texts::statementToggle(), this))
-    , message_(new QLabel)
+    , message_(new MessageStrip)
     , place_(new QVBoxLayout)
     , panel_(new StatementPanel)
     , tools_(new ReportTools(*this, *host_,
@@ -68,15 +73,9 @@ ReportWindow::~ReportWindow() {
 }
 
 void ReportWindow::connectWidgets() {
-    connect(reportList_->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this] {
-        forgetShape();
-        groups_->choose({}, false);
-        openReport({});
-    });
-    connect(userList_, &QComboBox::currentIndexChanged, this, [this] {
-        replaceControl();
-        openReport(filter_->inForce());
-    });
+    connect(reportList_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            &ReportWindow::reportChosen);
+    connect(userList_, &QComboBox::currentIndexChanged, this, &ReportWindow::userChosen);
     connect(filter_, &FilterLine::applied, this, [this](const QString& filter) { openReport(filter); });
     connect(groups_, &GroupChoice::changed, this, [this] {
         replaceControl();
@@ -86,6 +85,7 @@ void ReportWindow::connectWidgets() {
     connect(panelToggle_, &QAction::toggled, panel_, &QWidget::setVisible);
     host_->began = [this] { tools_->loadBegins(); };
     connect(tools_, &ReportTools::settled, this, &ReportWindow::followControl);
+    message_->mayGo = [this] { return isLoaded_; };
     connectTemplates();
 }
 
@@ -94,19 +94,42 @@ QString ReportWindow::message() const {
 }
 
 void ReportWindow::setMessage(const QString& text) {
-    message_->setText(text);
-    message_->setVisible(!text.isEmpty());
+    message_->tell(text);
 }
 
 bool ReportWindow::showDatabase(const QString& file, const FirstReport& first) {
     forgetShape();
+    if (const QString reason = whyNoDatabase(file); !reason.isEmpty()) {
+        showNoDatabase(reason);
+        return false;
+    }
     return guarded([&] {
         readDatabase(file);
         return choose(first);
     });
 }
 
+/// The choices are those of a database without reports.
+void ReportWindow::showNoDatabase(const QString& reason) {
+    setWindowTitle(QStringLiteral("zkpreport"));
+    connection_.reset();
+    const QSignalBlocker quietReports(reportList_->selectionModel());
+    reports_->setReports({});
+    const QSignalBlocker quietUsers(userList_);
+    users_.clear();
+    userList_->clear();
+    groups_->setFields({});
+    for (QWidget* choice : {static_cast<QWidget*>(userList_), static_cast<QWidget*>(filter_)})
+        choice->setEnabled(false);
+    for (QWidget* list : {static_cast<QWidget*>(reportList_), static_cast<QWidget*>(templates_)})
+        list->hide();
+    for (QAction* action : {saveAction_, saveAsAction_})
+        action->setEnabled(false);
+    setMessage(reason);
+}
+
 void ReportWindow::readDatabase(const QString& file) {
+    file_ = file;
     database_ = QFileInfo(file).fileName();
     setWindowTitle(texts::windowTitle({}, {}, database_));
     connection_ = std::make_shared<ado::Connection>();
@@ -126,6 +149,7 @@ void ReportWindow::readDatabase(const QString& file) {
     userList_->clear();
     for (const UserEntry& user : users_)
         userList_->addItem(user.name);
+    user_ = 0;
     userList_->setEnabled(users_.size() > 1);
     filter_->setEnabled(reports_->rowCount() > 0);
     reportList_->setVisible(reports_->rowCount() > 0);
@@ -145,7 +169,8 @@ bool ReportWindow::choose(const FirstReport& first) {
     }
     {
         const QSignalBlocker quietUsers(userList_);
-        userList_->setCurrentIndex(static_cast<int>(user - users_.begin()));
+        user_ = static_cast<int>(user - users_.begin());
+        userList_->setCurrentIndex(user_);
         const QSignalBlocker quietReports(reportList_->selectionModel());
         reportList_->setCurrentIndex(reports_->index(row));
     }
@@ -212,8 +237,13 @@ bool ReportWindow::rebuild(const ReportEntry& report) {
     prepareReport(grid(), connection_, report, user);
     layOut(user);
     report_->show();
-    rights_->setText(rightsText(connection_, user));
+    showRights(user);
     return true;
+}
+
+void ReportWindow::showRights(const QString& user) {
+    rights_->setText(rightsText(connection_, user));
+    rights_->setToolTip(rights_->text());
 }
 
 std::vector<DictionaryField> ReportWindow::fieldsOf(const ReportEntry& report, const QString& user) const {
@@ -244,7 +274,9 @@ bool ReportWindow::tell(const LoadRecord& record) {
     isLoaded_ = record.isLoaded;
     if (!isLoaded_)
         setMessage(texts::loadFailed());
-    else if (!groups_->isTotals())
+    else if (!QFileInfo::exists(file_))
+        setMessage(texts::fileGone(database_)); // the rows come from what the system still keeps of it
+    if (isLoaded_ && !groups_->isTotals())
         showSort(grid(), sort_);
     loadFilter_ = record.filter;
     hasLoadedItself_ = false;
@@ -279,6 +311,7 @@ void ReportWindow::sortByCurrentColumn() {
 }
 
 void ReportWindow::replaceControl() {
+    carriesChanges_ = carriesChanges_ || hasChanges();
     keepShape();
     delete report_;
     isLoaded_ = false;
@@ -302,7 +335,17 @@ ZkpGridWidget* ReportWindow::makeControl() {
         hasLoadedItself_ = true; // unless it turns out to be a load of the window's
         sentByControl_ = connection_ ? connection_->LastStatementSent() : QString();
     });
-    connect(events, &Events::PrintCommand, this, [this] { setMessage(texts::noPrintYet()); });
+    connect(events, &Events::PrintCommand, this, [this, control] {
+        host_->msgBox(zkp::texts::notThereYet(control->grid().Picture1().Tools(u"mnuPrint").Caption),
+                      kMsgBoxInformation, {});
+    });
+    // A new group factor is coloured at once, and not at some later moment.
+    connect(events, &Events::addcolumn, this, [this, control] {
+        guarded([&] {
+            control->grid().DrawInterface();
+            return true;
+        });
+    });
     connect(events, &Events::MenuSaveTemplate, this, &ReportWindow::saveTemplate);
     connect(events, &Events::MenuSaveTemplateAs, this, &ReportWindow::saveTemplateAs);
     connect(events, &Events::MenuLoadTemplate, templates_, &TemplatePane::focusList);

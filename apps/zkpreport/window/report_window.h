@@ -17,7 +17,9 @@
 
 class QAction;
 class QComboBox;
+class QCloseEvent;
 class QLabel;
+class QModelIndex;
 class QListView;
 class QVBoxLayout;
 
@@ -25,6 +27,7 @@ namespace zkp::app {
 
 class FilterLine;
 class GroupChoice;
+class MessageStrip;
 class ReportTools;
 class StatementPanel;
 class TemplatePane;
@@ -65,12 +68,14 @@ private:
     struct OpenedTemplate;
 
     void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
     void buildWidgets();
     QWidget* makeChoices();
     QWidget* makeShapeChoices();
     void connectWidgets();
     void readDatabase(const QString& file);
+    void showNoDatabase(const QString& reason);
     bool choose(const FirstReport& first);
 
     /// Opens the chosen report for the chosen user with a filter. A refused filter leaves the rows.
@@ -80,6 +85,7 @@ private:
     bool reload(const ReportEntry& report, const QString& filter);
     /// A control for the report, ready to be loaded, in the shape that the last one had.
     bool rebuild(const ReportEntry& report);
+    void showRights(const QString& user);
     bool readReport(const ReportEntry& report, const QString& user);
     std::vector<DictionaryField> fieldsOf(const ReportEntry& report, const QString& user) const;
     bool tell(const LoadRecord& record);
@@ -94,6 +100,15 @@ private:
     void replaceControl();
     ZkpGridWidget* makeControl();
 
+    // What the user has made of the report, before it goes.
+    bool hasChanges() const;
+    /// Asks whether to save where there is something to lose. False when the user wants to stay.
+    bool mayLeaveShape();
+    void reportChosen(const QModelIndex& now, const QModelIndex& before);
+    void showChosenReport(int row);
+    void startReport();
+    void userChosen(int index);
+
     // The shape, from one control to the next.
     void keepShape();
     void forgetShape();
@@ -107,9 +122,11 @@ private:
     void openTemplate(QString name);
     OpenedTemplate readTemplateInto(std::unique_ptr<ZkpGridWidget> control, const QString& name);
     void showTemplate(OpenedTemplate opened, const QString& name);
-    void saveTemplate();
-    void saveTemplateAs();
-    void storeTemplate(const QString& name);
+    /// False when it was not saved, for whatever reason.
+    bool saveTemplate();
+    bool saveTemplateAs();
+    bool storeTemplate(const QString& name);
+    void refuse(const QString& refusal, const QString& reason);
     template <class F>
     bool guardedTemplate(const QString& refusal, F call);
 
@@ -123,7 +140,9 @@ private:
 
     std::shared_ptr<LoadWatch> host_;
     ado::ConnectionPtr connection_;
+    QString file_;
     QString database_; // the file's name
+    int user_ = 0;     // whose rows show, by the list
     std::vector<UserEntry> users_;
     std::vector<DictionaryField> fields_; // of the open report, for the user
     std::map<QString, double> widths_;    // of the report's columns, as the user has left them
@@ -133,6 +152,7 @@ private:
     ColumnSort sort_;                     // of the report, as the user has left it
     QString loadFilter_;                  // as loads need it afresh
     bool isLoaded_ = false;
+    bool carriesChanges_ = false;  // the control's shape has unsaved changes from the control before
     bool hasLoadedItself_ = false; // the control, by a command of its menus
     QString sentByControl_;        // the statement of that load
 
@@ -147,7 +167,7 @@ private:
     TemplatePane* templates_;
     QAction* sortAction_;
     QAction* panelToggle_;
-    QLabel* message_;
+    MessageStrip* message_;
     QVBoxLayout* place_; // where the control stands
     ZkpGridWidget* report_ = nullptr;
     StatementPanel* panel_;

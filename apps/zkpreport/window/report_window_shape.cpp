@@ -27,6 +27,7 @@ void ReportWindow::forgetShape() {
     replaceControl();
     widths_.clear();
     kept_ = {};
+    carriesChanges_ = false;
     sort_ = {};
     template_.clear();
     templates_->setCurrent({});

@@ -4,6 +4,7 @@
 #include "window/filter_line.h"
 #include "window/group_choice.h"
 #include "window/report_filter.h"
+#include "window/report_tools.h"
 #include "window/report_window.h"
 #include "window/statement_panel.h"
 #include "window/template_pane.h"
@@ -11,6 +12,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QLabel>
 #include <QListView>
 #include <QSignalBlocker>
@@ -30,7 +32,7 @@ struct ReportWindow::OpenedTemplate {
 
 namespace {
 
-constexpr int kAskYesNo = kMsgBoxQuestion | 4;
+constexpr int kAskYesNo = kMsgBoxQuestion | 4 | 256; // No by Enter: what is replaced is lost
 
 /// A control without a filter has the text "true".
 QString typedFilter(const ZkpGrid& grid) {
@@ -89,6 +91,10 @@ void ReportWindow::listTemplates() {
     }
 }
 
+void ReportWindow::refuse(const QString& refusal, const QString& reason) {
+    host_->msgBox(refusal + QStringLiteral("\n\n") + reason, kMsgBoxExclamation, texts::templateBoxTitle());
+}
+
 template <class F>
 bool ReportWindow::guardedTemplate(const QString& refusal, F call) {
     try {
@@ -96,8 +102,7 @@ bool ReportWindow::guardedTemplate(const QString& refusal, F call) {
         return true;
     } catch (const Error& error) {
         host_->setPointer(kPointerDefault);
-        host_->msgBox(refusal + QStringLiteral("\n\n") + error.description(), kMsgBoxExclamation,
-                      texts::templateBoxTitle());
+        refuse(refusal, QFileInfo::exists(file_) ? error.description() : texts::fileGone(database_));
         return false;
     }
 }
@@ -105,6 +110,8 @@ bool ReportWindow::guardedTemplate(const QString& refusal, F call) {
 /// The template is opened and loaded in a control of its own: one that fails on the way leaves the report
 /// before as it was.
 void ReportWindow::openTemplate(QString name) {
+    if (!mayLeaveShape())
+        return;
     setMessage({});
     const bool isDone = guardedTemplate(texts::templateNotOpened(name), [&] {
         OpenedTemplate opened = readTemplateInto(std::unique_ptr<ZkpGridWidget>(makeControl()), name);
@@ -165,37 +172,38 @@ void ReportWindow::showTemplate(OpenedTemplate opened, const QString& name) {
     templates_->setCurrent(name);
     showTitle();
     report_->show();
-    rights_->setText(rightsText(connection_, chosenUser()));
+    showRights(chosenUser());
     tell(opened.record);
 }
 
-void ReportWindow::saveTemplate() {
-    if (template_.isEmpty())
-        saveTemplateAs();
-    else
-        storeTemplate(template_);
+bool ReportWindow::saveTemplate() {
+    return template_.isEmpty() ? saveTemplateAs() : storeTemplate(template_);
 }
 
-void ReportWindow::saveTemplateAs() {
+bool ReportWindow::saveTemplateAs() {
     const ReportEntry* report = chosenReport();
     const auto answer = host_->inputBox(texts::templateNamePrompt(), texts::templateBoxTitle(),
                                         template_.isEmpty() && report ? report->title : template_);
     const QString name = trimmed(answer.value_or(QString())).toString();
     if (name.isEmpty())
-        return;
+        return false;
+    if (name.contains(u'\'')) {
+        refuse(texts::templateNotSaved(name), texts::quoteInName());
+        return false;
+    }
     listTemplates(); // another program may have saved one
     const bool isOther = templates_->has(name) && !isSameTemplate(name, template_);
     if (isOther &&
         host_->msgBox(texts::replaceTemplate(name), kAskYesNo, texts::templateBoxTitle()) != kAnswerYes)
-        return;
-    storeTemplate(name);
+        return false;
+    return storeTemplate(name);
 }
 
-void ReportWindow::storeTemplate(const QString& name) {
+bool ReportWindow::storeTemplate(const QString& name) {
     setMessage({});
     if (!isLoaded_) {
         setMessage(texts::nothingToSave());
-        return;
+        return false;
     }
     const QString hint = savingHint(name);
     const QString refusal = texts::templateNotSaved(name) + (hint.isEmpty() ? QString() : u'\n' + hint);
@@ -204,13 +212,16 @@ void ReportWindow::storeTemplate(const QString& name) {
         grid().SaveTemplate({}, name);
     });
     if (!isDone)
-        return;
+        return false;
     grid().setFileName(name);
     template_ = name;
     listTemplates();
     templates_->setCurrent(name);
     showTitle();
+    carriesChanges_ = false;
+    tools_->setSaved();
     setMessage(texts::templateSaved(name));
+    return true;
 }
 
 } // namespace zkp::app

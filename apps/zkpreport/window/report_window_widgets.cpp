@@ -1,5 +1,6 @@
 #include "window/filter_line.h"
 #include "window/group_choice.h"
+#include "window/message_strip.h"
 #include "window/report_tools.h"
 #include "window/report_window.h"
 #include "window/statement_panel.h"
@@ -21,9 +22,9 @@ namespace {
 constexpr int kReportWidth = 1140;
 constexpr int kReportHeight = 650;
 constexpr int kListWidth = 138;
-constexpr int kUserWidth = 210;
 constexpr int kPanelHeight = 150;
 constexpr int kMargin = 4;
+constexpr int kFilterLetters = 12; // at least
 
 QLabel* makeLabel(const QString& text, QWidget* buddy) {
     auto* label = new QLabel(text);
@@ -48,13 +49,6 @@ void ReportWindow::buildWidgets() {
     reportList_->setFrameShape(QFrame::NoFrame);
     reportList_->setTextElideMode(Qt::ElideRight);
     reportList_->setSpacing(1);
-    message_->setObjectName(QStringLiteral("message"));
-    message_->setContentsMargins(kMargin, 0, kMargin, kMargin);
-    message_->setWordWrap(true);
-    message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    QFont bold = message_->font();
-    bold.setBold(true);
-    message_->setFont(bold);
     auto* place = new QWidget;
     place->setLayout(place_);
     place_->setContentsMargins({});
@@ -86,14 +80,15 @@ void ReportWindow::buildWidgets() {
         splitter->setHandleWidth(3);
     setCentralWidget(columns);
     panel_->hide();
-    message_->hide();
 }
 
 QWidget* ReportWindow::makeChoices() {
     userList_->setObjectName(QStringLiteral("users"));
-    userList_->setFixedWidth(kUserWidth);
     rights_->setObjectName(QStringLiteral("rights"));
+    rights_->setMinimumWidth(1); // cut short where there is no room
     filter_->setObjectName(QStringLiteral("filter"));
+    filter_->setMinimumWidth(filter_->sizeHint().height() +
+                             kFilterLetters * filter_->fontMetrics().averageCharWidth());
     panelToggle_->setCheckable(true);
     panelToggle_->setShortcut(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
     panelToggle_->setToolTip(texts::statementToggleTip());
@@ -122,7 +117,7 @@ QWidget* ReportWindow::makeShapeChoices() {
     row->setContentsMargins(kMargin, 0, kMargin, kMargin);
     row->setSpacing(kMargin);
     row->addWidget(groups_);
-    row->addStretch(1);
+    row->addStretch();
     row->addWidget(makeButton(sortAction_));
     return choices;
 }

@@ -6,6 +6,7 @@ namespace zkp::app {
 
 void ReshapeHistory::begin(ReshapeSnapshot now) {
     now_ = std::move(now);
+    saved_ = now_;
     before_.clear();
     undone_.clear();
     typedCaption_ = -1;
@@ -26,6 +27,13 @@ bool ReshapeHistory::note(ReshapeSnapshot now) {
         before_.pop_front();
     now_ = std::move(now);
     return true;
+}
+
+void ReshapeHistory::settle(ReshapeSnapshot now) {
+    const bool changed = isChanged();
+    now_ = std::move(now);
+    if (!changed)
+        saved_ = now_; // what the host makes of a shape is no change of the user's
 }
 
 const ReshapeSnapshot& ReshapeHistory::undo() {

@@ -18,7 +18,13 @@ public:
     /// caption, letter after letter, is one step.
     bool note(ReshapeSnapshot now);
     /// Where things stand after a shape was brought back: no step.
-    void settle(ReshapeSnapshot now) { now_ = std::move(now); }
+    void settle(ReshapeSnapshot now);
+
+    /// The shape as it stands has been saved.
+    void setSaved() { saved_ = now_; }
+    /// Whether steps were taken since the beginning or the last save, and not all of them taken back.
+    bool isChanged() const { return isChangedIn(now_); }
+    bool isChangedIn(const ReshapeSnapshot& shape) const { return !shape.isSameShape(saved_); }
 
     bool canUndo() const { return !before_.empty(); }
     bool canRedo() const { return !undone_.empty(); }
@@ -28,6 +34,7 @@ public:
 
 private:
     ReshapeSnapshot now_;
+    ReshapeSnapshot saved_;
     std::deque<ReshapeSnapshot> before_; // the last is the next to come back
     std::deque<ReshapeSnapshot> undone_;
     int typedCaption_ = -1; // the column whose caption the last step has typed

@@ -89,6 +89,20 @@ void ReshapeRecorder::redo() {
         bringBack(history_.redo());
 }
 
+/// What has just happened counts, too. It is looked at and not settled: this asks and changes nothing.
+bool ReshapeRecorder::hasChanges() const {
+    if (!isRecording_ || !report_)
+        return false;
+    return timer_.isActive() ? history_.isChangedIn(ReshapeSnapshot::of(report_->grid()))
+                             : history_.isChanged();
+}
+
+void ReshapeRecorder::setSaved() {
+    if (timer_.isActive())
+        settle();
+    history_.setSaved();
+}
+
 /// A load leaves the control to `RefreshOnChange`, which is the shape's own again afterwards.
 void ReshapeRecorder::bringBack(const ReshapeSnapshot& shape) {
     const QPointer<ReshapeRecorder> self(this);

@@ -36,6 +36,9 @@ public:
     bool canRedo() const { return history_.canRedo(); }
     void undo();
     void redo();
+    /// Whether the shape differs from the one that was begun with or last saved.
+    bool hasChanges() const;
+    void setSaved();
 
 Q_SIGNALS:
     /// Events were let in after something had happened; `step`: it was a step of reshaping.

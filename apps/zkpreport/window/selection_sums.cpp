@@ -1,6 +1,7 @@
 #include "window/selection_sums.h"
 
 #include "base/format.h"
+#include "core/enums.h"
 #include "window/selected_block.h"
 #include "window/texts.h"
 
@@ -66,8 +67,8 @@ void SelectionSums::start(const CellRange& block) {
     cols_ = isEmpty(block) ? std::vector<int>() : shownColumns(surface_, block.left, block.right);
     total_ = left_ =
         static_cast<std::int64_t>(cols_.size()) * (isEmpty(block) ? 0 : block.bottom - block.top + 1);
-    numbers_ = 0;
-    sum_ = {};
+    details_ = {};
+    summaries_ = {};
 }
 
 bool SelectionSums::walk(int cells) {
@@ -80,12 +81,19 @@ bool SelectionSums::walk(int cells) {
             left_ = 0;
             break;
         }
-        if (const std::optional<Decimal> number = surface_.shownNumber(row, col)) {
-            sum_ += *number;
-            ++numbers_;
-        }
+        add(row, col);
     }
     return isDone();
+}
+
+void SelectionSums::add(int row, int col) {
+    const int kind = surface_.RowData(row);
+    Part& part = kind == ZKPSubTotals || kind == ZKPTotals ? summaries_ : details_;
+    ++part.cells;
+    if (const std::optional<Decimal> number = surface_.shownNumber(row, col)) {
+        part.sum += *number;
+        ++part.numbers;
+    }
 }
 
 int SelectionSums::percent() const {
@@ -93,13 +101,17 @@ int SelectionSums::percent() const {
 }
 
 QString SelectionSums::text() const {
-    if (numbers_ == 0)
+    const Part& part = counted();
+    if (part.numbers == 0)
         return {};
     const ReportLocale& locale = surface_.locale();
-    const QString numbers = fixedText(numbers_, 0, locale);
+    const QString numbers = fixedText(part.numbers, 0, locale);
     const QString count =
-        numbers_ == total_ ? numbers : texts::countOfCells(numbers, fixedText(total_, 0, locale));
-    return texts::sums(exactText(sum_, locale), count, averageText(sum_, numbers_, locale));
+        part.numbers == part.cells ? numbers : texts::countOfCells(numbers, fixedText(part.cells, 0, locale));
+    const QString text =
+        texts::sums(exactText(part.sum, locale), count, averageText(part.sum, part.numbers, locale));
+    const bool leavesOut = details_.cells > 0 && summaries_.numbers > 0;
+    return leavesOut ? texts::withoutSummaries(text) : text;
 }
 
 } // namespace zkp::app

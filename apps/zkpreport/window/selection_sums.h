@@ -6,8 +6,9 @@
 
 namespace zkp::app {
 
-/// Adds up the numbers that a block of cells shows, a few cells at a time. What is selected counts,
-/// subtotals among it; hidden columns don't.
+/// Adds up the numbers that a block of cells shows, a few cells at a time. Rows of subtotals and totals
+/// count in a block of nothing else: beside the rows that they sum they would count these twice. Hidden
+/// columns don't count.
 class SelectionSums {
 public:
     explicit SelectionSums(const GridSurface& surface)
@@ -18,23 +19,30 @@ public:
     bool walk(int cells);
 
     bool isDone() const { return left_ == 0; }
-    std::int64_t cells() const { return total_; }
-    std::int64_t numbers() const { return numbers_; }
-    const Decimal& sum() const { return sum_; }
+    std::int64_t numbers() const { return counted().numbers; }
+    const Decimal& sum() const { return counted().sum; }
     /// How much has been looked at, in hundredths.
     int percent() const;
     /// Sum, count and average in the surface's locale; empty when there is no number. The sum has all its
-    /// decimals; the average is rounded to as many, at least two.
+    /// decimals; the average is rounded to as many, at least two. Says so when rows were left out.
     QString text() const;
 
 private:
+    struct Part {
+        std::int64_t cells = 0;
+        std::int64_t numbers = 0;
+        Decimal sum;
+    };
+    void add(int row, int col);
+    const Part& counted() const { return details_.cells > 0 ? details_ : summaries_; }
+
     const GridSurface& surface_;
     CellRange block_;
     std::vector<int> cols_;
     std::int64_t total_ = 0;
     std::int64_t left_ = 0;
-    std::int64_t numbers_ = 0;
-    Decimal sum_;
+    Part details_;
+    Part summaries_;
 };
 
 /// A number with grouping and all its decimals, two at least where it has any.

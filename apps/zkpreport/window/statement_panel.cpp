@@ -27,6 +27,7 @@ QPlainTextEdit* makeText(const QString& name, QWidget* parent) {
 QLabel* makeHeading(const QString& text, QWidget* buddy, QWidget* parent) {
     auto* heading = new QLabel(text, parent);
     heading->setBuddy(buddy);
+    heading->setMinimumWidth(1);
     return heading;
 }
 
@@ -37,6 +38,7 @@ StatementPanel::StatementPanel(QWidget* parent)
     , figures_(new QLabel(this))
     , built_(makeText(QStringLiteral("built"), this))
     , sent_(makeText(QStringLiteral("sent"), this)) {
+    figures_->setMinimumWidth(1); // both halves shrink alike
     figures_->setObjectName(QStringLiteral("figures"));
     figures_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     built_->setAccessibleName(texts::statementBuilt());

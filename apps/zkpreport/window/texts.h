@@ -76,7 +76,8 @@ inline QString templatesTip() {
     return QStringLiteral("Το Enter ή το διπλό κλικ ανοίγει το υπόδειγμα");
 }
 inline QString templateTip(const QString& name, const QString& report) {
-    return report.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, report);
+    const QString what = report.isEmpty() ? name : QStringLiteral("%1 (%2)").arg(name, report);
+    return what + u'\n' + templatesTip();
 }
 inline QString saveTemplate() {
     return QStringLiteral("Καταχώρηση");
@@ -98,6 +99,12 @@ inline QString templateNamePrompt() {
 }
 inline QString replaceTemplate(const QString& name) {
     return QStringLiteral("Υπάρχει ήδη υπόδειγμα «%1». Να αντικατασταθεί;").arg(name);
+}
+inline QString keepChanges() {
+    return QStringLiteral("Να καταχωρηθούν οι αλλαγές;");
+}
+inline QString quoteInName() {
+    return QStringLiteral("Το όνομα δεν μπορεί να έχει απόστροφο (').");
 }
 inline QString templateSaved(const QString& name) {
     return QStringLiteral("Το υπόδειγμα «%1» καταχωρήθηκε.").arg(name);
@@ -197,6 +204,9 @@ inline QString findFromEnd() {
 inline QString sums(const QString& sum, const QString& count, const QString& average) {
     return QStringLiteral("Άθροισμα %1   Πλήθος %2   Μέσος όρος %3").arg(sum, count, average);
 }
+inline QString withoutSummaries(const QString& sums) {
+    return sums + QStringLiteral("   (χωρίς υποσύνολα)");
+}
 inline QString countOfCells(const QString& numbers, const QString& cells) {
     return QStringLiteral("%1 από %2 κελιά").arg(numbers, cells);
 }
@@ -215,14 +225,23 @@ inline QString rowsReadAtRate(const QString& rows, const QString& perSecond) {
 inline QString layingOut(const QString& rows) {
     return QStringLiteral("Τοποθετούνται %1 γραμμές").arg(rows);
 }
-inline QString noPrintYet() {
-    return QStringLiteral("Η εκτύπωση δεν υπάρχει ακόμη.");
-}
 inline QString recordsOnly(const QString& records) {
     return QStringLiteral("%1 εγγραφές").arg(records);
 }
 
 // Messages in place of a report.
+inline QString noFile(const QString& file) {
+    return QStringLiteral("Το αρχείο %1 δεν υπάρχει.").arg(file);
+}
+inline QString fileGone(const QString& file) {
+    return QStringLiteral("Το αρχείο %1 δεν υπάρχει πια.").arg(file);
+}
+inline QString fileNotReadable(const QString& file) {
+    return QStringLiteral("Το αρχείο %1 δεν διαβάζεται.").arg(file);
+}
+inline QString noDatabase(const QString& file) {
+    return QStringLiteral("Το αρχείο %1 δεν είναι βάση δεδομένων SQLite.").arg(file);
+}
 inline QString noReportsTable() {
     return QStringLiteral("Η βάση δεν έχει πίνακα Reports, άρα ούτε αναφορές.");
 }
