@@ -351,6 +351,28 @@ TEST_F(WindowUndo, AnotherReportBeginsWithoutSteps) {
     EXPECT_FALSE(action("undo").isEnabled());
 }
 
+TEST_F(WindowUndo, TheMenuNamesTheStep) {
+    ASSERT_TRUE(open());
+    const auto undoText = [&] { return action("undo").text(); };
+    const auto named = [](const QString& step) { return texts::ofStep(texts::undoAction(), step); };
+    EXPECT_EQ(undoText(), texts::undoAction());
+    grid().setColCaption(0, QStringLiteral("Άλλος τίτλος"));
+    settle();
+    EXPECT_EQ(undoText(), named(texts::stepCaption()));
+    dragHeading(1, 3);
+    EXPECT_EQ(undoText(), named(texts::stepMove()));
+    grid().MSFlexGrid1().userResizeColumn(0, 2400);
+    settle();
+    EXPECT_EQ(undoText(), named(texts::stepWidth()));
+    choose(u"mnuAddColumn");
+    EXPECT_EQ(undoText(), named(texts::stepAdd()));
+    choose(u"mnuDelColumn");
+    EXPECT_EQ(undoText(), named(texts::stepDelete()));
+    undo();
+    EXPECT_EQ(undoText(), named(texts::stepAdd()));
+    EXPECT_EQ(action("redo").text(), texts::ofStep(texts::redoAction(), texts::stepDelete()));
+}
+
 TEST_F(WindowUndo, AnAddedFactorIsColouredAtOnce) {
     ASSERT_TRUE(open({{}, {}, {}, {QStringLiteral("CATEGORY")}}));
     choose(u"mnuAddGroup");

@@ -63,6 +63,8 @@ void ReportTools::makeActions(QMainWindow& window) {
     const auto enable = [this, undo, redo] {
         undo->setEnabled(recorder_.canUndo());
         redo->setEnabled(recorder_.canRedo());
+        undo->setText(texts::ofStep(texts::undoAction(), recorder_.undoName()));
+        redo->setText(texts::ofStep(texts::redoAction(), recorder_.redoName()));
     };
     connect(&recorder_, &ReshapeRecorder::changed, this, enable);
     enable();

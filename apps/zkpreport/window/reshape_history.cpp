@@ -1,5 +1,7 @@
 #include "window/reshape_history.h"
 
+#include "window/reshape_step.h"
+
 #include <utility>
 
 namespace zkp::app {
@@ -34,6 +36,14 @@ void ReshapeHistory::settle(ReshapeSnapshot now) {
     now_ = std::move(now);
     if (!changed)
         saved_ = now_; // what the host makes of a shape is no change of the user's
+}
+
+QString ReshapeHistory::undoName() const {
+    return canUndo() ? stepName(before_.back(), now_) : QString();
+}
+
+QString ReshapeHistory::redoName() const {
+    return canRedo() ? stepName(now_, undone_.back()) : QString();
 }
 
 const ReshapeSnapshot& ReshapeHistory::undo() {

@@ -28,6 +28,9 @@ public:
 
     bool canUndo() const { return !before_.empty(); }
     bool canRedo() const { return !undone_.empty(); }
+    /// What that step was; empty when there is none.
+    QString undoName() const;
+    QString redoName() const;
     /// Moves one step and gives the shape to bring back. Only when there is one.
     const ReshapeSnapshot& undo();
     const ReshapeSnapshot& redo();

@@ -34,6 +34,8 @@ public:
 
     bool canUndo() const { return history_.canUndo(); }
     bool canRedo() const { return history_.canRedo(); }
+    QString undoName() const { return history_.undoName(); }
+    QString redoName() const { return history_.redoName(); }
     void undo();
     void redo();
     /// Whether the shape differs from the one that was begun with or last saved.

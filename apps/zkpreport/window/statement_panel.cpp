@@ -27,7 +27,6 @@ QPlainTextEdit* makeText(const QString& name, QWidget* parent) {
 QLabel* makeHeading(const QString& text, QWidget* buddy, QWidget* parent) {
     auto* heading = new QLabel(text, parent);
     heading->setBuddy(buddy);
-    heading->setMinimumWidth(1);
     return heading;
 }
 

@@ -166,6 +166,37 @@ inline QString undoAction() {
 inline QString redoAction() {
     return QStringLiteral("&Επανάληψη");
 }
+/// A step beside the command that takes it back or makes it again; empty for none.
+inline QString ofStep(const QString& command, const QString& step) {
+    return step.isEmpty() ? command : QStringLiteral("%1: %2").arg(command, step);
+}
+inline QString stepAdd() {
+    return QStringLiteral("νέα στήλη");
+}
+inline QString stepDelete() {
+    return QStringLiteral("διαγραφή στήλης");
+}
+inline QString stepMove() {
+    return QStringLiteral("μετακίνηση στήλης");
+}
+inline QString stepField() {
+    return QStringLiteral("πεδίο στήλης");
+}
+inline QString stepCaption() {
+    return QStringLiteral("τίτλος στήλης");
+}
+inline QString stepWidth() {
+    return QStringLiteral("πλάτος στήλης");
+}
+inline QString stepAlignment() {
+    return QStringLiteral("στοίχιση στήλης");
+}
+inline QString stepRows() {
+    return QStringLiteral("σειρά και ομάδες");
+}
+inline QString stepLook() {
+    return QStringLiteral("εμφάνιση");
+}
 inline QString copyAction() {
     return QStringLiteral("Αντι&γραφή με επικεφαλίδες");
 }
