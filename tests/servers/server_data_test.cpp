@@ -120,4 +120,71 @@ TEST_P(ServerDataTest, ManyRecordsComeInTheirOrder) {
                   u("Πελάτης %1").arg(i + 1));
 }
 
+/// PostgreSQL's driver says 255 of a varchar without a length, whatever it holds.
+TEST_P(ServerDataTest, LongTextsOfColumnsWithoutALengthStayInTheirRecords) {
+    if (isPostgres()) {
+        make("ZT_UNBOUND", "N INTEGER, A VARCHAR");
+        run("INSERT INTO ZT_UNBOUND SELECT n, CASE WHEN n % 1000 IN (5, 6) THEN n || repeat('ω', 1500) "
+            "ELSE CAST(n AS VARCHAR) END FROM generate_series(1, 20000) n");
+    } else {
+        make("ZT_UNBOUND", "N INTEGER, A LONGTEXT");
+        run("INSERT INTO ZT_UNBOUND SELECT seq, IF(seq % 1000 IN (5, 6), CONCAT(seq, REPEAT('ω', 1500)), "
+            "seq) "
+            "FROM seq_1_to_20000");
+    }
+    const QString tail = u("ω").repeated(1500);
+    for (int times = 0; times < 10; ++times) {
+        const auto rs = open("SELECT N, A, coalesce(A, '') AS C FROM ZT_UNBOUND ORDER BY N");
+        ASSERT_EQ(rs->RecordCount(), 20'000);
+        for (int n = 1; n <= 20'000; ++n) {
+            const bool isLong = n % 1000 == 5 || n % 1000 == 6;
+            const QString text = QString::number(n) + (isLong ? tail : QString());
+            const auto row = static_cast<std::size_t>(n - 1);
+            ASSERT_TRUE(rs->table().columns[1]->value(row).toString() == text) << n;
+            ASSERT_TRUE(rs->table().columns[2]->value(row).toString() == text) << n;
+        }
+    }
+}
+
+TEST_P(ServerDataTest, AmountsOfAnyLengthKeepTheirSize) {
+    if (!isPostgres()) { // at most 65 digits
+        EXPECT_DOUBLE_EQ(one("SELECT CAST(REPEAT('9', 65) AS DECIMAL(65,0))").toDouble(), 1e65);
+        return;
+    }
+    run("DROP TABLE IF EXISTS ZT_AMOUNT");
+    run("CREATE TABLE ZT_AMOUNT AS SELECT n, CASE n % 4 WHEN 0 THEN CAST(repeat('9', 80) AS NUMERIC) "
+        "WHEN 1 THEN CAST('-1' || repeat('0', 90) || '.5' AS NUMERIC) "
+        "WHEN 2 THEN CAST('12.3456' || repeat('7', 100) AS NUMERIC) ELSE n END AS a "
+        "FROM generate_series(0, 4999) n");
+    const auto rs = open("SELECT a, n FROM ZT_AMOUNT ORDER BY n");
+    ASSERT_EQ(rs->RecordCount(), 5000);
+    for (int n = 0; n < 5000; ++n) {
+        const QVariant value = rs->table().columns[0]->value(static_cast<std::size_t>(n));
+        if (n % 4 == 2)
+            ASSERT_EQ(value.value<Currency>().scaled, 123'457) << n;
+        else if (n % 4 == 3)
+            ASSERT_EQ(value.value<Currency>().scaled, n * 10'000) << n;
+        else
+            ASSERT_DOUBLE_EQ(value.toDouble(), n % 4 == 0 ? 1e80 : -1e90) << n;
+    }
+}
+
+TEST_P(ServerDataTest, ADayThatIsNoneIsNoDate) {
+    make("ZT_DAYS", "K INTEGER, DAY DATE, AT MOMENT");
+    if (isPostgres()) { // keeps no such days
+        EXPECT_NE(errorOf([&] { run("INSERT INTO ZT_DAYS VALUES (1, '2020-05-00', NULL)"); }).number(), 0);
+        return;
+    }
+    run("SET SESSION sql_mode = ''");
+    run("INSERT INTO ZT_DAYS VALUES (1, '2020-00-00', '2020-05-00 10:00:00'), (2, '0000-00-00', NULL), "
+        "(3, '2020-02-29', '2020-02-29 10:00:00')");
+    const auto rs = open("SELECT DAY, AT FROM ZT_DAYS ORDER BY K");
+    for (int record = 0; record < 2; ++record, rs->MoveNext()) {
+        EXPECT_FALSE(rs->Collect(u("DAY")).isValid()) << record;
+        EXPECT_FALSE(rs->Collect(u("AT")).isValid()) << record;
+    }
+    EXPECT_EQ(rs->Collect(u("DAY")).toDateTime(), QDateTime(QDate(2020, 2, 29), QTime(0, 0)));
+    EXPECT_EQ(rs->Collect(u("AT")).toDateTime(), QDateTime(QDate(2020, 2, 29), QTime(10, 0)));
+}
+
 } // namespace zkp::servers

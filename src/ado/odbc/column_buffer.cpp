@@ -14,19 +14,38 @@ namespace {
 
 constexpr std::int64_t kDayMilliseconds = 86'400'000;
 
-std::int64_t midnight(int year, unsigned month, unsigned day) {
+/// Nothing for a day that is none: MariaDB keeps dates with a month or day of 0.
+std::optional<std::int64_t> midnight(int year, unsigned month, unsigned day) {
     const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(month),
                                            std::chrono::day(day)};
+    if (!date.ok())
+        return std::nullopt;
     return std::chrono::sys_days(date).time_since_epoch().count() * kDayMilliseconds;
 }
 
-std::int64_t milliseconds(const SQL_DATE_STRUCT& date) {
+std::optional<std::int64_t> milliseconds(const SQL_DATE_STRUCT& date) {
     return midnight(date.year, date.month, date.day);
 }
 
-std::int64_t milliseconds(const SQL_TIMESTAMP_STRUCT& moment) {
-    return midnight(moment.year, moment.month, moment.day) +
-           ((moment.hour * 60ll + moment.minute) * 60 + moment.second) * 1000 + moment.fraction / 1'000'000;
+std::optional<std::int64_t> milliseconds(const SQL_TIMESTAMP_STRUCT& moment) {
+    const auto day = midnight(moment.year, moment.month, moment.day);
+    if (!day)
+        return std::nullopt;
+    return *day + ((moment.hour * 60ll + moment.minute) * 60 + moment.second) * 1000 +
+           moment.fraction / 1'000'000;
+}
+
+void appendDate(store::ColumnBuilder& builder, std::optional<std::int64_t> moment) {
+    if (moment)
+        builder.appendDate(*moment);
+    else
+        builder.appendNull();
+}
+
+std::size_t signOf(const ColumnType& type) {
+    if (type.transfer == Transfer::Text)
+        return type.isUtf8 ? 1 : sizeof(SQLWCHAR);
+    return type.transfer == Transfer::Amount ? 1 : 0;
 }
 
 } // namespace
@@ -34,6 +53,7 @@ std::int64_t milliseconds(const SQL_TIMESTAMP_STRUCT& moment) {
 ColumnBuffer::ColumnBuffer(const ColumnType& type, int column, std::size_t rows)
     : type_(type)
     , column_(column)
+    , room_(type.width - signOf(type))
     , bytes_(type.width * rows)
     , lengths_(rows) {}
 
@@ -63,14 +83,38 @@ void ColumnBuffer::bind(const Statement& statement) {
                                bytes_.data(), static_cast<SQLLEN>(type_.width), lengths_.data()));
 }
 
+bool ColumnBuffer::hasSize() const {
+    return type_.transfer == Transfer::Text || type_.transfer == Transfer::Binary ||
+           type_.transfer == Transfer::Amount;
+}
+
+/// Drivers give the whole length of a value that was cut, or that it is unknown. Digits behind a point are
+/// more than enough, those ahead of it count.
+bool ColumnBuffer::isCut(std::size_t row) const {
+    const SQLLEN length = lengths_[row];
+    if (length == SQL_NULL_DATA || (length != SQL_NO_TOTAL && static_cast<std::size_t>(length) <= room_))
+        return false;
+    return type_.transfer != Transfer::Amount ||
+           std::string_view(at(row), room_).find('.') == std::string_view::npos;
+}
+
+void ColumnBuffer::readCut(std::size_t rows, LongValues& values) {
+    cut_.clear();
+    for (std::size_t row = 0; hasSize() && row < rows; ++row) {
+        if (!isCut(row))
+            continue;
+        values.goTo(row);
+        const std::string* bytes = values.read(column_, cType());
+        cut_.emplace(row, bytes ? std::optional(*bytes) : std::nullopt);
+    }
+}
+
 void ColumnBuffer::read(LongValues& values, store::ColumnBuilder& builder) {
     const std::string* bytes = values.read(column_, cType());
     if (!bytes) {
         builder.appendNull();
-    } else if (type_.transfer == Transfer::Binary) {
-        builder.appendBinary(*bytes);
-    } else if (type_.transfer == Transfer::Text) {
-        appendOneText(builder, bytes->data(), bytes->size());
+    } else if (hasSize()) {
+        appendWhole(builder, *bytes);
     } else {
         std::memcpy(bytes_.data(), bytes->data(), std::min(bytes->size(), type_.width));
         lengths_[0] = static_cast<SQLLEN>(bytes->size());
@@ -88,16 +132,14 @@ void ColumnBuffer::appendTo(store::ColumnBuilder& builder, std::size_t rows, Lon
         return appendFixed<double>(builder, rows, [&](double v) { appendReal(builder, v); });
     case Transfer::Date:
         return appendFixed<SQL_DATE_STRUCT>(
-            builder, rows, [&](const SQL_DATE_STRUCT& v) { builder.appendDate(milliseconds(v)); });
+            builder, rows, [&](const SQL_DATE_STRUCT& v) { appendDate(builder, milliseconds(v)); });
     case Transfer::Moment:
         return appendFixed<SQL_TIMESTAMP_STRUCT>(
-            builder, rows, [&](const SQL_TIMESTAMP_STRUCT& v) { builder.appendDate(milliseconds(v)); });
+            builder, rows, [&](const SQL_TIMESTAMP_STRUCT& v) { appendDate(builder, milliseconds(v)); });
     case Transfer::Amount:
-        return appendAmounts(builder, rows);
     case Transfer::Binary:
-        return appendBinary(builder, rows, values);
     case Transfer::Text:
-        return appendText(builder, rows, values);
+        return appendSized(builder, rows, values);
     }
 }
 
@@ -122,57 +164,52 @@ void ColumnBuffer::appendReal(store::ColumnBuilder& builder, double value) const
         builder.appendReal(value);
 }
 
-void ColumnBuffer::appendAmounts(store::ColumnBuilder& builder, std::size_t rows) {
+void ColumnBuffer::appendSized(store::ColumnBuilder& builder, std::size_t rows, LongValues& values) {
     for (std::size_t row = 0; row < rows; ++row) {
-        if (lengths_[row] == SQL_NULL_DATA) {
+        const SQLLEN length = lengths_[row];
+        if (length == SQL_NULL_DATA)
             builder.appendNull();
-            continue;
-        }
-        const std::string_view digits(at(row),
-                                      std::min(static_cast<std::size_t>(lengths_[row]), type_.width - 1));
-        if (const auto whole = type_.isWhole ? wholeFromText(digits) : std::nullopt)
-            builder.appendInteger(*whole);
-        else if (const auto amount = amountFromText(digits))
-            builder.appendAmount(*amount);
+        else if (isCut(row))
+            appendCut(builder, row, values);
         else
-            builder.appendReal(std::strtod(std::string(digits).c_str(), nullptr));
+            appendWhole(builder, {at(row), std::min(static_cast<std::size_t>(length), room_)});
     }
 }
 
-/// Drivers give the whole length of a text that was cut, or that it is unknown.
-void ColumnBuffer::appendText(store::ColumnBuilder& builder, std::size_t rows, LongValues& values) {
-    const auto room = static_cast<SQLLEN>(type_.width - sign());
-    for (std::size_t row = 0; row < rows; ++row) {
-        const SQLLEN length = lengths_[row];
-        if (length == SQL_NULL_DATA) {
-            builder.appendNull();
-        } else if (length != SQL_NO_TOTAL && length <= room) {
-            appendOneText(builder, at(row), static_cast<std::size_t>(length));
-        } else {
-            values.goTo(row);
-            read(values, builder);
-        }
+void ColumnBuffer::appendCut(store::ColumnBuilder& builder, std::size_t row, LongValues& values) {
+    const auto there = cut_.find(row);
+    if (there == cut_.end()) {
+        values.goTo(row);
+        read(values, builder);
+    } else if (there->second) {
+        appendWhole(builder, *there->second);
+    } else {
+        builder.appendNull();
     }
 }
 
-void ColumnBuffer::appendBinary(store::ColumnBuilder& builder, std::size_t rows, LongValues& values) {
-    for (std::size_t row = 0; row < rows; ++row) {
-        const SQLLEN length = lengths_[row];
-        if (length == SQL_NULL_DATA) {
-            builder.appendNull();
-        } else if (length != SQL_NO_TOTAL && static_cast<std::size_t>(length) <= type_.width) {
-            builder.appendBinary({at(row), static_cast<std::size_t>(length)});
-        } else {
-            values.goTo(row);
-            read(values, builder);
-        }
-    }
+void ColumnBuffer::appendWhole(store::ColumnBuilder& builder, std::string_view bytes) {
+    if (type_.transfer == Transfer::Binary)
+        builder.appendBinary(bytes);
+    else if (type_.transfer == Transfer::Text)
+        appendOneText(builder, bytes);
+    else
+        appendOneAmount(builder, bytes);
 }
 
-void ColumnBuffer::appendOneText(store::ColumnBuilder& builder, const char* bytes, std::size_t size) {
+void ColumnBuffer::appendOneAmount(store::ColumnBuilder& builder, std::string_view digits) const {
+    if (const auto whole = type_.isWhole ? wholeFromText(digits) : std::nullopt)
+        builder.appendInteger(*whole);
+    else if (const auto amount = amountFromText(digits))
+        builder.appendAmount(*amount);
+    else
+        builder.appendReal(std::strtod(std::string(digits).c_str(), nullptr));
+}
+
+void ColumnBuffer::appendOneText(store::ColumnBuilder& builder, std::string_view bytes) {
     if (type_.isUtf8)
-        return builder.appendText({bytes, size});
-    toUtf8({reinterpret_cast<const char16_t*>(bytes), size / sizeof(char16_t)}, utf8_);
+        return builder.appendText(bytes);
+    toUtf8({reinterpret_cast<const char16_t*>(bytes.data()), bytes.size() / sizeof(char16_t)}, utf8_);
     builder.appendText(utf8_);
 }
 

@@ -101,6 +101,8 @@ void Fetch::fetchAll() {
         try {
             const std::lock_guard lock(driver_);
             block->isLast = !block->fetch(statement_);
+            // A driver may say less of a column than it holds, as PostgreSQL's of a varchar without a length.
+            block->readCut(values_);
         } catch (const Error& error) {
             block->failure = error;
         } catch (const std::exception& e) {

@@ -29,12 +29,12 @@ private:
 
     Statement& statement_;
     const RunOptions& options_;
-    LongValues values_;
+    LongValues values_; ///< the fetching thread's alone while there is one
     std::vector<ColumnType> columns_;
     std::vector<store::ColumnBuilder> builders_;
     std::size_t bound_ = 0; ///< how many of the first columns are bound; the others are read one by one
     std::size_t blockRows_ = 1;
-    bool overlaps_ = false; ///< no value needs the statement once its block is there
+    bool overlaps_ = false; ///< no column is long: what is cut all the same is read by the fetching thread
     std::size_t rows_ = 0;
 
     BatchQueue<RowBlock> queue_;

@@ -1,5 +1,8 @@
 #include "ado/odbc/long_values.h"
 
+#include "ado/odbc/session.h"
+#include "base/error.h"
+
 #include <algorithm>
 
 namespace zkp::ado::odbc {
@@ -11,6 +14,8 @@ constexpr std::size_t kFirstPart = 16 * 1024;
 } // namespace
 
 void LongValues::goTo(std::size_t row) {
+    if (!statement_.session().readsInsideBlocks())
+        throw Error(kErrDatabase, QStringLiteral("A value is longer than its column."));
     statement_.check(
         SQLSetPos(statement_.get(), static_cast<SQLSETPOSIROW>(row + 1), SQL_POSITION, SQL_LOCK_NO_CHANGE));
 }

@@ -12,7 +12,8 @@ public:
     explicit LongValues(const Statement& statement)
         : statement_(statement) {}
 
-    /// The row of the block that the values are read from, from 0.
+    /// The row of the block that the values are read from, from 0. An error where the driver can't go back:
+    /// some give another row's values.
     void goTo(std::size_t row);
     /// The value's bytes, valid until the next call; nothing for a null. UTF-16 for SQL_C_WCHAR.
     const std::string* read(int column, SQLSMALLINT cType);

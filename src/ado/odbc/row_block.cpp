@@ -40,6 +40,11 @@ bool RowBlock::fetch(Statement& statement) {
     return true;
 }
 
+void RowBlock::readCut(LongValues& values) {
+    for (std::size_t i = 0; i < bound_; ++i)
+        buffers_[i].readCut(fetched_, values);
+}
+
 void RowBlock::appendTo(std::vector<store::ColumnBuilder>& builders, LongValues& values) {
     for (std::size_t i = 0; i < buffers_.size(); ++i) {
         if (i < bound_)

@@ -15,6 +15,8 @@ public:
 
     /// Fetches the statement's next rows into the buffers; false behind the last.
     bool fetch(Statement& statement);
+    /// Reads the values that the buffers cut, before the statement goes on to further rows.
+    void readCut(LongValues& values);
     /// Appends the rows to the columns.
     void appendTo(std::vector<store::ColumnBuilder>& builders, LongValues& values);
     std::size_t rows() const { return fetched_; }
