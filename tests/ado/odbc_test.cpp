@@ -48,15 +48,46 @@ TEST(WideText, Utf16BecomesUtf8) {
 }
 
 TEST(ReadOnlyServer, OnlyTemplatesAndSettingsAreWritten) {
-    for (const char* allowed : {"SELECT * FROM T", " exec P 'x'", "INSERT INTO frms (lstCode) VALUES (1)",
-                                "update dbo.QRN_Main set GenValue='insert'", "delete from [FRMS2] where 1=1",
-                                "with a as (select 1 x) select * from a", "SELECT 'drop' AS [update] FROM T"})
-        EXPECT_NE(readingOf(u(allowed)), Reading::Refused) << allowed;
+    for (const Dialect dialect : {Dialect::SqlServer, Dialect::PostgreSql, Dialect::MariaDb}) {
+        for (const char* allowed :
+             {"SELECT * FROM T", " exec P 'x'", "INSERT INTO frms (lstCode) VALUES (1)",
+              "update dbo.QRN_Main set GenValue='insert'", "delete from [FRMS2] where 1=1", "DELETE frms2",
+              "update frms set A=(select B from T)", "with a as (select 1 x) select * from a",
+              "SELECT 'drop' AS [update] FROM T", "SELECT 1 -- it's\n",
+              "SELECT 'e' /* it's */ AS [a] FROM T"})
+            EXPECT_NE(readingOf(u(allowed), dialect), Reading::Refused) << allowed;
+        for (const char* refused :
+             {"INSERT INTO T VALUES (1)", "UPDATE T SET A=1", "delete T", "DROP TABLE frms",
+              "SELECT * INTO X FROM T", "with a as (delete from T returning *) select * from a",
+              "TRUNCATE TABLE frms", "create table X (a int)", "UPDATE frms, T SET T.A = 1",
+              "UPDATE frms JOIN T SET T.A = 1", "DELETE frms, T FROM frms JOIN T",
+              "DELETE FROM frms USING frms JOIN T", "SELECT 1 /* /* */ ' */ DELETE FROM T --'",
+              "exec ('DROP TABLE T')"})
+            EXPECT_EQ(readingOf(u(refused), dialect), Reading::Refused) << refused;
+    }
+}
+
+TEST(ReadOnlyServer, SqlServerTakesAnotherStatementWithoutASign) {
     for (const char* refused :
-         {"INSERT INTO T VALUES (1)", "UPDATE T SET A=1", "delete T", "DROP TABLE frms",
-          "SELECT * INTO X FROM T", "with a as (delete from T returning *) select * from a",
-          "TRUNCATE TABLE frms", "create table X (a int)"})
-        EXPECT_EQ(readingOf(u(refused)), Reading::Refused) << refused;
+         {"SELECT 1 AS a DROP TABLE T", "UPDATE frms SET A=1 DROP TABLE T", "SELECT 1 EXEC P",
+          "SELECT 1 ALTER TABLE T ADD B int", "SELECT 1 GRANT SELECT ON T TO x", "SELECT 1 USE master",
+          "UPDATE frms SET A=1 FROM T frms", "SELECT 1 AS [a]]'] DROP TABLE T --'"})
+        EXPECT_EQ(readingOf(u(refused), Dialect::SqlServer), Reading::Refused) << refused;
+    EXPECT_EQ(readingOf(u("SELECT [use], [set] FROM #T"), Dialect::SqlServer), Reading::Reads);
+    EXPECT_EQ(readingOf(u("SELECT backup FROM T"), Dialect::PostgreSql), Reading::Reads);
+}
+
+TEST(ReadOnlyServer, WhatAServerReadsOtherwiseIsRefused) {
+    for (const char* refused :
+         {"SELECT $$'$$; DELETE FROM T; --'", "SELECT $a$'$a$", "SELECT 1$$'$$", "SELECT @$$'$$",
+          "SELECT E'\\''; DELETE FROM T; --'", "SELECT 1e'\\''", "SELECT 1 -- '\r; DELETE FROM T --'",
+          "SELECT set_config('a','off',false)", "SELECT pg_catalog.\"set_config\"('a','off',false)"})
+        EXPECT_EQ(readingOf(u(refused), Dialect::PostgreSql), Reading::Refused) << refused;
+    for (const char* read : {"SELECT a$b FROM T", "SELECT date'2026-01-01'", "SELECT 1 -- '\r\n"})
+        EXPECT_EQ(readingOf(u(read), Dialect::PostgreSql), Reading::Reads) << read;
+    for (const char* refused : {"/*! SET SESSION tx_read_only = ( */ SELECT 0 /*! ) */", "SELECT 1 /*M! */",
+                                "SELECT 1 --1", "SELECT 1 # it's\n"})
+        EXPECT_EQ(readingOf(u(refused), Dialect::MariaDb), Reading::Refused) << refused;
 }
 
 class OdbcFailureTest : public testing::Test {};

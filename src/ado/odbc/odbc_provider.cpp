@@ -54,7 +54,8 @@ OdbcProvider::OdbcProvider(const QString& connectionString, bool readOnly)
     : session_(std::make_shared<Session>(connectionString, readOnly)) {}
 
 std::unique_ptr<ResultStream> OdbcProvider::start(const QString& statement, const RunOptions& options) {
-    const Reading reading = session_->isReadOnly() ? readingOf(statement) : Reading::Reads;
+    const Reading reading =
+        session_->isReadOnly() ? readingOf(statement, session_->dialect()) : Reading::Reads;
     if (reading == Reading::Refused)
         refuseWriting();
     dialect::Rewritten sent = translate(*session_, statement);

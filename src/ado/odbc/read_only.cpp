@@ -1,6 +1,7 @@
 #include "ado/odbc/read_only.h"
 
 #include "ado/dialect/tokenizer.h"
+#include "ado/odbc/server_reading.h"
 #include "base/error.h"
 #include "base/text.h"
 
@@ -21,8 +22,13 @@ bool isName(const Token& token) {
     return token.kind == dialect::TokenKind::Word || token.kind == dialect::TokenKind::Name;
 }
 
-/// The table that a statement writes to, by its first words; empty when they are no such statement.
-QString writtenTable(const std::vector<Token>& tokens) {
+/// What a statement writes to, by its first words.
+struct Target {
+    QString table;        ///< empty when it is no such statement
+    std::size_t behind{}; ///< the token behind the table's name
+};
+
+Target targetOf(const std::vector<Token>& tokens) {
     std::size_t at = 1;
     if (tokens[0].isWord(u"insert") || tokens[0].isWord(u"delete")) {
         if (tokens.size() > 1 && isOneOf(tokens[1], {u"into", u"from"}))
@@ -32,7 +38,57 @@ QString writtenTable(const std::vector<Token>& tokens) {
     }
     while (at + 2 < tokens.size() && tokens[at + 1].isSign(u"."))
         at += 2;
-    return at < tokens.size() && isName(tokens[at]) ? dialect::nameOf(tokens[at]) : QString();
+    if (at >= tokens.size() || !isName(tokens[at]))
+        return {};
+    return {dialect::nameOf(tokens[at]), at + 1};
+}
+
+/// Whether no other table can be meant: servers take several in an UPDATE or DELETE, and SQL Server a FROM
+/// where the name may stand for another one.
+bool writesOneTable(const std::vector<Token>& tokens, std::size_t behind, Dialect dialect) {
+    if (tokens[0].isWord(u"insert"))
+        return true;
+    if (tokens[0].isWord(u"delete"))
+        return behind == tokens.size() || tokens[behind].isWord(u"where");
+    if (behind == tokens.size() || !tokens[behind].isWord(u"set"))
+        return false;
+    int depth = 0;
+    return dialect != Dialect::SqlServer ||
+           std::none_of(tokens.begin(), tokens.end(), [&depth](const Token& token) {
+               depth += token.isSign(u"(") ? 1 : token.isSign(u")") ? -1 : 0;
+               return depth == 0 && token.isWord(u"from");
+           });
+}
+
+bool writes(const Token& token) {
+    return isOneOf(token, {u"insert", u"update", u"delete", u"merge", u"into", u"truncate"});
+}
+
+/// SQL Server needs no ";" between statements and has no sessions for reading; all these are reserved there.
+bool beginsAnother(const Token& token) {
+    return isOneOf(token,
+                   {u"alter",  u"backup",    u"begin",      u"bulk",       u"commit", u"create",  u"dbcc",
+                    u"deny",   u"drop",      u"exec",       u"execute",    u"grant",  u"kill",    u"restore",
+                    u"revoke", u"revert",    u"rollback",   u"save",       u"set",    u"setuser", u"shutdown",
+                    u"use",    u"writetext", u"updatetext", u"reconfigure"});
+}
+
+/// Whether a server does more than the first words say.
+bool doesMore(const std::vector<Token>& tokens, std::size_t from, Dialect dialect) {
+    // A text that is run.
+    if (isOneOf(tokens[0], {u"exec", u"execute"}) && tokens.size() > 1 && tokens[1].isSign(u"("))
+        return true;
+    const auto does = [dialect](const Token& token) {
+        switch (dialect) {
+        case Dialect::SqlServer:
+            return beginsAnother(token);
+        case Dialect::PostgreSql:
+            return isName(token) && nameKey(dialect::nameOf(token)) == u"SET_CONFIG";
+        default:
+            return false;
+        }
+    };
+    return std::any_of(tokens.begin() + static_cast<std::ptrdiff_t>(from), tokens.end(), does);
 }
 
 } // namespace
@@ -42,21 +98,24 @@ bool isWritableReadOnly(const QString& table) {
     return key == u"FRMS" || key == u"FRMS2" || key == u"QRN_MAIN";
 }
 
-Reading readingOf(const QString& statement) {
+Reading readingOf(const QString& statement, Dialect dialect) {
     std::vector<Token> tokens = dialect::tokenize(statement);
+    if (mayBeReadOtherwise(tokens, dialect))
+        return Reading::Refused;
     std::erase_if(tokens, [](const Token& token) { return token.kind == dialect::TokenKind::Space; });
     if (tokens.empty())
         return Reading::Reads;
-    const auto writes = [](const Token& token) {
-        return isOneOf(token, {u"insert", u"update", u"delete", u"merge", u"into", u"truncate"});
-    };
-    if (const QString table = writtenTable(tokens); !table.isEmpty()) {
-        const bool intoOnly = std::none_of(tokens.begin() + 2, tokens.end(), writes);
-        return isWritableReadOnly(table) && intoOnly ? Reading::WritesAllowed : Reading::Refused;
+    if (const Target target = targetOf(tokens); !target.table.isEmpty()) {
+        // The word behind an UPDATE's table is its SET.
+        const bool more = doesMore(tokens, std::min(target.behind + 1, tokens.size()), dialect);
+        const bool allowed = isWritableReadOnly(target.table) && !more &&
+                             writesOneTable(tokens, target.behind, dialect) &&
+                             std::none_of(tokens.begin() + 2, tokens.end(), writes);
+        return allowed ? Reading::WritesAllowed : Reading::Refused;
     }
     const bool reads = isOneOf(tokens[0], {u"select", u"with", u"values", u"table", u"show", u"explain",
                                            u"describe", u"exec", u"execute", u"call"}) &&
-                       std::none_of(tokens.begin(), tokens.end(), writes);
+                       !doesMore(tokens, 1, dialect) && std::none_of(tokens.begin(), tokens.end(), writes);
     return reads ? Reading::Reads : Reading::Refused;
 }
 

@@ -1,6 +1,7 @@
 #include "ado/odbc/server_facts.h"
 
 #include "ado/odbc/run.h"
+#include "base/scope_guard.h"
 
 #include <string_view>
 
@@ -62,6 +63,25 @@ dialect::Catalogue readMariaDb(Session& session) {
     return catalogue;
 }
 
+/// Sessions for reading, ours and those of users who have it as their default, may make one all the same.
+void makePostgresCollation(Session& session) {
+    const Result reading = ask(session, "SHOW default_transaction_read_only");
+    const bool unlock = !session.isInTransaction() && reading.table.rows > 0 &&
+                        reading.table.columns[0]->value(0).toString() == QStringLiteral("on");
+    const ScopeGuard guard([&] {
+        try {
+            if (unlock)
+                allowWriting(session, false);
+        } catch (const Error&) {
+            // The connection is gone.
+        }
+    });
+    if (unlock)
+        allowWriting(session, true);
+    ask(session, "CREATE COLLATION IF NOT EXISTS pg_temp.zkp_text (provider = icu, locale = "
+                 "'und-u-ks-level2', deterministic = false)");
+}
+
 /// An administrator's collation where there is one, so that its indexes are of use, or else one that
 /// lasts as long as the session.
 QString choosePostgresCollation(Session& session) {
@@ -72,13 +92,15 @@ QString choosePostgresCollation(Session& session) {
     if (kept.table.rows > 0)
         return kept.table.columns[0]->value(0).toString() + QStringLiteral(".zkp_text");
     try {
-        ask(session,
-            "CREATE COLLATION IF NOT EXISTS pg_temp.zkp_text (provider = icu, locale = 'und-u-ks-level2', "
-            "deterministic = false)");
-    } catch (const Error&) {
+        makePostgresCollation(session);
+    } catch (const Error& error) {
         if (session.isLost())
             throw;
-        return {};
+        throw Error(kErrDatabase,
+                    QStringLiteral("Texts can't be compared without regard to case: an administrator has to "
+                                   "make the collation zkp_text on this server.\n") +
+                        error.description(),
+                    error.source());
     }
     return QStringLiteral("pg_temp.zkp_text");
 }
@@ -126,6 +148,9 @@ bool givesUtf8(Session& session) {
 } // namespace
 
 void prepareServer(Session& session) {
+    // A "\" in a constant opens nothing.
+    if (session.dialect() == Dialect::PostgreSql)
+        ask(session, "SET standard_conforming_strings = on");
     if (session.dialect() == Dialect::MariaDb)
         prepareMariaDb(session);
     if (session.dialect() != Dialect::SqlServer && givesUtf8(session))

@@ -13,7 +13,8 @@ void allowWriting(Session& session, bool writable);
 /// What the dialect needs of the server's catalogue; empty where names are found in any case.
 dialect::Catalogue readCatalogue(Session& session);
 /// A collation that takes no notice of case but of accents and of blanks at the end; empty where the
-/// server has none to offer.
+/// server has none to offer. Error kErrDatabase where one can't be made: reports would lose records, and
+/// nobody be told.
 QString chooseCollation(Session& session);
 
 } // namespace zkp::ado::odbc

@@ -2,6 +2,7 @@
 
 #include "ado/odbc/server_facts.h"
 #include "ado/odbc/wide_text.h"
+#include "base/scope_guard.h"
 
 #include <array>
 
@@ -66,10 +67,8 @@ void Session::prepare() {
         SQLSetConnectAttrW(connection_.get(), SQL_ATTR_ACCESS_MODE, number(SQL_MODE_READ_ONLY),
                            SQL_IS_UINTEGER);
     prepareServer(*this);
-    if (readOnly_) {
-        collation(); // which may have to be made
+    if (readOnly_)
         setWritable(false);
-    }
 }
 
 QString Session::info(SQLUSMALLINT what) const {
@@ -107,7 +106,12 @@ void Session::begin() {
         throw Error(kErrDatabase, QStringLiteral("There is a transaction already."), serverName_);
     if (readOnly_)
         setWritable(true);
-    setAutoCommit(false);
+    try {
+        setAutoCommit(false);
+    } catch (const Error&) {
+        readAgain();
+        throw;
+    }
     inTransaction_ = true;
     collationIsOfTransaction_ = false;
 }
@@ -126,16 +130,27 @@ void Session::endTransaction(SQLSMALLINT how) {
     if (!inTransaction_)
         throw Error(kErrDatabase, QStringLiteral("There is no transaction."), serverName_);
     inTransaction_ = false;
+    const ScopeGuard reading([this] { readAgain(); });
     if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection_.get(), how))) {
         const Error error = failure(SQL_HANDLE_DBC, connection_.get());
+        if (collationIsOfTransaction_)
+            collation_.reset();
         SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_ROLLBACK);
         SQLSetConnectAttrW(connection_.get(), SQL_ATTR_AUTOCOMMIT, number(SQL_AUTOCOMMIT_ON),
                            SQL_IS_UINTEGER);
         throw error;
     }
     setAutoCommit(true);
-    if (readOnly_)
+}
+
+void Session::readAgain() {
+    if (!readOnly_)
+        return;
+    try {
         setWritable(false);
+    } catch (const Error&) {
+        // The connection is gone.
+    }
 }
 
 void Session::setWritable(bool writable) {

@@ -54,7 +54,8 @@ public:
     const dialect::Catalogue& catalogue();
     /// It may have changed.
     void forgetCatalogue() { catalogue_.reset(); }
-    /// The collation for comparisons with constants; empty where the server has none.
+    /// The collation for comparisons with constants; empty where the server has none to offer. Error
+    /// kErrDatabase where one can't be made.
     const QString& collation();
 
 private:
@@ -63,6 +64,8 @@ private:
     QString info(SQLUSMALLINT what) const;
     void setAutoCommit(bool on);
     void endTransaction(SQLSMALLINT how);
+    /// A connection for reading refuses writing from now on.
+    void readAgain();
 
     Handle environment_;
     Handle connection_;
