@@ -52,11 +52,11 @@ public:
 
     /// The statement's records as they are now, the key of each as an additional last column.
     virtual Result recordsWithKeys() = 0;
-    /// Writes inside a transaction with bound parameters. `insert` gives the new row's key.
-    virtual QVariant insert(const QStringList& columns, const QVariantList& values) = 0;
-    virtual void update(const QVariant& key, const QStringList& columns, const QVariantList& values) = 0;
-    /// The select list's values of one row, as `recordsWithKeys` would give them, without the key.
-    virtual Result record(const QVariant& key) = 0;
+    /// Writes inside a transaction with bound parameters, and gives the row as it was written: the last
+    /// record of a result, as `recordsWithKeys` would give it, without the key. What can't be read back
+    /// isn't written.
+    virtual Result insert(const QStringList& columns, const QVariantList& values) = 0;
+    virtual Result update(const QVariant& key, const QStringList& columns, const QVariantList& values) = 0;
 };
 
 /// A kind of database. Everything that Connection and Recordset ask of one is here; failures are

@@ -1,6 +1,7 @@
 #include "ado/recordset_data.h"
 
 #include "base/error.h"
+#include "base/scope_guard.h"
 #include "base/text.h"
 #include "store/column_builder.h"
 
@@ -139,12 +140,13 @@ void Recordset::Update() {
 
 /// Writes the new record, and reads it back as the last one of the records and the current one.
 void Recordset::insertRecord() {
-    const QVariant key = d->base->insert(d->edit->columns, d->edit->values);
-    const Result record = d->base->record(key);
+    const Result record = d->base->insert(d->edit->columns, d->edit->values);
+    const std::size_t written = record.table.rows - 1;
     Records& records = d->open();
     store::Table table = records.table;
     for (std::size_t i = 0; i < table.columns.size(); ++i)
-        table.columns[i] = store::withValue(table.columns[i], table.rows, record.table.columns[i]->value(0));
+        table.columns[i] =
+            store::withValue(table.columns[i], table.rows, record.table.columns[i]->value(written));
     ++table.rows;
     records.setTable(std::move(table));
     if (!d->everyRow)
@@ -160,12 +162,19 @@ void Recordset::updateRecord() {
         d->keyed = d->base->recordsWithKeys();
     const std::size_t place = locate(records.table, row, d->keyed->table);
     const QVariant key = d->keyed->table.columns.back()->value(place);
-    d->base->update(key, d->edit->columns, d->edit->values);
+    // The keys of a row that somebody else has written since are of no use any more.
+    bool isWritten = false;
+    const ScopeGuard forgetKeys([&] {
+        if (!isWritten)
+            d->keyed.reset();
+    });
+    const Result record = d->base->update(key, d->edit->columns, d->edit->values);
+    isWritten = true;
 
-    const Result record = d->base->record(key);
+    const std::size_t written = record.table.rows - 1;
     store::Table table = records.table;
     for (std::size_t i = 0; i < table.columns.size(); ++i) {
-        const QVariant value = record.table.columns[i]->value(0);
+        const QVariant value = record.table.columns[i]->value(written);
         table.columns[i] = store::withValue(table.columns[i], row, value);
         d->keyed->table.columns[i] = store::withValue(d->keyed->table.columns[i], place, value);
     }

@@ -4,6 +4,8 @@
 
 #include <QDateTime>
 
+#include <limits>
+
 namespace zkp::ado::test {
 
 class EditTest : public AdoTest {
@@ -138,6 +140,33 @@ TEST_F(EditTest, WhatIsNoPlainSelectOfOneTableIsNotUpdatable) {
     EXPECT_EQ(errorNumber([&] { locked->AddNew(); }), kErrNotSupported);
     const auto expression = open("SELECT GenValue || 'x' AS E FROM QRN_Main");
     EXPECT_EQ(errorNumber([&] { expression->Fields().Item(0).setValue(1); }), kErrNotSupported);
+}
+
+TEST_F(EditTest, ATableOfAnAttachedFileIsNotTakenForTheFilesOwn) {
+    run("ATTACH ':memory:' AS side");
+    run("CREATE TABLE side.frms2 (lstCode TEXT)");
+    const auto own = open("SELECT lstCode FROM main.frms2");
+    own->AddNew();
+    own->setCollect(u("lstCode"), u("own"));
+    own->Update();
+    const auto others = open("SELECT lstCode FROM side.frms2");
+    EXPECT_EQ(errorNumber([&] { others->AddNew(); }), kErrNotSupported);
+    EXPECT_EQ(one("SELECT count(*) FROM main.frms2").toInt(), 1);
+}
+
+TEST_F(EditTest, WhatCannotBeReadBackIsNotWritten) {
+    run("CREATE TABLE K (A INTEGER PRIMARY KEY, B INTEGER)");
+    run("INSERT INTO K VALUES (1, 1)");
+    const auto rs = open("SELECT A, B, abs(B) AS C FROM K");
+    const auto lowest = QVariant::fromValue<qlonglong>(std::numeric_limits<qlonglong>::min());
+    rs->setCollect(u("B"), lowest);
+    EXPECT_NE(errorNumber([&] { rs->Update(); }), 0) << "it has no absolute value";
+    rs->CancelUpdate();
+    rs->AddNew();
+    rs->setCollect(u("B"), lowest);
+    EXPECT_NE(errorNumber([&] { rs->Update(); }), 0);
+    rs->CancelUpdate();
+    EXPECT_EQ(one("SELECT sum(B) FROM K").toInt(), 1);
 }
 
 TEST_F(EditTest, AFailedWriteLeavesNothingBehind) {

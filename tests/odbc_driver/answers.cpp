@@ -74,8 +74,12 @@ Answer answerTo(const std::u16string& statement) {
         return oneColumn(u"T", SQL_WVARCHAR, {u'a', char16_t(0xD83D), u'b', char16_t(0xDE00), u'Ω'});
     if (statement == u"long name")
         return oneColumn(std::u16string(128, u'Ω'), SQL_WVARCHAR, u"value");
+    if (statement == u"longer than told")
+        return oneColumn(u"A", SQL_WVARCHAR, std::u16string(101, u'x'), 5'000);
     if (statement.starts_with(u"INSERT"))
         return oneColumn(u"lstCode", SQL_WVARCHAR, u"x");
+    if (statement.starts_with(u"SELECT TOP (2) 1 AS found"))
+        return oneColumn(u"found", SQL_WVARCHAR, u"1");
     if (statement.starts_with(u"UPDATE"))
         return {{}, {}, 0, SIZE_MAX, {}, 1};
     if (statement == u"select * FROM  frms2  WHERE [lstCode] = ?")

@@ -149,12 +149,14 @@ TEST(SqlServer, TemplatesAreWrittenByParameters) {
                            u"VALUES (?,?,?)"_s,
                            u"select * FROM  frms2  WHERE [lstCode] = ?"_s}));
     grid.SaveTemplate({}, u"old"_s);
-    EXPECT_EQ(sent.statements().mid(3),
-              QStringList(
-                  {u"select * from frms2 where lstCode = 'old'"_s,
-                   u"select * , [lstCode] from frms2 where lstCode = 'old'"_s,
-                   u"UPDATE TOP (1) [dbo].[frms2] SET [lstCode]=?,[datein]=?,[ZKP_]=? WHERE [lstCode] = ?"_s,
-                   u"select * FROM  frms2  WHERE [lstCode] = ?"_s}));
+    EXPECT_EQ(
+        sent.statements().mid(3),
+        QStringList(
+            {u"select * from frms2 where lstCode = 'old'"_s,
+             u"select * , [lstCode] from frms2 where lstCode = 'old'"_s,
+             u"SELECT TOP (2) 1 AS found FROM [dbo].[frms2] WITH (UPDLOCK, HOLDLOCK) WHERE [lstCode] = ?"_s,
+             u"UPDATE [dbo].[frms2] SET [lstCode]=?,[datein]=?,[ZKP_]=? WHERE [lstCode] = ?"_s,
+             u"select * FROM  frms2  WHERE [lstCode] = ?"_s}));
 }
 
 TEST(SqlServer, TheStatementsHaveItsGrammar) {

@@ -74,11 +74,15 @@ std::optional<PlainSelect> parsePlainSelect(const QString& statement) {
         return std::nullopt;
 
     std::size_t k = parts.from + 1;
-    if (parts.at(k + 1).isSign(u"."))
+    PlainSelect select;
+    if (parts.at(k + 1).isSign(u".")) {
+        if (!isName(parts.at(k)))
+            return std::nullopt;
+        select.qualifier = nameOf(parts.at(k));
         k += 2;
+    }
     if (!isName(parts.at(k)))
         return std::nullopt;
-    PlainSelect select;
     select.table = nameOf(parts.at(k++));
     const auto ends = [](const Token& token) {
         return token.text.isEmpty() || isOneOf(token, {u"where", u"order", u"limit"});

@@ -8,6 +8,7 @@ namespace zkp::ado::dialect {
 
 /// A select of one table without grouping: each record is one row of the table.
 struct PlainSelect {
+    QString qualifier;  ///< the schema or database before the table's name, without signs; empty for none
     QString table;      ///< without signs
     QString beforeFrom; ///< the statement up to its FROM
     QString fromOn;     ///< FROM and what follows

@@ -5,6 +5,7 @@
 #include "ado/dialect/select_shape.h"
 #include "ado/odbc/fetch.h"
 #include "ado/odbc/read_only.h"
+#include "ado/odbc/table_choice.h"
 #include "ado/odbc/table_keys.h"
 #include "ado/odbc/translate.h"
 #include "base/text.h"
@@ -76,7 +77,7 @@ public:
         return numbered(run(translate(*session_, text).text, {}, {}));
     }
 
-    QVariant insert(const QStringList& columns, const QVariantList& values) override {
+    Result insert(const QStringList& columns, const QVariantList& values) override {
         checkWriting();
         QStringList names;
         QStringList places;
@@ -103,12 +104,12 @@ public:
         const Result key = run(text, values, kindsOf(columns));
         if (key.table.rows != 1)
             throw Error(kErrDatabase, QStringLiteral("The row was not written."), session_->serverName());
+        Result written = record(rowOf(key, 0));
         transaction.commit();
-        known_.push_back(rowOf(key, 0));
-        return static_cast<qlonglong>(known_.size() - 1);
+        return written;
     }
 
-    void update(const QVariant& key, const QStringList& columns, const QVariantList& values) override {
+    Result update(const QVariant& key, const QStringList& columns, const QVariantList& values) override {
         checkWriting();
         QStringList settings;
         for (const QString& column : columns)
@@ -118,26 +119,30 @@ public:
         QVariantList all = values + condition.values;
         std::vector<ColumnKind> kinds = kindsOf(columns);
         kinds.insert(kinds.end(), condition.kinds.begin(), condition.kinds.end());
-        const bool one = !keys_.isExact();
-        const bool top = one && session_->dialect() == Dialect::SqlServer;
-        const bool limit = one && session_->dialect() == Dialect::MariaDb;
-        QString text = QStringLiteral("UPDATE %1%2 SET %3 WHERE %4%5")
-                           .arg(top ? QStringLiteral("TOP (1) ") : QString(), table_, settings.join(u','),
-                                condition.text, limit ? QStringLiteral(" LIMIT 1") : QString());
+        QString text =
+            QStringLiteral("UPDATE %1 SET %2 WHERE %3").arg(table_, settings.join(u','), condition.text);
         // A row that is written gets another place.
         const bool moves = session_->dialect() == Dialect::PostgreSql;
         if (moves)
             text += QStringLiteral(" RETURNING ") + keyItems({});
 
         WriteTransaction transaction(*session_);
-        const QVariantList after = writeOne(text, all, kinds, moves);
+        if (!keys_.isExact())
+            checkOne(condition);
+        const QVariantList returned = writeOne(text, all, kinds, moves);
+        const QVariantList after = moves ? returned : changedKey(known, columns, values);
+        Result written = record(after);
+        if (!isOneRecord(written))
+            throw cannotLocate();
         transaction.commit();
-        known = moves ? after : changedKey(known, columns, values);
+        known = after;
+        return written;
     }
 
-    Result record(const QVariant& key) override {
-        const TableKeys::Condition condition =
-            keys_.conditionFor(known_[static_cast<std::size_t>(key.toLongLong())]);
+private:
+    /// The select list's values of the row with a key; of a row that others look like, with theirs before it.
+    Result record(const QVariantList& key) {
+        const TableKeys::Condition condition = keys_.conditionFor(key);
         const QString text = select_.beforeFrom + QStringLiteral("FROM ") + select_.source +
                              QStringLiteral(" WHERE ") + condition.text;
         Result result = run(translate(*session_, text).text, condition.values, condition.kinds);
@@ -146,7 +151,33 @@ public:
         return result;
     }
 
-private:
+    /// Whether it doesn't matter which of the records is taken.
+    static bool isOneRecord(const Result& result) {
+        for (std::size_t row = 1; row < result.table.rows; ++row) {
+            if (rowOf(result, row) != rowOf(result, 0))
+                return false;
+        }
+        return true;
+    }
+
+    Error cannotLocate() const {
+        return Error(kErrDatabase,
+                     QStringLiteral("Row cannot be located for updating. Some values may have been "
+                                    "changed since it was last read."),
+                     session_->serverName());
+    }
+
+    /// Fails unless the condition finds exactly one row, which nobody else writes before the transaction
+    /// ends.
+    void checkOne(const TableKeys::Condition& condition) {
+        const QString form =
+            session_->dialect() == Dialect::SqlServer
+                ? QStringLiteral("SELECT TOP (2) 1 AS found FROM %1 WITH (UPDLOCK, HOLDLOCK) WHERE %2")
+                : QStringLiteral("SELECT 1 AS found FROM %1 WHERE %2 LIMIT 2 FOR UPDATE");
+        if (run(form.arg(table_, condition.text), condition.values, condition.kinds).table.rows != 1)
+            throw cannotLocate();
+    }
+
     const CatalogueColumn* find(const QString& name) const {
         for (const CatalogueColumn& column : columns_) {
             if (sameName(column.name, name))
@@ -157,7 +188,8 @@ private:
 
     QString qualified(const CatalogueTable& table) const {
         const QString name = quotedName(*session_, table.name);
-        return table.schema.isEmpty() ? name : quotedName(*session_, table.schema) + u'.' + name;
+        const QString& space = session_->dialect() == Dialect::MariaDb ? table.catalogue : table.schema;
+        return space.isEmpty() ? name : quotedName(*session_, space) + u'.' + name;
     }
 
     QStringList fieldColumns() const {
@@ -233,13 +265,15 @@ private:
         session_->setLastStatement(text);
         Statement statement(*session_, options_.timeoutSeconds);
         statement.execute(text, values, kinds);
-        const Result written = returns ? Fetch(statement, {}).run() : Result();
+        // A statement that found nothing has no records to ask for.
+        const bool fetches = returns && statement.rowCount() != 0;
+        const Result written = fetches ? Fetch(statement, {}).run() : Result();
         const SQLLEN rows = returns ? static_cast<SQLLEN>(written.table.rows) : statement.rowCount();
         // MariaDB does not count a row that had these values already.
         const bool unchanged = rows == 0 && session_->dialect() == Dialect::MariaDb;
         if (rows != 1 && !unchanged)
             throw Error(kErrDatabase, QStringLiteral("The row is no longer there."), session_->serverName());
-        return returns ? rowOf(written, 0) : QVariantList();
+        return fetches ? rowOf(written, 0) : QVariantList();
     }
 
     std::shared_ptr<Session> session_;
@@ -259,16 +293,13 @@ std::unique_ptr<BaseTable> openBaseTable(const std::shared_ptr<Session>& session
     auto select = dialect::parsePlainSelect(statement);
     if (!select)
         return nullptr;
-    for (const CatalogueTable& table : readTables(*session)) {
-        if (table.type != QStringLiteral("TABLE") || !sameName(table.name, select->table))
-            continue;
-        auto columns = readColumns(
-            *session, table.schema.isEmpty() ? std::nullopt : std::optional(table.schema), table.name);
-        auto base =
-            std::make_unique<OdbcBaseTable>(session, std::move(*select), options, table, std::move(columns));
-        return base->canFindRows() ? std::move(base) : nullptr;
-    }
-    return nullptr;
+    const auto table = chooseTable(*session, *select);
+    if (!table)
+        return nullptr;
+    auto columns = readColumns(*session, *table);
+    auto base =
+        std::make_unique<OdbcBaseTable>(session, std::move(*select), options, *table, std::move(columns));
+    return base->canFindRows() ? std::move(base) : nullptr;
 }
 
 } // namespace zkp::ado::odbc

@@ -86,6 +86,30 @@ Result columnsResult(Session& session, const std::optional<QString>& table) {
     return rows.finish();
 }
 
+/// Names are patterns for the driver; `isWanted` tells which of the columns found are meant.
+template <class F>
+std::vector<CatalogueColumn> columnsWhere(Session& session, const std::optional<QString>& catalogue,
+                                          const std::optional<QString>& schema,
+                                          const std::optional<QString>& table, F&& isWanted) {
+    const Result result = catalogueCall(session, [&](SQLHSTMT statement) {
+        return SQLColumnsW(statement, wideOrNull(catalogue), SQL_NTS, wideOrNull(schema), SQL_NTS,
+                           wideOrNull(table), SQL_NTS, nullptr, 0);
+    });
+    std::vector<CatalogueColumn> columns;
+    for (std::size_t row = 0; row < result.table.rows; ++row) {
+        const Record record(result, row);
+        if (!isWanted(record))
+            continue;
+        columns.push_back(
+            {record.text(3),
+             record.text(4),
+             {static_cast<SQLSMALLINT>(record.number(5)), static_cast<SQLULEN>(record.number(7)),
+              static_cast<SQLSMALLINT>(record.number(9))},
+             record.number(17)});
+    }
+    return columns;
+}
+
 } // namespace
 
 std::vector<CatalogueTable> readTables(Session& session) {
@@ -104,24 +128,18 @@ std::vector<CatalogueTable> readTables(Session& session) {
 
 std::vector<CatalogueColumn> readColumns(Session& session, const std::optional<QString>& schema,
                                          const std::optional<QString>& table) {
-    const Result result = catalogueCall(session, [&](SQLHSTMT statement) {
-        return SQLColumnsW(statement, nullptr, 0, wideOrNull(schema), SQL_NTS, wideOrNull(table), SQL_NTS,
-                           nullptr, 0);
+    return columnsWhere(session, std::nullopt, schema, table, [&](const Record& record) {
+        return !isServersOwn(record.text(2)) && (!table || sameName(record.text(3), *table));
     });
-    std::vector<CatalogueColumn> columns;
-    for (std::size_t row = 0; row < result.table.rows; ++row) {
-        const Record record(result, row);
-        // The name was a pattern.
-        if (isServersOwn(record.text(2)) || (table && !sameName(record.text(3), *table)))
-            continue;
-        columns.push_back(
-            {record.text(3),
-             record.text(4),
-             {static_cast<SQLSMALLINT>(record.number(5)), static_cast<SQLULEN>(record.number(7)),
-              static_cast<SQLSMALLINT>(record.number(9))},
-             record.number(17)});
-    }
-    return columns;
+}
+
+std::vector<CatalogueColumn> readColumns(Session& session, const CatalogueTable& table) {
+    const auto given = [](const QString& text) {
+        return text.isEmpty() ? std::nullopt : std::optional(text);
+    };
+    return columnsWhere(
+        session, given(table.catalogue), given(table.schema), table.name,
+        [&](const Record& record) { return record.text(2) == table.schema && record.text(3) == table.name; });
 }
 
 QStringList readPrimaryKey(Session& session, const CatalogueTable& table) {

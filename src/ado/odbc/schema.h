@@ -28,6 +28,8 @@ struct CatalogueColumn {
 /// In their order; of every schema where none is given.
 std::vector<CatalogueColumn> readColumns(Session& session, const std::optional<QString>& schema,
                                          const std::optional<QString>& table);
+/// Those of one table.
+std::vector<CatalogueColumn> readColumns(Session& session, const CatalogueTable& table);
 /// The columns of a table's primary key; empty when it has none.
 QStringList readPrimaryKey(Session& session, const CatalogueTable& table);
 

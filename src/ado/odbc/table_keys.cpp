@@ -17,6 +17,11 @@ bool isComparable(const ColumnKind& kind) {
            kind.type != SQL_LONGVARCHAR && kind.type != SQL_WLONGVARCHAR;
 }
 
+bool isText(const ColumnKind& kind) {
+    const int type = publishedType(kind.type);
+    return type == adVarChar || type == adVarWChar;
+}
+
 } // namespace
 
 TableKeys::TableKeys(Session& session, const CatalogueTable& table,
@@ -24,23 +29,32 @@ TableKeys::TableKeys(Session& session, const CatalogueTable& table,
     const QStringList primary = readPrimaryKey(session, table);
     if (primary.isEmpty() && session.dialect() == Dialect::PostgreSql) {
         isPlace_ = true;
-        items_ << QStringLiteral("CAST(ctid AS text)");
+        items_ << QStringLiteral("CAST(ctid AS text)") << QStringLiteral("CAST(xmin AS text)");
         return;
     }
     exact_ = !primary.isEmpty();
+    const bool isMariaDb = session.dialect() == Dialect::MariaDb;
     for (const CatalogueColumn& column : columns) {
         if (exact_ ? !primary.contains(column.name) : !isComparable(column.kind))
             continue;
-        items_ << quotedName(session, column.name);
+        const QString name = quotedName(session, column.name);
+        items_ << name;
         kinds_.push_back(column.kind);
+        // Texts that differ only in case are two rows.
+        compared_ << (isMariaDb && !exact_ && isText(column.kind)
+                          ? QStringLiteral("CONVERT(%1 USING utf8mb4) COLLATE utf8mb4_bin").arg(name)
+                          : name);
     }
-    compared_ = items_;
 }
 
 TableKeys::Condition TableKeys::conditionFor(const QVariantList& key) const {
-    // The place is the server's own text, of digits: "(0,1)".
+    // Both are the server's own texts, of digits: "(0,1)" and "748". Another row may take the place later,
+    // written by another transaction.
     if (isPlace_)
-        return {QStringLiteral("ctid = '%1'").arg(key.value(0).toString()), {}, {}};
+        return {QStringLiteral("ctid = '%1' AND xmin = '%2'")
+                    .arg(key.value(0).toString(), key.value(1).toString()),
+                {},
+                {}};
     Condition condition;
     QStringList parts;
     for (qsizetype i = 0; i < compared_.size(); ++i) {

@@ -5,7 +5,8 @@
 namespace zkp::ado::odbc {
 
 /// How one row of a table is told from the others: by its primary key, by the server's own place of a
-/// row (PostgreSQL), or else by the values of all columns that can be compared exactly.
+/// row and the transaction that wrote it (PostgreSQL), or else by the values of all columns that can be
+/// compared exactly.
 class TableKeys {
 public:
     TableKeys(Session& session, const CatalogueTable& table, const std::vector<CatalogueColumn>& columns);

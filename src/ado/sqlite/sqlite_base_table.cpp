@@ -1,9 +1,9 @@
 #include "ado/sqlite/sqlite_base_table.h"
 
 #include "ado/constants.h"
+#include "ado/dialect/plain_select.h"
 #include "ado/dialect/sqlite_rewrite.h"
 #include "ado/sqlite/field_types.h"
-#include "ado/dialect/plain_select.h"
 #include "ado/sqlite/run.h"
 #include "base/text.h"
 
@@ -58,7 +58,7 @@ public:
         return runStatement(database_, dialect::rewriteForSqlite(sql), {}, options_);
     }
 
-    QVariant insert(const QStringList& columns, const QVariantList& values) override {
+    Result insert(const QStringList& columns, const QVariantList& values) override {
         QStringList names;
         QStringList places;
         for (const QString& column : columns) {
@@ -68,27 +68,19 @@ public:
         const QString what =
             columns.isEmpty() ? QStringLiteral(" DEFAULT VALUES")
                               : QStringLiteral(" (%1) VALUES (%2)").arg(names.join(u','), places.join(u','));
-        write(QStringLiteral("INSERT INTO ") + quoted(select_.table) + what, stored(columns, values));
-        const Turn turn(*database_);
-        return QVariant::fromValue<qlonglong>(sqlite3_last_insert_rowid(database_->handle()));
+        return write(QStringLiteral("INSERT INTO ") + quoted(select_.table) + what, stored(columns, values),
+                     {});
     }
 
-    void update(const QVariant& key, const QStringList& columns, const QVariantList& values) override {
+    Result update(const QVariant& key, const QStringList& columns, const QVariantList& values) override {
         QStringList settings;
         for (const QString& column : columns)
             settings << quoted(columns_.value(nameKey(column)).first) + QStringLiteral("=?");
         QVariantList parameters = stored(columns, values);
         parameters << key;
-        write(QStringLiteral("UPDATE %1 SET %2 WHERE _rowid_=?")
-                  .arg(quoted(select_.table), settings.join(u',')),
-              parameters);
-    }
-
-    Result record(const QVariant& key) override {
-        Result result = runStatement(database_, rowStatement_, {key}, options_);
-        if (result.table.rows != 1)
-            throw Error(kErrDatabase, QStringLiteral("The row is no longer there."));
-        return result;
+        return write(QStringLiteral("UPDATE %1 SET %2 WHERE _rowid_=?")
+                         .arg(quoted(select_.table), settings.join(u',')),
+                     parameters, key);
     }
 
 private:
@@ -103,26 +95,41 @@ private:
         return list;
     }
 
-    /// Writes one row or nothing. A savepoint works inside the host's transaction and outside.
-    void write(const QString& sql, const QVariantList& parameters) {
-        const Turn turn(*database_, Deadline::in(options_.timeoutSeconds));
-        database_->setLastStatement(sql);
-        Statement statement(database_, sql);
-        statement.bind(parameters);
+    /// Writes one row and reads it back, or writes nothing; no key means the new row's. A savepoint works
+    /// inside the host's transaction and outside.
+    Result write(const QString& sql, const QVariantList& parameters, const QVariant& key) {
         database_->execute("SAVEPOINT zkp_write");
         try {
-            while (statement.step()) {
-            }
-            if (sqlite3_changes(database_->handle()) != 1)
-                throw Error(kErrDatabase, QStringLiteral("The row is no longer there."));
-            sqlite3_reset(statement.handle());
+            const qlonglong last = writeOne(sql, parameters);
+            Result written = record(key.isValid() ? key : last);
             database_->execute("RELEASE zkp_write");
+            return written;
         } catch (...) {
-            sqlite3_reset(statement.handle());
+            const Turn turn(*database_);
             sqlite3_exec(database_->handle(), "ROLLBACK TO zkp_write; RELEASE zkp_write", nullptr, nullptr,
                          nullptr);
             throw;
         }
+    }
+
+    /// Gives the number of the row that was added last.
+    qlonglong writeOne(const QString& sql, const QVariantList& parameters) {
+        const Turn turn(*database_, Deadline::in(options_.timeoutSeconds));
+        database_->setLastStatement(sql);
+        Statement statement(database_, sql);
+        statement.bind(parameters);
+        while (statement.step()) {
+        }
+        if (sqlite3_changes(database_->handle()) != 1)
+            throw Error(kErrDatabase, QStringLiteral("The row is no longer there."));
+        return sqlite3_last_insert_rowid(database_->handle());
+    }
+
+    Result record(const QVariant& key) {
+        Result result = runStatement(database_, rowStatement_, {key}, options_);
+        if (result.table.rows != 1)
+            throw Error(kErrDatabase, QStringLiteral("The row is no longer there."));
+        return result;
     }
 
     std::shared_ptr<Database> database_;
@@ -138,7 +145,8 @@ private:
 std::unique_ptr<BaseTable> openBaseTable(const std::shared_ptr<Database>& database, const QString& statement,
                                          const RunOptions& options) {
     auto select = dialect::parsePlainSelect(statement);
-    if (!select)
+    // Writing is for the file itself, not for others attached to it.
+    if (!select || !(select->qualifier.isEmpty() || sameName(select->qualifier, QStringLiteral("main"))))
         return nullptr;
     auto columns = tableColumns(database, select->table);
     if (columns.isEmpty())
