@@ -91,6 +91,14 @@ TEST_F(BadAnswersTest, HalvesOfCharactersBecomeTheSignForAnUnknownOne) {
     EXPECT_EQ(open("halves of characters")->Fields().Item(0).Value().toString(), u"a\uFFFDb\uFFFDΩ"_s);
 }
 
+/// The column says 50 characters, which may take 100 units; this driver can't go back into a block.
+TEST_F(BadAnswersTest, AValueLongerThanItsColumnIsNeitherCutNorTakenFromAnotherRecord) {
+    const Error error = failureOf("longer than told");
+    EXPECT_EQ(error.number(), kErrDatabase);
+    EXPECT_EQ(error.description(), u"A value is longer than its column."_s);
+    EXPECT_EQ(open("vendor type")->RecordCount(), 1);
+}
+
 TEST_F(BadAnswersTest, AFieldNameOf128LettersComesWhole) {
     const QString name(128, u'Ω');
     const auto rs = open("long name");
