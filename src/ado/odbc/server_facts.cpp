@@ -82,6 +82,13 @@ void makePostgresCollation(Session& session) {
                  "'und-u-ks-level2', deterministic = false)");
 }
 
+/// A database of bytes without an encoding has no letters either: its texts compare as they are.
+bool hasLetters(Session& session) {
+    const Result encoding = ask(session, "SHOW server_encoding");
+    const QString name = encoding.table.rows > 0 ? encoding.table.columns[0]->value(0).toString() : QString();
+    return name != QStringLiteral("SQL_ASCII") && name != QStringLiteral("MULE_INTERNAL");
+}
+
 /// An administrator's collation where there is one, so that its indexes are of use, or else one that
 /// lasts as long as the session.
 QString choosePostgresCollation(Session& session) {
@@ -91,6 +98,8 @@ QString choosePostgresCollation(Session& session) {
                      "pg_collation_is_visible(c.oid)");
     if (kept.table.rows > 0)
         return kept.table.columns[0]->value(0).toString() + QStringLiteral(".zkp_text");
+    if (!hasLetters(session))
+        return {};
     try {
         makePostgresCollation(session);
     } catch (const Error& error) {
