@@ -59,8 +59,8 @@ protected:
     GroupFactorFlags flags{state, columns, events};
     int refreshed = 0;
     int menus = 0;
-    HeadingDrag drag{state, columns, properties, flags, surface, host,
-                     {[this] { ++refreshed; }, [this] { ++menus; }}};
+    HeadingDrag drag{
+        state, columns, properties, flags, surface, host, {[this] { ++refreshed; }, [this] { ++menus; }}};
     int answer = kAnswerNo;
     ScriptedHost::Message asked;
 };
@@ -195,6 +195,8 @@ TEST_F(HeadingDragTest, TheViewSeesOneChangeAndAPlainColumnIsDrawnAgain) {
     drag.drop(1, 3);
     EXPECT_EQ(changes, 2) << "the move and the repaint";
     EXPECT_TRUE(surface.Redraw());
+    EXPECT_EQ(surface.Col(), 3) << "the current cell goes along";
+    EXPECT_EQ(menus, 1) << "and the tools with it";
 }
 
 // --- The steps before it

@@ -1,6 +1,7 @@
 #include "ado/odbc/column_types.h"
 
 #include "ado/constants.h"
+#include "ado/field_size.h"
 #include "ado/odbc/wide_text.h"
 
 #include <algorithm>
@@ -62,26 +63,9 @@ Transfer transferOf(int published) {
     }
 }
 
-int definedSizeOf(int published, SQLULEN size, bool isLong) {
-    switch (published) {
-    case adSmallInt:
-    case adBoolean:
-        return 2;
-    case adInteger:
-        return 4;
-    case adDBDate:
-        return 6;
-    case adDBTimeStamp:
-        return 16;
-    case adVarChar:
-    case adVarWChar:
-    case adLongVarBinary:
-        return isLong || size == 0 || size > SQLULEN(std::numeric_limits<int>::max())
-                   ? std::numeric_limits<int>::max()
-                   : static_cast<int>(size);
-    default:
-        return 8;
-    }
+/// 0 where no length is known.
+int lengthOf(SQLULEN size, bool isLong) {
+    return isLong || size > SQLULEN(std::numeric_limits<int>::max()) ? 0 : static_cast<int>(size);
 }
 
 void chooseWidth(ColumnType& column, SQLULEN size, bool isLong) {
@@ -185,7 +169,7 @@ ColumnType describeColumn(const Statement& statement, int column) {
     described.isUtf8 = statement.session().givesUtf8();
     chooseWidth(described, size, isLongType(sqlType));
     described.info = {wideText(name.data(), std::min<int>(length, int(name.size()) - 1)), type,
-                      definedSizeOf(type, size, isLongType(sqlType))};
+                      definedSizeOf(type, lengthOf(size, isLongType(sqlType)))};
     return described;
 }
 

@@ -1,11 +1,10 @@
 #include "ado/sqlite/field_types.h"
 
 #include "ado/constants.h"
+#include "ado/field_size.h"
 
 #include <QHash>
 #include <QLatin1String>
-
-#include <limits>
 
 namespace zkp::ado::sqlite {
 
@@ -126,23 +125,7 @@ Declared declaredType(const char* words) {
 }
 
 int definedSize(const Declared& declared, int type) {
-    switch (type) {
-    case adSmallInt:
-    case adBoolean:
-        return 2;
-    case adInteger:
-        return 4;
-    case adDBDate:
-        return 6;
-    case adDBTimeStamp:
-        return 16;
-    case adVarChar:
-    case adVarWChar:
-    case adLongVarBinary:
-        return declared.size > 0 ? declared.size : std::numeric_limits<int>::max();
-    default:
-        return 8;
-    }
+    return definedSizeOf(type, declared.size);
 }
 
 FieldInfo fieldInfo(const QString& name, const Declared& declared, const store::ColumnBuilder& values) {
