@@ -1,6 +1,6 @@
 #include "ado/connection.h"
 
-#include "ado/dialect/tokenizer.h"
+#include "ado/dialect/split_statements.h"
 #include "ado/odbc/odbc_provider.h"
 #include "ado/recordset.h"
 #include "ado/sqlite/sqlite_provider.h"
@@ -130,8 +130,7 @@ Provider& Connection::provider() {
 }
 
 std::unique_ptr<ResultStream> Connection::start(const QString& text, Statements statements) {
-    provider();
-    std::vector<QString> parts = dialect::splitStatements(text);
+    std::vector<QString> parts = dialect::splitStatements(text, provider().dialect());
     if (parts.empty())
         throw Error(kErrBadStatement, QStringLiteral("Command text was not set for the command object."));
     if (statements == Statements::One && parts.size() > 1)

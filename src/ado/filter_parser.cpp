@@ -19,7 +19,7 @@ public:
     FilterParser(const QString& text, const Records& records)
         : text_(text)
         , records_(records) {
-        for (const Token& token : dialect::tokenize(text_)) {
+        for (const Token& token : dialect::tokenize(text_, dialect::Dialect::Sqlite)) {
             if (token.kind != TokenKind::Space)
                 tokens_.push_back(token);
         }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ado/dialect/dialect.h"
 #include "store/table.h"
 
 #include <QString>
@@ -64,6 +65,8 @@ public:
 class Provider {
 public:
     virtual ~Provider() = default;
+    /// Whose words its statements are sent in.
+    virtual dialect::Dialect dialect() const = 0;
 
     /// Starts one statement, in the words of the report builders: what this database needs to
     /// understand it is done here.

@@ -25,7 +25,7 @@ struct SortKey {
 
 std::vector<SortKey> parseOrder(const QString& order, const Records& records) {
     std::vector<Token> tokens;
-    for (const Token& token : dialect::tokenize(order)) {
+    for (const Token& token : dialect::tokenize(order, dialect::Dialect::Sqlite)) {
         if (token.kind != TokenKind::Space)
             tokens.push_back(token);
     }

@@ -69,16 +69,16 @@ std::optional<Result> TextStream::next() {
         if (started_ == statements_.size())
             return std::nullopt;
         const QString& statement = statements_[started_++];
-        if (auto result = callRegistered(statement))
+        if (auto result = callRegistered(statement, provider_->dialect()))
             return result;
         current_ = provider_->start(statement, options_);
     }
 }
 
-std::optional<Result> TextStream::callRegistered(const QString& statement) const {
+std::optional<Result> TextStream::callRegistered(const QString& statement, dialect::Dialect dialect) const {
     if (procedures_.isEmpty())
         return std::nullopt;
-    const auto call = dialect::parseExec(statement);
+    const auto call = dialect::parseExec(statement, dialect);
     if (!call)
         return std::nullopt;
     const auto function = procedures_.constFind(nameKey(call->name));

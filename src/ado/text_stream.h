@@ -18,7 +18,7 @@ public:
     std::optional<Result> next() override;
 
 private:
-    std::optional<Result> callRegistered(const QString& statement) const;
+    std::optional<Result> callRegistered(const QString& statement, dialect::Dialect dialect) const;
 
     std::shared_ptr<Provider> provider_;
     Procedures procedures_;

@@ -61,8 +61,7 @@ TEST(ReadOnlyServer, OnlyTemplatesAndSettingsAreWritten) {
               "SELECT * INTO X FROM T", "with a as (delete from T returning *) select * from a",
               "TRUNCATE TABLE frms", "create table X (a int)", "UPDATE frms, T SET T.A = 1",
               "UPDATE frms JOIN T SET T.A = 1", "DELETE frms, T FROM frms JOIN T",
-              "DELETE FROM frms USING frms JOIN T", "SELECT 1 /* /* */ ' */ DELETE FROM T --'",
-              "exec ('DROP TABLE T')"})
+              "DELETE FROM frms USING frms JOIN T", "exec ('DROP TABLE T')"})
             EXPECT_EQ(readingOf(u(refused), dialect), Reading::Refused) << refused;
     }
 }
@@ -77,17 +76,37 @@ TEST(ReadOnlyServer, SqlServerTakesAnotherStatementWithoutASign) {
     EXPECT_EQ(readingOf(u("SELECT backup FROM T"), Dialect::PostgreSql), Reading::Reads);
 }
 
-TEST(ReadOnlyServer, WhatAServerReadsOtherwiseIsRefused) {
+TEST(ReadOnlyServer, WordsCountWhereTheServerReadsThem) {
     for (const char* refused :
-         {"SELECT $$'$$; DELETE FROM T; --'", "SELECT $a$'$a$", "SELECT 1$$'$$", "SELECT @$$'$$",
-          "SELECT E'\\''; DELETE FROM T; --'", "SELECT 1e'\\''", "SELECT 1 -- '\r; DELETE FROM T --'",
-          "SELECT set_config('a','off',false)", "SELECT pg_catalog.\"set_config\"('a','off',false)"})
+         {"SELECT $$'$$; DELETE FROM T; --'", "SELECT E'\\''; DELETE FROM T; --'",
+          "SELECT E'a'\n'\\''; DELETE FROM T; --'", "SELECT 1 -- '\r; DELETE FROM T --'",
+          "SELECT 1 /* /* */ ' */ DELETE FROM T --'", "SELECT 1INTO T", "DO $$BEGIN DELETE FROM T; END$$",
+          "SELECT \u00A0$$; DELETE FROM T; --$$", "SELECT set_config('a','off',false)",
+          "SELECT pg_catalog.\"set_config\"('a','off',false)",
+          "SELECT U&\"\\0073et_config\"('a','off',false)",
+          "SELECT U&\"!0073et_config\" UESCAPE '!' ('a','off',false)"})
         EXPECT_EQ(readingOf(u(refused), Dialect::PostgreSql), Reading::Refused) << refused;
-    for (const char* read : {"SELECT a$b FROM T", "SELECT date'2026-01-01'", "SELECT 1 -- '\r\n"})
+    for (const char* read :
+         {"SELECT a$b FROM T", "SELECT date'2026-01-01'", "SELECT 1 -- '\r\n", "SELECT $$it's; delete$$",
+          "SELECT E'it\\'s; delete' AS [a]", "SELECT a[2], ARRAY[10,20] FROM T",
+          "SELECT 1 /* delete /* it's */ ' */", "/*! it's */ SELECT 1"})
         EXPECT_EQ(readingOf(u(read), Dialect::PostgreSql), Reading::Reads) << read;
+}
+
+TEST(ReadOnlyServer, AlsoWhereOtherServersReadThem) {
     for (const char* refused : {"/*! SET SESSION tx_read_only = ( */ SELECT 0 /*! ) */", "SELECT 1 /*M! */",
-                                "SELECT 1 --1", "SELECT 1 # it's\n"})
+                                "SELECT 1 --'-- '; DELETE FROM T", "SELECT 1 # '\n; DELETE FROM T # '\n",
+                                "SELECT 1.5INTO OUTFILE 'x'"})
         EXPECT_EQ(readingOf(u(refused), Dialect::MariaDb), Reading::Refused) << refused;
+    for (const char* read :
+         {"SELECT 1 --1", "SELECT 1 --'\n; DELETE FROM T --'\n", "SELECT 1 # it's; delete [x]\n",
+          "SELECT 1 /*m! delete */", "SELECT 1 /* /* */ ' */ delete'"})
+        EXPECT_EQ(readingOf(u(read), Dialect::MariaDb), Reading::Reads) << read;
+    for (const char* refused :
+         {"SELECT 1 /* /* */ ' */ DELETE FROM T --'", "SELECT 1 -- '\r DELETE FROM T --'",
+          "SELECT 1DROP TABLE T", "SELECT 1eDROP TABLE T"})
+        EXPECT_EQ(readingOf(u(refused), Dialect::SqlServer), Reading::Refused) << refused;
+    EXPECT_EQ(readingOf(u("SELECT [a]]'; delete] FROM T -- '\r\n"), Dialect::SqlServer), Reading::Reads);
 }
 
 class OdbcFailureTest : public testing::Test {};

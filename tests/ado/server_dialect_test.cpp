@@ -145,7 +145,8 @@ TEST(MariaDbDialect, TheOtherWordsOfTheBuilders) {
 }
 
 TEST(SelectShape, ItemsTellTheirColumns) {
-    EXPECT_EQ(dialect::sourceColumns(dialect::tokenize(u("SELECT *, T.A, B AS C, D+1, [E F] FROM T"))),
+    EXPECT_EQ(dialect::sourceColumns(dialect::tokenize(u("SELECT *, T.A, B AS C, D+1, [E F] FROM T"),
+                                                       dialect::Dialect::SqlServer)),
               QStringList({u("*"), u("A"), u("B"), u(""), u("E F")}));
 }
 

@@ -75,10 +75,7 @@ TEST_P(ServerReadingTest, WordsForAnotherTableAreRefused) {
     const auto reader = connect("", adModeRead);
     QStringList statements{u("UPDATE frms2, ZT_READ SET ZT_READ.A = 77"),
                            u("DELETE frms2, ZT_READ FROM frms2 JOIN ZT_READ")};
-    if (isPostgres())
-        statements << u("SELECT $$'$$ AS A; DELETE FROM ZT_READ; --'")
-                   << u("SELECT E'\\'' AS A; DELETE FROM ZT_READ; --'");
-    else
+    if (!isPostgres())
         statements << u("/*! SET SESSION tx_read_only = ( */ SELECT 0 /*! ) */");
     for (const QString& statement : statements) {
         const Error error = errorOf([&] { reader->Execute(statement); });

@@ -27,7 +27,7 @@ bool isReserved(const Token& token) {
 } // namespace
 
 SqlServerGrammar::SqlServerGrammar(const QString& statement)
-    : tokens_(ado::dialect::tokenize(statement)) {
+    : tokens_(ado::dialect::tokenize(statement, ado::dialect::Dialect::SqlServer)) {
     std::erase_if(tokens_, [](const Token& token) { return token.kind == TokenKind::Space; });
 }
 

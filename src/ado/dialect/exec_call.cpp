@@ -9,9 +9,9 @@ namespace {
 
 class ExecParser {
 public:
-    explicit ExecParser(const QString& statement)
+    ExecParser(const QString& statement, Dialect dialect)
         : statement_(statement) {
-        for (const Token& token : tokenize(statement_)) {
+        for (const Token& token : tokenize(statement_, dialect)) {
             if (token.kind != TokenKind::Space)
                 tokens_.push_back(token);
         }
@@ -96,8 +96,8 @@ private:
 
 } // namespace
 
-std::optional<ExecCall> parseExec(const QString& statement) {
-    return ExecParser(statement).parse();
+std::optional<ExecCall> parseExec(const QString& statement, Dialect dialect) {
+    return ExecParser(statement, dialect).parse();
 }
 
 } // namespace zkp::ado::dialect

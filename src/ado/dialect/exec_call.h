@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ado/dialect/dialect.h"
+
 #include <QString>
 #include <QVariantList>
 
@@ -14,6 +16,6 @@ struct ExecCall {
 };
 
 /// Nothing when the statement is not a call. Error kErrBadStatement for a call that can't be read.
-std::optional<ExecCall> parseExec(const QString& statement);
+std::optional<ExecCall> parseExec(const QString& statement, Dialect dialect);
 
 } // namespace zkp::ado::dialect

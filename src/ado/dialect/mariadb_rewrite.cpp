@@ -16,7 +16,7 @@ QString quoted(const QString& name) {
 class MariaDbRewriter : public Rewriter {
 public:
     MariaDbRewriter(const QString& statement, const ServerFacts& server)
-        : MariaDbRewriter(statement, server, server.names(tokenize(statement))) {}
+        : MariaDbRewriter(statement, server, server.names(tokenize(statement, Dialect::MariaDb))) {}
 
     QString rewrite() {
         datesToIso();
@@ -36,9 +36,9 @@ public:
 
 private:
     MariaDbRewriter(const QString& statement, const ServerFacts& server, StatementNames names)
-        : Rewriter(statement)
+        : Rewriter(statement, Dialect::MariaDb)
         , server_(server)
-        , tokens_(tokenize(statement))
+        , tokens_(tokenize(statement, Dialect::MariaDb))
         , names_(std::move(names)) {}
 
     /// The server's usual collations take accents for nothing and a text with blanks at its end for the
@@ -93,9 +93,9 @@ private:
 } // namespace
 
 Rewritten rewriteForMariaDb(const QString& statement, const ServerFacts& server) {
-    if (const auto call = parseExec(statement))
+    if (const auto call = parseExec(statement, Dialect::MariaDb))
         return {QStringLiteral("CALL %1(%2)").arg(quoted(call->name), argumentTexts(*call)), {}};
-    return {MariaDbRewriter(statement, server).rewrite(), outputNames(tokenize(statement))};
+    return {MariaDbRewriter(statement, server).rewrite(), outputNames(tokenize(statement, Dialect::MariaDb))};
 }
 
 } // namespace zkp::ado::dialect

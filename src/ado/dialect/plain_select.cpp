@@ -62,8 +62,8 @@ bool isName(const Token& token) {
 
 } // namespace
 
-std::optional<PlainSelect> parsePlainSelect(const QString& statement) {
-    Parts parts{tokenize(statement), {}, 0};
+std::optional<PlainSelect> parsePlainSelect(const QString& statement, Dialect dialect) {
+    Parts parts{tokenize(statement, dialect), {}, 0};
     for (std::size_t i = 0; i < parts.tokens.size(); ++i) {
         if (parts.tokens[i].kind != TokenKind::Space)
             parts.solid.push_back(i);

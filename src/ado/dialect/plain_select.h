@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ado/dialect/dialect.h"
+
 #include <QString>
 
 #include <optional>
@@ -16,6 +18,6 @@ struct PlainSelect {
 };
 
 /// Nothing when the statement is anything else.
-std::optional<PlainSelect> parsePlainSelect(const QString& statement);
+std::optional<PlainSelect> parsePlainSelect(const QString& statement, Dialect dialect);
 
 } // namespace zkp::ado::dialect

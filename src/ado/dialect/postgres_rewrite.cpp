@@ -44,7 +44,7 @@ bool isKeyword(const Token& token) {
 class PostgresRewriter : public Rewriter {
 public:
     PostgresRewriter(const QString& statement, const ServerFacts& server)
-        : PostgresRewriter(statement, server, server.names(tokenize(statement))) {}
+        : PostgresRewriter(statement, server, server.names(tokenize(statement, Dialect::PostgreSql))) {}
 
     QString rewrite() {
         datesToIso();
@@ -70,9 +70,9 @@ public:
 
 private:
     PostgresRewriter(const QString& statement, const ServerFacts& server, StatementNames names)
-        : Rewriter(statement)
+        : Rewriter(statement, Dialect::PostgreSql)
         , server_(server)
-        , tokens_(tokenize(statement))
+        , tokens_(tokenize(statement, Dialect::PostgreSql))
         , names_(std::move(names)) {}
 
     /// The collation is asked for only when something is compared; asking can be a round trip.
@@ -221,12 +221,13 @@ private:
 } // namespace
 
 Rewritten rewriteForPostgres(const QString& statement, const ServerFacts& server) {
-    if (const auto call = parseExec(statement)) {
-        const StatementNames names = server.names(tokenize(statement));
+    if (const auto call = parseExec(statement, Dialect::PostgreSql)) {
+        const StatementNames names = server.names(tokenize(statement, Dialect::PostgreSql));
         const QString name = names.spelling.value(nameKey(call->name), folded(call->name));
         return {QStringLiteral("SELECT * FROM %1(%2)").arg(quoted(name), argumentTexts(*call)), {}};
     }
-    return {PostgresRewriter(statement, server).rewrite(), outputNames(tokenize(statement))};
+    return {PostgresRewriter(statement, server).rewrite(),
+            outputNames(tokenize(statement, Dialect::PostgreSql))};
 }
 
 } // namespace zkp::ado::dialect

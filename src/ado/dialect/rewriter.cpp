@@ -24,9 +24,9 @@ bool isUniqueKey(QStringView text) {
 
 } // namespace
 
-Rewriter::Rewriter(const QString& statement)
+Rewriter::Rewriter(const QString& statement, Dialect dialect)
     : statement_(statement)
-    , tokens_(tokenize(statement_)) {
+    , tokens_(tokenize(statement_, dialect)) {
     for (std::size_t i = 0; i < tokens_.size(); ++i) {
         written_.push_back(tokens_[i].text.toString());
         const bool national =

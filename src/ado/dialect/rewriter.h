@@ -10,7 +10,7 @@ namespace zkp::ado::dialect {
 /// Places count the tokens that are no space. The statement must outlive it.
 class Rewriter {
 public:
-    explicit Rewriter(const QString& statement);
+    Rewriter(const QString& statement, Dialect dialect);
 
     /// The statement as it was when no step changed anything.
     QString text() const { return changed_ ? written_.join(QString()) : statement_; }

@@ -34,7 +34,7 @@ std::vector<Item> itemsUpTo(const std::vector<Token>& tokens, std::size_t& at, F
         const Token& token = tokens[at];
         if (depth == 0 && ends(token))
             break;
-        depth += token.isSign(u"(") ? 1 : token.isSign(u")") ? -1 : 0;
+        depth += token.nesting();
         if (depth < 0)
             break;
         if (depth == 0 && token.isSign(u","))
@@ -90,7 +90,7 @@ bool sameText(const Item& a, const Item& b) {
 std::size_t behindGroupBy(const std::vector<Token>& tokens, std::size_t at) {
     int depth = 0;
     for (; at + 1 < tokens.size(); ++at) {
-        depth += tokens[at].isSign(u"(") ? 1 : tokens[at].isSign(u")") ? -1 : 0;
+        depth += tokens[at].nesting();
         if (depth == 0 && tokens[at].isWord(u"group") && tokens[at + 1].isWord(u"by"))
             return at + 2;
     }

@@ -8,7 +8,8 @@ namespace {
 
 class SqliteRewriter : public Rewriter {
 public:
-    using Rewriter::Rewriter;
+    explicit SqliteRewriter(const QString& statement)
+        : Rewriter(statement, Dialect::Sqlite) {}
 
     QString rewrite() {
         const bool answered = isAnswered();

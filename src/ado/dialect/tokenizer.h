@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ado/dialect/dialect.h"
+
 #include <QString>
 #include <QStringView>
 
@@ -8,12 +10,14 @@
 namespace zkp::ado::dialect {
 
 enum class TokenKind {
-    Space, ///< blanks, line ends and comments
-    Word,  ///< a bare name or keyword
-    Name,  ///< [name], "name" or `name`, with its signs
-    Text,  ///< a constant in apostrophes, with them
+    Space,    ///< blanks, line ends and comments
+    Word,     ///< a bare name or keyword
+    Name,     ///< [name], "name" or `name`, with its signs
+    Text,     ///< a constant in apostrophes, with them
+    Constant, ///< a text in a form of the server's own, which stays as it is: E'…' and $$…$$ of PostgreSQL
     Number,
-    Sign, ///< one operator (two characters where they belong together) or any other character
+    Sign, ///< one operator (two characters where they belong together), any other character, or a comment
+          ///< that MariaDB executes
 };
 
 /// A piece of a statement; the pieces of a text follow each other without a gap.
@@ -25,19 +29,20 @@ struct Token {
         return kind == TokenKind::Word && text.compare(word, Qt::CaseInsensitive) == 0;
     }
     bool isSign(QStringView sign) const { return kind == TokenKind::Sign && text == sign; }
+    /// A comment like /*! … */, which a server executes or skips by its version.
+    bool isExecutableComment() const { return kind == TokenKind::Sign && text.startsWith(u"/*"); }
+    /// 1 for a bracket that opens, -1 for one that closes.
+    int nesting() const { return isSign(u"(") || isSign(u"[") ? 1 : isSign(u")") || isSign(u"]") ? -1 : 0; }
 };
 
-/// Cuts a statement into tokens that refer to the given text. Takes any text: a constant or name
-/// without an end goes to the end of the text.
-std::vector<Token> tokenize(QStringView statement);
+/// Cuts a statement into tokens that refer to the given text, as the server of the dialect reads it; names in
+/// square brackets are names for every server. Takes any text: a constant or name without an end goes to the
+/// end of the text.
+std::vector<Token> tokenize(QStringView statement, Dialect dialect);
 
 /// The text of a Text token: without apostrophes, doubled ones single.
 QString textOf(const Token& token);
 /// A name without its signs, also for a Word.
 QString nameOf(const Token& token);
-
-/// The statements of a text, cut at each ";" outside constants, names, comments and the body of a
-/// trigger or routine; pieces of nothing but blanks and comments are left out.
-std::vector<QString> splitStatements(const QString& text);
 
 } // namespace zkp::ado::dialect

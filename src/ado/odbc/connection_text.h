@@ -1,13 +1,14 @@
 #pragma once
 
+#include "ado/dialect/dialect.h"
+
 #include <QString>
 
 #include <optional>
 
 namespace zkp::ado::odbc {
 
-/// Which words a server understands.
-enum class Dialect { SqlServer, PostgreSql, MariaDb };
+using dialect::Dialect;
 
 /// A host's connection string: what goes to the driver manager, and what is ours.
 struct ConnectionText {

@@ -194,7 +194,8 @@ private:
 
     QStringList fieldColumns() const {
         QStringList fields;
-        for (const QString& column : dialect::sourceColumns(dialect::tokenize(select_.beforeFrom + u' '))) {
+        for (const QString& column :
+             dialect::sourceColumns(dialect::tokenize(select_.beforeFrom + u' ', session_->dialect()))) {
             if (column != QStringLiteral("*")) {
                 const CatalogueColumn* found = column.isEmpty() ? nullptr : find(column);
                 fields << (found ? found->name : QString());
@@ -290,7 +291,7 @@ private:
 
 std::unique_ptr<BaseTable> openBaseTable(const std::shared_ptr<Session>& session, const QString& statement,
                                          const RunOptions& options) {
-    auto select = dialect::parsePlainSelect(statement);
+    auto select = dialect::parsePlainSelect(statement, session->dialect());
     if (!select)
         return nullptr;
     const auto table = chooseTable(*session, *select);

@@ -13,14 +13,14 @@ namespace zkp::ado::odbc {
 
 namespace {
 
-bool changesNames(const QString& statement) {
-    const std::vector<dialect::Token> tokens = dialect::tokenize(statement);
+bool changesNames(const QString& statement, Dialect dialect) {
+    const std::vector<dialect::Token> tokens = dialect::tokenize(statement, dialect);
     const auto has = [&tokens](QStringView word) {
         return std::any_of(tokens.begin(), tokens.end(),
                            [word](const dialect::Token& token) { return token.isWord(word); });
     };
-    // An INSERT INTO makes no table, a SELECT INTO does.
-    return has(u"create") || has(u"alter") || has(u"drop") || has(u"rename") ||
+    // An INSERT INTO makes no table, a SELECT INTO does; what a DO does stands in a constant.
+    return has(u"do") || has(u"create") || has(u"alter") || has(u"drop") || has(u"rename") ||
            (has(u"into") && !has(u"insert"));
 }
 
@@ -59,7 +59,7 @@ std::unique_ptr<ResultStream> OdbcProvider::start(const QString& statement, cons
     if (reading == Reading::Refused)
         refuseWriting();
     dialect::Rewritten sent = translate(*session_, statement);
-    if (changesNames(statement))
+    if (changesNames(statement, session_->dialect()))
         session_->forgetCatalogue();
     auto stream = std::make_unique<StatementStream>(session_, std::move(sent.text),
                                                     std::move(sent.outputNames), options);

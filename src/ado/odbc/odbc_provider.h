@@ -10,6 +10,7 @@ class OdbcProvider final : public Provider {
 public:
     OdbcProvider(const QString& connectionString, bool readOnly);
 
+    Dialect dialect() const override { return session_->dialect(); }
     std::unique_ptr<ResultStream> start(const QString& statement, const RunOptions& options) override;
     QString lastStatementSent() const override;
     bool isLost() const override;

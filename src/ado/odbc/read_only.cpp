@@ -1,7 +1,6 @@
 #include "ado/odbc/read_only.h"
 
 #include "ado/dialect/tokenizer.h"
-#include "ado/odbc/server_reading.h"
 #include "base/error.h"
 #include "base/text.h"
 
@@ -73,6 +72,12 @@ bool beginsAnother(const Token& token) {
                     u"use",    u"writetext", u"updatetext", u"reconfigure"});
 }
 
+/// A function that can let PostgreSQL's session write, or a name like U&"\0073et" that can be anything.
+bool setsConfiguration(const Token& token) {
+    const QString name = isName(token) ? nameKey(dialect::nameOf(token)) : QString();
+    return name == u"SET_CONFIG" || name == u"UESCAPE" || name.contains(u'\\');
+}
+
 /// Whether a server does more than the first words say.
 bool doesMore(const std::vector<Token>& tokens, std::size_t from, Dialect dialect) {
     // A text that is run.
@@ -83,12 +88,21 @@ bool doesMore(const std::vector<Token>& tokens, std::size_t from, Dialect dialec
         case Dialect::SqlServer:
             return beginsAnother(token);
         case Dialect::PostgreSql:
-            return isName(token) && nameKey(dialect::nameOf(token)) == u"SET_CONFIG";
+            return setsConfiguration(token);
         default:
             return false;
         }
     };
     return std::any_of(tokens.begin() + static_cast<std::ptrdiff_t>(from), tokens.end(), does);
+}
+
+/// Whether servers differ in where statement begins: what MariaDB executes depends on its version, and
+/// whether a mere carriage return ends SQL Server's comments was never tried.
+bool mayBeReadOtherwise(const Token& token, Dialect dialect) {
+    const QStringView text = token.text;
+    const bool isComment = token.kind == dialect::TokenKind::Space && text.contains(u"--");
+    return token.isExecutableComment() ||
+           (isComment && dialect == Dialect::SqlServer && text.count(u'\r') != text.count(u"\r\n"));
 }
 
 } // namespace
@@ -99,8 +113,9 @@ bool isWritableReadOnly(const QString& table) {
 }
 
 Reading readingOf(const QString& statement, Dialect dialect) {
-    std::vector<Token> tokens = dialect::tokenize(statement);
-    if (mayBeReadOtherwise(tokens, dialect))
+    std::vector<Token> tokens = dialect::tokenize(statement, dialect);
+    if (std::any_of(tokens.begin(), tokens.end(),
+                    [dialect](const Token& token) { return mayBeReadOtherwise(token, dialect); }))
         return Reading::Refused;
     std::erase_if(tokens, [](const Token& token) { return token.kind == dialect::TokenKind::Space; });
     if (tokens.empty())

@@ -24,7 +24,9 @@ QString nameAsKept(Session& session, const QString& name) {
         return name;
     const QString quoted = u'[' + name + u']';
     const QString usual = session.dialect() == Dialect::PostgreSql ? name.toLower() : name;
-    return session.catalogue().namesIn(dialect::tokenize(quoted)).spelling.value(nameKey(name), usual);
+    return session.catalogue()
+        .namesIn(dialect::tokenize(quoted, session.dialect()))
+        .spelling.value(nameKey(name), usual);
 }
 
 QString quotedName(const Session& session, const QString& name) {

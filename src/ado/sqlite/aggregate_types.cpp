@@ -41,7 +41,7 @@ std::vector<Token> withoutSpaces(const std::vector<Token>& tokens) {
 } // namespace
 
 QString withBareColumns(const QString& sql) {
-    const std::vector<Token> tokens = withoutSpaces(dialect::tokenize(sql));
+    const std::vector<Token> tokens = withoutSpaces(dialect::tokenize(sql, dialect::Dialect::Sqlite));
     if (tokens.empty() || !tokens.front().isWord(u"select"))
         return {};
     QStringList words;

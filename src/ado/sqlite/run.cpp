@@ -12,7 +12,7 @@ namespace {
 void checkWriting(const Database& database, const Statement& statement, const QString& sql) {
     if (!database.isReadOnly() || sqlite3_stmt_readonly(statement.handle()) != 0)
         return;
-    for (const dialect::Token& token : dialect::tokenize(sql)) {
+    for (const dialect::Token& token : dialect::tokenize(sql, dialect::Dialect::Sqlite)) {
         for (const QStringView word : {u"insert", u"update", u"delete", u"replace", u"with"}) {
             if (token.isWord(word))
                 return;

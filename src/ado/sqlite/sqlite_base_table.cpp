@@ -144,7 +144,7 @@ private:
 
 std::unique_ptr<BaseTable> openBaseTable(const std::shared_ptr<Database>& database, const QString& statement,
                                          const RunOptions& options) {
-    auto select = dialect::parsePlainSelect(statement);
+    auto select = dialect::parsePlainSelect(statement, dialect::Dialect::Sqlite);
     // Writing is for the file itself, not for others attached to it.
     if (!select || !(select->qualifier.isEmpty() || sameName(select->qualifier, QStringLiteral("main"))))
         return nullptr;

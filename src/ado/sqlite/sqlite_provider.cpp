@@ -1,8 +1,8 @@
 #include "ado/sqlite/sqlite_provider.h"
 
 #include "ado/dialect/exec_call.h"
+#include "ado/dialect/split_statements.h"
 #include "ado/dialect/sqlite_rewrite.h"
-#include "ado/dialect/tokenizer.h"
 #include "ado/sqlite/run.h"
 #include "ado/sqlite/schema.h"
 #include "ado/sqlite/sqlite_base_table.h"
@@ -37,9 +37,9 @@ SqliteProvider::SqliteProvider(const QString& file, bool readOnly)
 std::unique_ptr<ResultStream> SqliteProvider::start(const QString& statement, const RunOptions& options) {
     QVariantList parameters;
     std::vector<QString> texts{statement};
-    if (const auto call = dialect::parseExec(statement)) {
+    if (const auto call = dialect::parseExec(statement, dialect())) {
         parameters = call->arguments;
-        texts = dialect::splitStatements(procedureText(database_, call->name));
+        texts = dialect::splitStatements(procedureText(database_, call->name), dialect());
     }
     for (QString& text : texts)
         text = dialect::rewriteForSqlite(text);

@@ -10,6 +10,7 @@ class SqliteProvider final : public Provider {
 public:
     SqliteProvider(const QString& file, bool readOnly);
 
+    dialect::Dialect dialect() const override { return dialect::Dialect::Sqlite; }
     std::unique_ptr<ResultStream> start(const QString& statement, const RunOptions& options) override;
     QString lastStatementSent() const override;
     void begin() override;

@@ -1,0 +1,79 @@
+#include "ado/dialect/split_statements.h"
+
+#include "ado/dialect/tokenizer.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <utility>
+
+namespace zkp::ado::dialect {
+
+namespace {
+
+/// Follows the words of a statement that creates a trigger or routine, whose body holds statements that
+/// end in ";".
+class BodyWatch {
+public:
+    void see(const Token& token) {
+        if (words_++ == 0)
+            creates_ = token.isWord(u"create");
+        else if (words_ <= 5 && isOneOf(token, {u"trigger", u"procedure", u"function"}))
+            hasBody_ = creates_;
+        if (hasBody_)
+            follow(token);
+    }
+    bool isInBody() const { return hasBody_ && depth_ > 0; }
+
+private:
+    static bool isOneOf(const Token& token, std::initializer_list<QStringView> words) {
+        return std::any_of(words.begin(), words.end(), [&](QStringView word) { return token.isWord(word); });
+    }
+    /// "END IF" closes what was not counted, and the CASE of "END CASE" opens none.
+    void follow(const Token& token) {
+        const bool behindEnd = std::exchange(behindEnd_, token.isWord(u"end"));
+        if (behindEnd_)
+            --depth_;
+        else if (token.isWord(u"begin") || (token.isWord(u"case") && !behindEnd))
+            ++depth_;
+        else if (behindEnd && isOneOf(token, {u"if", u"loop", u"while", u"repeat", u"for"}))
+            ++depth_;
+    }
+
+    int words_ = 0;
+    int depth_ = 0;
+    bool creates_ = false;
+    bool hasBody_ = false;
+    bool behindEnd_ = false;
+};
+
+} // namespace
+
+std::vector<QString> splitStatements(const QString& text, Dialect dialect) {
+    std::vector<QString> statements;
+    qsizetype start = 0;
+    qsizetype at = 0;
+    bool empty = true;
+    BodyWatch body;
+    const auto close = [&](qsizetype end) {
+        if (!empty)
+            statements.push_back(text.mid(start, end - start));
+        empty = true;
+        body = {};
+    };
+    const std::vector<Token> tokens = tokenize(text, dialect);
+    for (const Token& token : tokens) {
+        const bool ends = token.isSign(u";") && !body.isInBody();
+        if (ends) {
+            close(at);
+            start = at + 1;
+        } else if (token.kind != TokenKind::Space) {
+            empty = false;
+            body.see(token);
+        }
+        at += token.text.size();
+    }
+    close(text.size());
+    return statements;
+}
+
+} // namespace zkp::ado::dialect
