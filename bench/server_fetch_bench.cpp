@@ -28,7 +28,7 @@ constexpr char kPlain[] = "SELECT * FROM ZB_POLICIES";
 constexpr char kTotals[] =
     "SELECT BRANCH, PRODUCT, Count(*) As Cnt, Sum(NET) As SUM_NET, Sum(TAX) As SUM_TAX "
     "FROM ZB_POLICIES Group By BRANCH, PRODUCT";
-constexpr std::size_t kBlock = 1024;
+constexpr std::size_t kBlock = 256;
 constexpr int kColumns = 10;
 
 std::uint64_t touched = 0;

@@ -1,46 +1,11 @@
 #include "ado/odbc/column_buffer.h"
 
-#include "ado/constants.h"
-#include "ado/odbc/amount_text.h"
-#include "ado/odbc/wide_text.h"
-
-#include <chrono>
-#include <cstdlib>
+#include <algorithm>
 #include <cstring>
 
 namespace zkp::ado::odbc {
 
 namespace {
-
-constexpr std::int64_t kDayMilliseconds = 86'400'000;
-
-/// Nothing for a day that is none: MariaDB keeps dates with a month or day of 0.
-std::optional<std::int64_t> midnight(int year, unsigned month, unsigned day) {
-    const std::chrono::year_month_day date{std::chrono::year(year), std::chrono::month(month),
-                                           std::chrono::day(day)};
-    if (!date.ok())
-        return std::nullopt;
-    return std::chrono::sys_days(date).time_since_epoch().count() * kDayMilliseconds;
-}
-
-std::optional<std::int64_t> milliseconds(const SQL_DATE_STRUCT& date) {
-    return midnight(date.year, date.month, date.day);
-}
-
-std::optional<std::int64_t> milliseconds(const SQL_TIMESTAMP_STRUCT& moment) {
-    const auto day = midnight(moment.year, moment.month, moment.day);
-    if (!day)
-        return std::nullopt;
-    return *day + ((moment.hour * 60ll + moment.minute) * 60 + moment.second) * 1000 +
-           moment.fraction / 1'000'000;
-}
-
-void appendDate(store::ColumnBuilder& builder, std::optional<std::int64_t> moment) {
-    if (moment)
-        builder.appendDate(*moment);
-    else
-        builder.appendNull();
-}
 
 std::size_t signOf(const ColumnType& type) {
     if (type.transfer == Transfer::Text)
@@ -88,129 +53,55 @@ bool ColumnBuffer::hasSize() const {
            type_.transfer == Transfer::Amount;
 }
 
+bool ColumnBuffer::fits(SQLLEN length) const {
+    return length != SQL_NO_TOTAL && length <= static_cast<SQLLEN>(room_);
+}
+
 /// Drivers give the whole length of a value that was cut, or that it is unknown. Digits behind a point are
 /// more than enough, those ahead of it count.
 bool ColumnBuffer::isCut(std::size_t row) const {
-    const SQLLEN length = lengths_[row];
-    if (length == SQL_NULL_DATA || (length != SQL_NO_TOTAL && static_cast<std::size_t>(length) <= room_))
-        return false;
-    return type_.transfer != Transfer::Amount ||
-           std::string_view(at(row), room_).find('.') == std::string_view::npos;
+    return !fits(lengths_[row]) && (type_.transfer != Transfer::Amount ||
+                                    std::string_view(at(row), room_).find('.') == std::string_view::npos);
 }
 
-void ColumnBuffer::readCut(std::size_t rows, LongValues& values) {
-    cut_.clear();
-    for (std::size_t row = 0; hasSize() && row < rows; ++row) {
-        if (!isCut(row))
-            continue;
-        values.goTo(row);
-        const std::string* bytes = values.read(column_, cType());
-        cut_.emplace(row, bytes ? std::optional(*bytes) : std::nullopt);
-    }
+void ColumnBuffer::pack(std::size_t rows, LongValues& values, PackedColumn& packed) const {
+    const auto end = lengths_.begin() + static_cast<std::ptrdiff_t>(rows);
+    if (!hasSize())
+        packed.addFixed(bytes_.data(), lengths_.data(), rows);
+    else if (std::all_of(lengths_.begin(), end, [this](SQLLEN length) { return fits(length); }))
+        packed.addSized(bytes_.data(), lengths_.data(), rows);
+    else
+        packEach(rows, values, packed);
 }
 
-void ColumnBuffer::read(LongValues& values, store::ColumnBuilder& builder) {
-    const std::string* bytes = values.read(column_, cType());
-    if (!bytes) {
-        builder.appendNull();
-    } else if (hasSize()) {
-        appendWhole(builder, *bytes);
-    } else {
-        std::memcpy(bytes_.data(), bytes->data(), std::min(bytes->size(), type_.width));
-        lengths_[0] = static_cast<SQLLEN>(bytes->size());
-        appendTo(builder, 1, values);
-    }
-}
-
-void ColumnBuffer::appendTo(store::ColumnBuilder& builder, std::size_t rows, LongValues& values) {
-    switch (type_.transfer) {
-    case Transfer::Integer:
-        return appendFixed<std::int64_t>(builder, rows, [&](std::int64_t v) { builder.appendInteger(v); });
-    case Transfer::Boolean:
-        return appendFixed<char>(builder, rows, [&](char v) { builder.appendBoolean(v != 0); });
-    case Transfer::Double:
-        return appendFixed<double>(builder, rows, [&](double v) { appendReal(builder, v); });
-    case Transfer::Date:
-        return appendFixed<SQL_DATE_STRUCT>(
-            builder, rows, [&](const SQL_DATE_STRUCT& v) { appendDate(builder, milliseconds(v)); });
-    case Transfer::Moment:
-        return appendFixed<SQL_TIMESTAMP_STRUCT>(
-            builder, rows, [&](const SQL_TIMESTAMP_STRUCT& v) { appendDate(builder, milliseconds(v)); });
-    case Transfer::Amount:
-    case Transfer::Binary:
-    case Transfer::Text:
-        return appendSized(builder, rows, values);
-    }
-}
-
-template <class T, class F>
-void ColumnBuffer::appendFixed(store::ColumnBuilder& builder, std::size_t rows, F&& append) {
+void ColumnBuffer::packEach(std::size_t rows, LongValues& values, PackedColumn& packed) const {
     for (std::size_t row = 0; row < rows; ++row) {
         if (lengths_[row] == SQL_NULL_DATA) {
-            builder.appendNull();
-            continue;
+            packed.addNull();
+        } else if (isCut(row)) {
+            values.goTo(row);
+            packWhole(values, packed);
+        } else {
+            packed.add({at(row), std::min(static_cast<std::size_t>(lengths_[row]), room_)});
         }
-        T value;
-        std::memcpy(&value, at(row), sizeof value);
-        append(value);
     }
 }
 
-void ColumnBuffer::appendReal(store::ColumnBuilder& builder, double value) const {
-    const auto amount = type_.info.type == adCurrency ? Currency::fromDouble(value) : std::nullopt;
-    if (amount)
-        builder.appendAmount(*amount);
+void ColumnBuffer::packWhole(LongValues& values, PackedColumn& packed) const {
+    if (const std::string* bytes = values.read(column_, cType()))
+        packed.add(*bytes);
     else
-        builder.appendReal(value);
+        packed.addNull();
 }
 
-void ColumnBuffer::appendSized(store::ColumnBuilder& builder, std::size_t rows, LongValues& values) {
-    for (std::size_t row = 0; row < rows; ++row) {
-        const SQLLEN length = lengths_[row];
-        if (length == SQL_NULL_DATA)
-            builder.appendNull();
-        else if (isCut(row))
-            appendCut(builder, row, values);
-        else
-            appendWhole(builder, {at(row), std::min(static_cast<std::size_t>(length), room_)});
-    }
-}
-
-void ColumnBuffer::appendCut(store::ColumnBuilder& builder, std::size_t row, LongValues& values) {
-    const auto there = cut_.find(row);
-    if (there == cut_.end()) {
-        values.goTo(row);
-        read(values, builder);
-    } else if (there->second) {
-        appendWhole(builder, *there->second);
-    } else {
-        builder.appendNull();
-    }
-}
-
-void ColumnBuffer::appendWhole(store::ColumnBuilder& builder, std::string_view bytes) {
-    if (type_.transfer == Transfer::Binary)
-        builder.appendBinary(bytes);
-    else if (type_.transfer == Transfer::Text)
-        appendOneText(builder, bytes);
-    else
-        appendOneAmount(builder, bytes);
-}
-
-void ColumnBuffer::appendOneAmount(store::ColumnBuilder& builder, std::string_view digits) const {
-    if (const auto whole = type_.isWhole ? wholeFromText(digits) : std::nullopt)
-        builder.appendInteger(*whole);
-    else if (const auto amount = amountFromText(digits))
-        builder.appendAmount(*amount);
-    else
-        builder.appendReal(std::strtod(std::string(digits).c_str(), nullptr));
-}
-
-void ColumnBuffer::appendOneText(store::ColumnBuilder& builder, std::string_view bytes) {
-    if (type_.isUtf8)
-        return builder.appendText(bytes);
-    toUtf8({reinterpret_cast<const char16_t*>(bytes.data()), bytes.size() / sizeof(char16_t)}, utf8_);
-    builder.appendText(utf8_);
+void ColumnBuffer::read(LongValues& values, PackedColumn& packed) {
+    if (hasSize())
+        return packWhole(values, packed);
+    const std::string* bytes = values.read(column_, cType());
+    lengths_[0] = bytes ? static_cast<SQLLEN>(bytes->size()) : SQL_NULL_DATA;
+    if (bytes)
+        std::memcpy(bytes_.data(), bytes->data(), std::min(bytes->size(), type_.width));
+    packed.addFixed(bytes_.data(), lengths_.data(), 1);
 }
 
 } // namespace zkp::ado::odbc

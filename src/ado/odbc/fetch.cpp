@@ -8,9 +8,9 @@ namespace zkp::ado::odbc {
 
 namespace {
 
-constexpr std::size_t kMostRows = 1024;
+constexpr std::size_t kMostRows = 256;
 constexpr std::size_t kBlockBytes = 4u << 20;
-constexpr std::size_t kBlocksOnTheWay = 4;
+constexpr std::size_t kBatchesOnTheWay = 4;
 constexpr std::size_t kRowsBetweenReports = 10'000;
 
 } // namespace
@@ -40,39 +40,42 @@ void Fetch::plan() {
                                         [](const ColumnType& column) { return column.isLong; });
     overlaps_ = firstLong == columns_.end();
     const bool wholeBlocks = overlaps_ || statement_.session().readsInsideBlocks();
-    bound_ = wholeBlocks ? columns_.size() : static_cast<std::size_t>(firstLong - columns_.begin());
+    const auto bound = wholeBlocks ? columns_.size() : static_cast<std::size_t>(firstLong - columns_.begin());
     std::size_t rowBytes = 1;
     for (const ColumnType& column : columns_)
         rowBytes += column.width + sizeof(SQLLEN);
-    blockRows_ = wholeBlocks ? std::clamp<std::size_t>(kBlockBytes / rowBytes, 16, kMostRows) : 1;
-}
-
-std::unique_ptr<RowBlock> Fetch::newBlock() const {
-    return std::make_unique<RowBlock>(columns_, bound_, blockRows_);
+    const std::size_t rows = wholeBlocks ? std::clamp<std::size_t>(kBlockBytes / rowBytes, 16, kMostRows) : 1;
+    block_ = std::make_unique<RowBlock>(columns_, bound, rows);
 }
 
 /// Most results are one block.
 Result Fetch::run() {
-    const auto first = newBlock();
-    if (first->fetch(statement_)) {
-        store(*first);
-        if (overlaps_ && first->rows() == blockRows_)
-            runOverlapped();
-        else
-            runInPlace(*first);
-    }
+    RowBatch first(columns_);
+    fill(first);
+    store(first);
+    if (overlaps_ && first.rows == block_->rows())
+        runOverlapped();
+    else
+        runInPlace(first);
     return finish();
 }
 
-void Fetch::runInPlace(RowBlock& block) {
-    while (block.fetch(statement_))
-        store(block);
+void Fetch::fill(RowBatch& batch) {
+    batch.clear();
+    batch.isLast = !block_->fetch(statement_, values_, batch);
 }
 
-void Fetch::store(RowBlock& block) {
+void Fetch::runInPlace(RowBatch& batch) {
+    while (!batch.isLast) {
+        fill(batch);
+        store(batch);
+    }
+}
+
+void Fetch::store(RowBatch& batch) {
     const std::size_t before = rows_;
-    block.appendTo(builders_, values_);
-    rows_ += block.rows();
+    batch.appendTo(builders_);
+    rows_ += batch.rows;
     if (!options_.progress || rows_ / kRowsBetweenReports == before / kRowsBetweenReports)
         return;
     // The host may use the connection while it is told.
@@ -81,35 +84,33 @@ void Fetch::store(RowBlock& block) {
 }
 
 void Fetch::runOverlapped() {
-    for (std::size_t i = 0; i < kBlocksOnTheWay; ++i)
-        queue_.giveFree(newBlock());
+    for (std::size_t i = 0; i < kBatchesOnTheWay; ++i)
+        queue_.giveFree(std::make_unique<RowBatch>(columns_));
     fetcher_ = std::thread(&Fetch::fetchAll, this);
     for (;;) {
-        auto block = queue_.takeFilled();
-        if (block->failure)
-            throw *block->failure;
-        if (block->isLast)
+        auto batch = queue_.takeFilled();
+        if (batch->failure)
+            throw *batch->failure;
+        if (batch->isLast)
             break;
-        store(*block);
-        queue_.giveFree(std::move(block));
+        store(*batch);
+        queue_.giveFree(std::move(batch));
     }
     fetcher_.join();
 }
 
 void Fetch::fetchAll() {
-    while (auto block = queue_.takeFree()) {
+    while (auto batch = queue_.takeFree()) {
         try {
             const std::lock_guard lock(driver_);
-            block->isLast = !block->fetch(statement_);
-            // A driver may say less of a column than it holds, as PostgreSQL's of a varchar without a length.
-            block->readCut(values_);
+            fill(*batch);
         } catch (const Error& error) {
-            block->failure = error;
+            batch->failure = error;
         } catch (const std::exception& e) {
-            block->failure.emplace(kErrDatabase, QString::fromUtf8(e.what()));
+            batch->failure.emplace(kErrDatabase, QString::fromUtf8(e.what()));
         }
-        const bool ends = block->isLast || block->failure;
-        queue_.giveFilled(std::move(block));
+        const bool ends = batch->isLast || batch->failure;
+        queue_.giveFilled(std::move(batch));
         if (ends)
             return;
     }

@@ -3,6 +3,7 @@
 #include "ado/batch_queue.h"
 #include "ado/odbc/row_block.h"
 
+#include <memory>
 #include <thread>
 
 namespace zkp::ado::odbc {
@@ -20,24 +21,23 @@ public:
 
 private:
     void plan();
-    std::unique_ptr<RowBlock> newBlock() const;
-    void store(RowBlock& block);
-    void runInPlace(RowBlock& block);
+    void fill(RowBatch& batch);
+    void store(RowBatch& batch);
+    void runInPlace(RowBatch& batch);
     void runOverlapped();
     void fetchAll();
     Result finish();
 
     Statement& statement_;
     const RunOptions& options_;
-    LongValues values_; ///< the fetching thread's alone while there is one
     std::vector<ColumnType> columns_;
     std::vector<store::ColumnBuilder> builders_;
-    std::size_t bound_ = 0; ///< how many of the first columns are bound; the others are read one by one
-    std::size_t blockRows_ = 1;
-    bool overlaps_ = false; ///< no column is long: what is cut all the same is read by the fetching thread
+    LongValues values_; ///< as the block, the fetching thread's alone while there is one
+    std::unique_ptr<RowBlock> block_;
+    bool overlaps_ = false; ///< no column is long
     std::size_t rows_ = 0;
 
-    BatchQueue<RowBlock> queue_;
+    BatchQueue<RowBatch> queue_;
     std::mutex driver_; ///< held while the driver fetches, and while the host is told of the progress
     std::thread fetcher_;
 };

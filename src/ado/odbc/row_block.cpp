@@ -29,7 +29,7 @@ void RowBlock::bind(Statement& statement) {
         buffers_[i].bind(statement);
 }
 
-bool RowBlock::fetch(Statement& statement) {
+bool RowBlock::fetchBlock(Statement& statement) {
     bind(statement);
     fetched_ = 0;
     if (!statement.fetch())
@@ -40,18 +40,15 @@ bool RowBlock::fetch(Statement& statement) {
     return true;
 }
 
-void RowBlock::readCut(LongValues& values) {
+bool RowBlock::fetch(Statement& statement, LongValues& values, RowBatch& batch) {
+    if (!fetchBlock(statement))
+        return false;
     for (std::size_t i = 0; i < bound_; ++i)
-        buffers_[i].readCut(fetched_, values);
-}
-
-void RowBlock::appendTo(std::vector<store::ColumnBuilder>& builders, LongValues& values) {
-    for (std::size_t i = 0; i < buffers_.size(); ++i) {
-        if (i < bound_)
-            buffers_[i].appendTo(builders[i], fetched_, values);
-        else
-            buffers_[i].read(values, builders[i]);
-    }
+        buffers_[i].pack(fetched_, values, batch.column(i));
+    for (std::size_t i = bound_; i < buffers_.size(); ++i)
+        buffers_[i].read(values, batch.column(i));
+    batch.rows = fetched_;
+    return true;
 }
 
 void unbindAll(const Statement& statement) {

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "ado/odbc/column_buffer.h"
-
-#include <optional>
+#include "ado/odbc/row_batch.h"
 
 namespace zkp::ado::odbc {
 
@@ -13,20 +12,13 @@ public:
     RowBlock(const RowBlock&) = delete;
     RowBlock& operator=(const RowBlock&) = delete;
 
-    /// Fetches the statement's next rows into the buffers; false behind the last.
-    bool fetch(Statement& statement);
-    /// Reads the values that the buffers cut, before the statement goes on to further rows.
-    void readCut(LongValues& values);
-    /// Appends the rows to the columns.
-    void appendTo(std::vector<store::ColumnBuilder>& builders, LongValues& values);
-    std::size_t rows() const { return fetched_; }
-
-    /// Behind the last rows, or a failure in their place.
-    bool isLast = false;
-    std::optional<Error> failure;
+    std::size_t rows() const { return states_.size(); }
+    /// Fetches the statement's next rows; false behind the last.
+    bool fetch(Statement& statement, LongValues& values, RowBatch& batch);
 
 private:
     void bind(Statement& statement);
+    bool fetchBlock(Statement& statement);
 
     std::vector<ColumnBuffer> buffers_;
     std::size_t bound_;
