@@ -150,10 +150,10 @@ pid=\$(head -n 1 "$pidfile")
 kill -$signal "\$pid"
 wait_until_gone "\$pid" 60 || exit 1
 rm -f "$pidfile"
-$(printf '%q ' "${user_words[@]}" "$@") >>"$log" 2>&1 </dev/null &
+$(printf '%q ' "${user_words[@]}" "$@") >>"$log" 2>&1 8>&- </dev/null &
 END
     chmod 755 "$restart"
-    "${user_words[@]}" "$@" >"$log" 2>&1 9>&- </dev/null &
+    "${user_words[@]}" "$@" >"$log" 2>&1 8>&- 9>&- </dev/null &
     server_pid=$!
 }
 
