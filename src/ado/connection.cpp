@@ -1,11 +1,11 @@
 #include "ado/connection.h"
 
 #include "ado/dialect/split_statements.h"
+#include "ado/object_state.h"
 #include "ado/odbc/odbc_provider.h"
 #include "ado/recordset.h"
 #include "ado/sqlite/sqlite_provider.h"
 #include "ado/text_stream.h"
-#include "base/error.h"
 #include "base/text.h"
 
 namespace zkp::ado {
@@ -14,7 +14,7 @@ struct Connection::Data {
     QString connectionString;
     int commandTimeout = 30;
     int mode = adModeUnknown;
-    std::shared_ptr<Provider> provider;
+    std::shared_ptr<Provider> provider; ///< shared with the calls alone that run
     FetchProgress progress;
     Procedures procedures;
 };
@@ -46,7 +46,7 @@ Connection::~Connection() = default;
 
 void Connection::Open(const QString& connectionString) {
     if (d->provider && !d->provider->isLost())
-        throw Error(kErrObjectOpen, QStringLiteral("Operation is not allowed when the object is open."));
+        throw objectOpen();
     d->provider.reset();
     const QString text = connectionString.isEmpty() ? d->connectionString : connectionString;
     d->provider = openProvider(text, d->mode);
@@ -55,7 +55,7 @@ void Connection::Open(const QString& connectionString) {
 
 void Connection::Close() {
     if (!d->provider)
-        throw Error(kErrObjectClosed, QStringLiteral("Operation is not allowed when the object is closed."));
+        throw objectClosed();
     d->provider.reset();
 }
 
@@ -83,7 +83,7 @@ void Connection::setCommandTimeout(int seconds) {
 
 void Connection::setMode(int mode) {
     if (d->provider)
-        throw Error(kErrObjectOpen, QStringLiteral("Operation is not allowed when the object is open."));
+        throw objectOpen();
     d->mode = mode;
 }
 
@@ -94,18 +94,18 @@ RecordsetPtr Connection::Execute(const QString& statement) {
 }
 
 void Connection::BeginTrans() {
-    provider().begin();
+    provider()->begin();
 }
 void Connection::CommitTrans() {
-    provider().commit();
+    provider()->commit();
 }
 void Connection::RollbackTrans() {
-    provider().rollback();
+    provider()->rollback();
 }
 
 RecordsetPtr Connection::OpenSchema(int schema, const QVariantList& restrictions) {
     auto recordset = std::make_shared<Recordset>();
-    recordset->adopt(provider().schema(schema, restriction(restrictions, 2)), shared_from_this());
+    recordset->adopt(provider()->schema(schema, restriction(restrictions, 2)), shared_from_this());
     return recordset;
 }
 
@@ -121,16 +121,14 @@ QString Connection::LastStatementSent() const {
     return d->provider ? d->provider->lastStatementSent() : QString();
 }
 
-Provider& Connection::provider() {
+const std::shared_ptr<Provider>& Connection::provider() const {
     if (!d->provider)
-        throw Error(kErrNoConnection,
-                    QStringLiteral("The connection cannot be used to perform this operation. "
-                                   "It is either closed or invalid in this context."));
-    return *d->provider;
+        throw noConnection();
+    return d->provider;
 }
 
-std::unique_ptr<ResultStream> Connection::start(const QString& text, Statements statements) {
-    std::vector<QString> parts = dialect::splitStatements(text, provider().dialect());
+std::unique_ptr<ResultStream> Connection::start(const QString& text, Statements statements) const {
+    std::vector<QString> parts = dialect::splitStatements(text, provider()->dialect());
     if (parts.empty())
         throw Error(kErrBadStatement, QStringLiteral("Command text was not set for the command object."));
     if (statements == Statements::One && parts.size() > 1)

@@ -26,10 +26,14 @@ public:
     Connection();
     ~Connection();
 
-    /// "sqlite:FILE" opens (never creates) a SQLite file, "sqlite:" with no name an empty one in memory; any other text
-    /// is an ODBC connection string (docs/databases.md). An empty argument takes the property's text.
+    /// "sqlite:FILE" opens (never creates) a SQLite file, "sqlite:" with no name an empty one in memory; any
+    /// other text is an ODBC connection string (docs/databases.md). An empty argument takes the property's
+    /// text.
     void Open(const QString& connectionString = {});
-    /// Ends the connection. Recordsets that are open stay readable; they can't be requeried.
+    /// Ends the connection and its session: what a transaction has not committed is undone, and locks are
+    /// free. Recordsets of it stay readable; what they would need the session for is Error kErrObjectClosed,
+    /// also when the connection is open again. Requery alone goes by the connection as it is then. Inside a
+    /// fetch (see setFetchProgress) the session ends when that has ended.
     void Close();
     int State() const;
 
@@ -70,11 +74,11 @@ public:
     /// The statement as the database received it last, after the dialect step.
     QString LastStatementSent() const;
 
-    /// For the parts of data access only; Error when closed.
-    Provider& provider();
+    /// For the parts of data access only; Error when closed. Whoever keeps it keeps the session.
+    const std::shared_ptr<Provider>& provider() const;
     /// For the parts of data access only: starts a text, of one statement or of several.
     enum class Statements { One, Several };
-    std::unique_ptr<ResultStream> start(const QString& text, Statements statements);
+    std::unique_ptr<ResultStream> start(const QString& text, Statements statements) const;
 
 private:
     struct Data;

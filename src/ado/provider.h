@@ -38,12 +38,15 @@ struct RunOptions {
 class ResultStream {
 public:
     virtual ~ResultStream() = default;
-    /// The next result with all its records; nothing after the last.
+    /// The next result with all its records; nothing after the last. Error kErrObjectClosed when the
+    /// database was closed before the last.
     virtual std::optional<Result> next() = 0;
+    /// True when nothing can follow any more.
+    virtual bool isAtEnd() const = 0;
 };
 
 /// The table behind the records of a plain select of one table, for editing them. Rows are known
-/// by a key of the provider's own.
+/// by a key of the provider's own. Error kErrObjectClosed once the database was closed.
 class BaseTable {
 public:
     virtual ~BaseTable() = default;
@@ -60,8 +63,9 @@ public:
     virtual Result update(const QVariant& key, const QStringList& columns, const QVariantList& values) = 0;
 };
 
-/// A kind of database. Everything that Connection and Recordset ask of one is here; failures are
-/// Errors with the database's own words.
+/// A kind of database, open as long as the provider lives: neither streams nor tables of it keep it open,
+/// but a call that runs ends first. Everything that Connection and Recordset ask of one is here; failures
+/// are Errors with the database's own words.
 class Provider {
 public:
     virtual ~Provider() = default;

@@ -1,9 +1,8 @@
 #include "ado/recordset_data.h"
 
 #include "ado/filter_match.h"
+#include "ado/object_state.h"
 #include "ado/sort_order.h"
-#include "base/error.h"
-#include "base/scope_guard.h"
 #include "base/text.h"
 
 #include <utility>
@@ -18,21 +17,11 @@ Error noCurrentRecord() {
                                 "deleted. Requested operation requires a current record."));
 }
 
-/// The statement of a source that is given as a table or a procedure.
-QString statementOf(const QString& source, int options) {
-    if (options == adCmdTable)
-        return QStringLiteral("SELECT * FROM ") +
-               (trimmed(source).startsWith(u'[') ? source : u'[' + source + u']');
-    if (options == adCmdStoredProc)
-        return QStringLiteral("exec ") + source;
-    return source;
-}
-
 } // namespace
 
 Records& Recordset::Data::open() const {
     if (!records)
-        throw Error(kErrObjectClosed, QStringLiteral("Operation is not allowed when the object is closed."));
+        throw objectClosed();
     return *records;
 }
 
@@ -54,70 +43,6 @@ std::uint32_t Recordset::Data::currentRow() const {
 Recordset::Recordset()
     : d(std::make_unique<Data>()) {}
 Recordset::~Recordset() = default;
-
-void Recordset::Open(const QString& source, const ConnectionPtr& connection, int, int lockType, int options) {
-    if (d->records || d->opening)
-        throw Error(kErrObjectOpen, QStringLiteral("Operation is not allowed when the object is open."));
-    d->source = source;
-    d->command.reset();
-    d->lockType = lockType;
-    openText(statementOf(source, options), connection, false);
-}
-
-void Recordset::Open(const CommandPtr& command, int, int lockType, int) {
-    if (d->records || d->opening)
-        throw Error(kErrObjectOpen, QStringLiteral("Operation is not allowed when the object is open."));
-    if (!command)
-        throw Error(kErrBadArgument, QStringLiteral("Arguments are of the wrong type: there is no command."));
-    d->source = command->CommandText;
-    d->command = command;
-    d->lockType = lockType;
-    openText(command->CommandText, command->ActiveConnection, true);
-}
-
-void Recordset::openText(const QString& text, const ConnectionPtr& connection, bool several) {
-    if (!connection || connection->State() != adStateOpen)
-        throw Error(kErrNoConnection,
-                    QStringLiteral("The connection cannot be used to perform this operation. "
-                                   "It is either closed or invalid in this context."));
-    // The host may let go of both while it is told of the progress.
-    const auto self = weak_from_this().lock();
-    const ConnectionPtr kept = connection;
-    d->opening = true;
-    const ScopeGuard opened([this] { d->opening = false; });
-    d->text = text;
-    auto stream = kept->start(text, several ? Connection::Statements::Several : Connection::Statements::One);
-    auto first = stream->next();
-    d->further = std::move(stream);
-    adopt(first ? std::move(*first) : Result(), kept);
-}
-
-void Recordset::adopt(Result result, const ConnectionPtr& connection) {
-    d->connection = connection;
-    d->edit.reset();
-    d->base.reset();
-    d->keyed.reset();
-    d->filter.clear();
-    d->sort.clear();
-    d->records = result.fields.empty() ? nullptr : std::make_shared<Records>(std::move(result));
-    d->everyRow = true;
-    d->rows.clear();
-    d->position = 0;
-    ++d->revision;
-}
-
-void Recordset::Close() {
-    d->open();
-    d->records.reset();
-    d->further.reset();
-    d->edit.reset();
-    d->base.reset();
-    d->keyed.reset();
-    d->rows.clear();
-    d->filter.clear();
-    d->sort.clear();
-    ++d->revision;
-}
 
 int Recordset::State() const {
     return d->records ? adStateOpen : adStateClosed;
@@ -193,7 +118,8 @@ void Recordset::setFilter(const QString& condition) {
     d->open();
     if (d->edit)
         Update();
-    const QString before = std::exchange(d->filter, isBlank(condition) || trimmed(condition) == u"0" ? QString() : condition);
+    const QString before =
+        std::exchange(d->filter, isBlank(condition) || trimmed(condition) == u"0" ? QString() : condition);
     try {
         arrange();
     } catch (...) {
@@ -236,47 +162,12 @@ RecordsetPtr Recordset::Clone() {
     auto clone = std::make_shared<Recordset>();
     clone->d->records = d->records;
     clone->d->connection = d->connection;
+    clone->d->provider = d->provider;
     clone->d->command = d->command;
     clone->d->source = d->source;
     clone->d->text = d->text;
     clone->d->lockType = d->lockType;
     return clone;
-}
-
-void Recordset::Requery() {
-    d->open();
-    if (d->opening)
-        throw Error(kErrObjectOpen,
-                    QStringLiteral("Operation is not allowed while the object is executing."));
-    if (d->text.isEmpty())
-        throw Error(kErrNotSupported, QStringLiteral("The recordset cannot be run again."));
-    const QString filter = d->filter;
-    const QString sort = d->sort;
-    openText(d->text, d->connection, d->command != nullptr);
-    d->filter = filter;
-    d->sort = sort;
-    if (d->records && !(filter.isEmpty() && sort.isEmpty()))
-        arrange();
-}
-
-RecordsetPtr Recordset::NextRecordset() {
-    if (!d->further)
-        return nullptr;
-    const auto self = weak_from_this().lock();
-    auto stream = std::move(d->further);
-    const ConnectionPtr connection = d->connection;
-    auto result = stream->next();
-    if (!result)
-        return nullptr;
-    if (d->records)
-        Close();
-    auto next = std::make_shared<Recordset>();
-    next->d->source = d->source;
-    next->d->command = d->command;
-    next->d->lockType = d->lockType;
-    next->adopt(std::move(*result), connection);
-    next->d->further = std::move(stream);
-    return next;
 }
 
 QString Recordset::Source() const {

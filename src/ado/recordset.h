@@ -33,8 +33,9 @@ private:
 };
 
 /// A client-side static cursor over immutable typed columns. Clones, filters and sorts are row
-/// indexes over the same columns. Made with std::make_shared. The published `BOF` and `EOF` are
-/// Bof() and Eof() here, since C headers own the name EOF.
+/// indexes over the same columns. The records outlast their connection (see Connection::Close). Made with
+/// std::make_shared. The published `BOF` and `EOF` are Bof() and Eof() here, since C headers own the name
+/// EOF.
 class Recordset : public std::enable_shared_from_this<Recordset> {
 public:
     Recordset();
@@ -65,7 +66,8 @@ public:
     void setCollect(const QString& field, const QVariant& value);
 
     /// Comparisons of fields with numbers, texts in apostrophes or Convert(Datetime,'mm/dd/yyyy',102),
-    /// joined by and, or and brackets; empty (or 0, the constant for none) shows all records. Goes to the first record left.
+    /// joined by and, or and brackets; empty (or 0, the constant for none) shows all records. Goes to the
+    /// first record left.
     QString Filter() const;
     void setFilter(const QString& condition);
     /// Field names with ASC or DESC, joined by ","; empty restores the fetched order.

@@ -19,11 +19,12 @@ struct Recordset::Data {
     bool opening = false;
     std::shared_ptr<Records> records; ///< nothing while closed
     ConnectionPtr connection;
+    std::weak_ptr<Provider> provider; ///< that gave the records
     CommandPtr command;
     QString source;
     QString text; ///< the statement itself, where `source` is a table's or procedure's name
     int lockType = -1;
-    std::unique_ptr<ResultStream> further;
+    std::unique_ptr<ResultStream> further; ///< while a result may follow
 
     bool everyRow = true;            ///< neither filtered nor sorted: position and row are the same
     std::vector<std::uint32_t> rows; ///< otherwise the row of each position
@@ -36,7 +37,11 @@ struct Recordset::Data {
     std::unique_ptr<BaseTable> base; ///< once something was edited
     std::optional<Result> keyed;     ///< the records again with their keys, once one was edited in place
 
+    void keepFurther(std::unique_ptr<ResultStream> stream);
     Records& open() const;
+    /// The provider that gave the records. Error kErrObjectClosed when the connection was closed since, be it
+    /// open again.
+    const std::shared_ptr<Provider>& session() const;
     std::int64_t count() const;
     bool atRecord() const { return position >= 0 && position < count(); }
     std::uint32_t rowAt(std::int64_t place) const;

@@ -104,10 +104,11 @@ void Recordset::openEdit(bool isNew) {
         return;
     if (!isNew)
         d->currentRow();
-    if (d->lockType == adLockReadOnly)
+    if (d->lockType == adLockReadOnly || d->text.isEmpty())
         throw notUpdatable();
-    if (!d->base && d->connection)
-        d->base = d->connection->provider().baseTable(d->text, {d->connection->CommandTimeout(), {}});
+    const auto session = d->session();
+    if (!d->base)
+        d->base = session->baseTable(d->text, {d->connection->CommandTimeout(), {}});
     if (!d->base)
         throw notUpdatable();
     d->edit.emplace();
@@ -130,6 +131,7 @@ void Recordset::Update() {
     d->open();
     if (!d->edit)
         return;
+    d->session();
     if (d->edit->isNew)
         insertRecord();
     else if (!d->edit->columns.isEmpty())

@@ -2,6 +2,7 @@
 
 #include "ado/constants.h"
 #include "ado/dialect/exec_call.h"
+#include "ado/object_state.h"
 #include "ado/result_builder.h"
 #include "base/text.h"
 
@@ -52,7 +53,7 @@ Result toResult(const Connection::ProcedureTable& table) {
 
 } // namespace
 
-TextStream::TextStream(std::shared_ptr<Provider> provider, Procedures procedures,
+TextStream::TextStream(std::weak_ptr<Provider> provider, Procedures procedures,
                        std::vector<QString> statements, RunOptions options)
     : provider_(std::move(provider))
     , procedures_(std::move(procedures))
@@ -68,11 +69,16 @@ std::optional<Result> TextStream::next() {
         }
         if (started_ == statements_.size())
             return std::nullopt;
+        const auto provider = stillOpen(provider_);
         const QString& statement = statements_[started_++];
-        if (auto result = callRegistered(statement, provider_->dialect()))
+        if (auto result = callRegistered(statement, provider->dialect()))
             return result;
-        current_ = provider_->start(statement, options_);
+        current_ = provider->start(statement, options_);
     }
+}
+
+bool TextStream::isAtEnd() const {
+    return started_ == statements_.size() && (!current_ || current_->isAtEnd());
 }
 
 std::optional<Result> TextStream::callRegistered(const QString& statement, dialect::Dialect dialect) const {

@@ -13,14 +13,15 @@ using Procedures = QHash<QString, Connection::Procedure>;
 /// asked for; a registered procedure is called in place of the provider.
 class TextStream final : public ResultStream {
 public:
-    TextStream(std::shared_ptr<Provider> provider, Procedures procedures, std::vector<QString> statements,
+    TextStream(std::weak_ptr<Provider> provider, Procedures procedures, std::vector<QString> statements,
                RunOptions options);
     std::optional<Result> next() override;
+    bool isAtEnd() const override;
 
 private:
     std::optional<Result> callRegistered(const QString& statement, dialect::Dialect dialect) const;
 
-    std::shared_ptr<Provider> provider_;
+    std::weak_ptr<Provider> provider_;
     Procedures procedures_;
     std::vector<QString> statements_;
     RunOptions options_;

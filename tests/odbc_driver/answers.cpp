@@ -28,11 +28,12 @@ Answer catalogue(std::size_t columns, std::vector<std::vector<std::u16string>> r
             -1};
 }
 
+std::u16string number(int value) {
+    const std::string digits = std::to_string(value);
+    return std::u16string(digits.begin(), digits.end());
+}
+
 std::vector<std::u16string> columnRecord(const char16_t* name, int type, int place) {
-    const auto number = [](int value) {
-        const std::string digits = std::to_string(value);
-        return std::u16string(digits.begin(), digits.end());
-    };
     std::vector<std::u16string> record(18);
     record[1] = u"dbo";
     record[2] = u"frms2";
@@ -54,7 +55,14 @@ Answer savedTemplate(bool withKey) {
 
 } // namespace
 
-Answer answerTo(const std::u16string& statement) {
+Answer answerTo(const std::u16string& statement, int links) {
+    if (statement == u"links")
+        return oneColumn(u"N", SQL_WVARCHAR, number(links));
+    if (statement == u"two results") {
+        Answer answer = oneColumn(u"V", SQL_WVARCHAR, u"value");
+        answer.further = 1;
+        return answer;
+    }
     if (statement == u"three words")
         return failure({{"42000", 102, u"[Scripted] Incorrect syntax near 'words'."},
                         {"01000", 3621, u"[Scripted] The statement has been terminated."},

@@ -21,7 +21,12 @@ struct Link : Handle {
     std::u16string name;
     std::string log;
     bool dead = false;
+    bool connected = false;
+    int statements = 0;
 };
+
+/// Of all connections.
+int connectedLinks = 0;
 
 struct Bound {
     SQLUSMALLINT column;
@@ -33,7 +38,12 @@ struct Bound {
 
 struct Statement : Handle {
     explicit Statement(Link& on)
-        : link(on) {}
+        : link(on) {
+        ++link.statements;
+    }
+    ~Statement() { --link.statements; }
+    Statement(const Statement&) = delete;
+    Statement& operator=(const Statement&) = delete;
     Link& link;
     Answer answer;
     std::size_t at = 0;
@@ -134,13 +144,22 @@ SQLRETURN SQL_API SQLDriverConnectW(SQLHDBC handle, SQLHWND, SQLWCHAR* text, SQL
     for (const char16_t unit : partOf(given, u"Log="))
         link.log += static_cast<char>(unit);
     // Only what is ours may reach a driver.
-    if (given.find(u"Dialect") == std::u16string::npos)
+    if (given.find(u"Dialect") == std::u16string::npos) {
+        link.connected = true;
+        ++connectedLinks;
         return SQL_SUCCESS;
+    }
     link.words = {{"HY000", 1, u"[Scripted] Dialect is not a word of this driver"}};
     return SQL_ERROR;
 }
 
-SQLRETURN SQL_API SQLDisconnect(SQLHDBC) {
+/// Statements that are left would lose the ground under them.
+SQLRETURN SQL_API SQLDisconnect(SQLHDBC handle) {
+    Link& link = *static_cast<Link*>(handle);
+    if (!link.connected || link.statements > 0)
+        return SQL_ERROR;
+    link.connected = false;
+    --connectedLinks;
     return SQL_SUCCESS;
 }
 
@@ -201,7 +220,7 @@ SQLRETURN SQL_API SQLExecDirectW(SQLHSTMT handle, SQLWCHAR* text, SQLINTEGER len
     log << given.size() << '\n';
     log.write(reinterpret_cast<const char*>(given.data()),
               static_cast<std::streamsize>(given.size() * sizeof(char16_t)));
-    return answer(statement, zkp::scripted::answerTo(given));
+    return answer(statement, zkp::scripted::answerTo(given, connectedLinks));
 }
 
 SQLRETURN SQL_API SQLTablesW(SQLHSTMT handle, SQLWCHAR*, SQLSMALLINT, SQLWCHAR*, SQLSMALLINT, SQLWCHAR*,
@@ -235,8 +254,13 @@ SQLRETURN SQL_API SQLGetData(SQLHSTMT handle, SQLUSMALLINT column, SQLSMALLINT t
 SQLRETURN SQL_API SQLCancel(SQLHSTMT) {
     return SQL_SUCCESS;
 }
-SQLRETURN SQL_API SQLMoreResults(SQLHSTMT) {
-    return SQL_NO_DATA;
+SQLRETURN SQL_API SQLMoreResults(SQLHSTMT handle) {
+    Statement& statement = of(handle);
+    if (statement.answer.further == 0)
+        return SQL_NO_DATA;
+    --statement.answer.further;
+    statement.at = 0;
+    return SQL_SUCCESS;
 }
 SQLRETURN SQL_API SQLRowCount(SQLHSTMT handle, SQLLEN* count) {
     *count = of(handle).answer.written;

@@ -30,10 +30,12 @@ struct Answer {
     std::size_t failsBehind = SIZE_MAX; ///< records until the link breaks; 0 for the statement itself
     std::vector<Word> words;            ///< of the failure
     SQLLEN written = -1;                ///< records that the statement changed
+    std::size_t further = 0;            ///< results that follow, of the same records
 };
 
-/// By the statement's text; no records of one text column for any that has no answer of its own.
-Answer answerTo(const std::u16string& statement);
+/// By the statement's text; no records of one text column for any that has no answer of its own. `links` are
+/// those that stand.
+Answer answerTo(const std::u16string& statement, int links);
 
 /// The catalogue: one table, dbo.frms2, without a key.
 Answer tables();

@@ -39,6 +39,29 @@ TEST_P(PostgresReadingTest, AUserWhoOnlyReadsComparesWithoutCase) {
     EXPECT_NE(errorOf([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }).number(), 0);
 }
 
+TEST_P(PostgresReadingTest, AUserWhoOnlyReadsComparesWithoutCaseInsideATransactionToo) {
+    const auto reader = connect(";ConnSettings=SET default_transaction_read_only%3Don");
+    const auto found = [&] {
+        return reader->Execute(u("SELECT 1 AS A WHERE 'ωμέγα' = 'ΩΜΈΓΑ'"))->RecordCount();
+    };
+    make("ZT_READ", "A INTEGER");
+    reader->BeginTrans();
+    EXPECT_EQ(found(), 1);
+    EXPECT_NE(errorOf([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }).number(), 0);
+    reader->RollbackTrans();
+    EXPECT_EQ(found(), 1);
+}
+
+// A transaction that is not ours takes the collation with it, and the next one is made then.
+TEST_P(PostgresReadingTest, ATransactionOfTheHostsOwnWordsLeavesNoCollationBehind) {
+    const auto found = [&] { return open("SELECT 1 AS A WHERE 'ωμέγα' = 'ΩΜΈΓΑ'")->RecordCount(); };
+    run("BEGIN");
+    EXPECT_EQ(found(), 1);
+    run("ROLLBACK");
+    EXPECT_NE(errorOf([&] { found(); }).number(), 0u);
+    EXPECT_EQ(found(), 1);
+}
+
 TEST_P(PostgresReadingTest, ACollationThatCannotBeMadeIsTold) {
     if (one("SELECT Count(*) FROM pg_roles WHERE rolname = 'zkp_bare'").toInt() == 0)
         run("CREATE ROLE zkp_bare LOGIN PASSWORD 'zkp'");
@@ -50,6 +73,9 @@ TEST_P(PostgresReadingTest, ACollationThatCannotBeMadeIsTold) {
     EXPECT_EQ(error.number(), kErrDatabase);
     EXPECT_TRUE(error.description().contains(u("zkp_text"))) << error.description().toStdString();
     EXPECT_EQ(bare->Execute(u("SELECT 1 AS A WHERE 1 = 1"))->RecordCount(), 1);
+    bare->BeginTrans();
+    EXPECT_EQ(bare->Execute(u("SELECT 1 AS A WHERE 1 = 1"))->RecordCount(), 1);
+    bare->CommitTrans();
 }
 
 TEST_P(PostgresReadingTest, ACommitThatFailsLeavesAConnectionForReadingReading) {

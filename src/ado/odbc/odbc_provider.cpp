@@ -1,5 +1,6 @@
 #include "ado/odbc/odbc_provider.h"
 
+#include "ado/object_state.h"
 #include "ado/odbc/odbc_base_table.h"
 #include "ado/odbc/read_only.h"
 #include "ado/odbc/run.h"
@@ -27,24 +28,26 @@ bool changesNames(const QString& statement, Dialect dialect) {
 /// A statement that a connection for reading may write with.
 class WritingStream final : public ResultStream {
 public:
-    WritingStream(std::shared_ptr<Session> session, std::unique_ptr<ResultStream> stream)
+    WritingStream(std::weak_ptr<Session> session, std::unique_ptr<ResultStream> stream)
         : session_(std::move(session))
         , stream_(std::move(stream)) {}
 
     std::optional<Result> next() override {
-        session_->setWritable(true);
-        const ScopeGuard guard([this] {
+        const auto session = stillOpen(session_);
+        session->setWritable(true);
+        const ScopeGuard guard([&session] {
             try {
-                session_->setWritable(false);
+                session->setWritable(false);
             } catch (const Error&) {
                 // The connection is gone.
             }
         });
         return stream_->next();
     }
+    bool isAtEnd() const override { return stream_->isAtEnd(); }
 
 private:
-    std::shared_ptr<Session> session_;
+    std::weak_ptr<Session> session_;
     std::unique_ptr<ResultStream> stream_;
 };
 

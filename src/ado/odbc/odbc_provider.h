@@ -21,7 +21,7 @@ public:
     Result schema(int schema, const std::optional<QString>& table) override;
 
 private:
-    std::shared_ptr<Session> session_; ///< also held by what is still being read
+    std::shared_ptr<Session> session_; ///< shared with the calls alone that run
 };
 
 } // namespace zkp::ado::odbc

@@ -1,5 +1,6 @@
 #include "ado/odbc/run.h"
 
+#include "ado/object_state.h"
 #include "ado/odbc/fetch.h"
 
 #include <utility>
@@ -20,7 +21,7 @@ void rename(Result& result, const QStringList& names) {
 
 } // namespace
 
-StatementStream::StatementStream(std::shared_ptr<Session> session, QString sql, QStringList names,
+StatementStream::StatementStream(std::weak_ptr<Session> session, QString sql, QStringList names,
                                  RunOptions options)
     : session_(std::move(session))
     , sql_(std::move(sql))
@@ -34,9 +35,10 @@ std::optional<Result> StatementStream::next() {
     const bool first = !std::exchange(started_, true);
     if (!first && !statement_)
         return std::nullopt;
+    const auto session = stillOpen(session_);
     try {
         if (first)
-            start();
+            start(*session);
         else
             statement_->restartClock();
         auto result = takeRecords();
@@ -47,10 +49,10 @@ std::optional<Result> StatementStream::next() {
     }
 }
 
-void StatementStream::start() {
-    session_->setLastStatement(sql_);
-    statement_ = std::make_unique<Statement>(*session_, options_.timeoutSeconds);
-    if (session_->readsInsideBlocks())
+void StatementStream::start(Session& session) {
+    session.setLastStatement(sql_);
+    statement_ = std::make_unique<Statement>(session, options_.timeoutSeconds);
+    if (session.readsInsideBlocks())
         statement_->useStaticCursor();
     statement_->execute(sql_);
 }

@@ -12,15 +12,16 @@ class StatementStream final : public ResultStream {
 public:
     /// `names` are the output names as the statement writes them, for servers that fold them; empty
     /// for those as the server has them.
-    StatementStream(std::shared_ptr<Session> session, QString sql, QStringList names, RunOptions options);
+    StatementStream(std::weak_ptr<Session> session, QString sql, QStringList names, RunOptions options);
     std::optional<Result> next() override;
+    bool isAtEnd() const override { return started_ && !statement_ && !failure_; }
 
 private:
-    void start();
+    void start(Session& session);
     std::optional<Result> takeRecords();
     void goOn();
 
-    std::shared_ptr<Session> session_;
+    std::weak_ptr<Session> session_;
     QString sql_;
     QStringList names_;
     RunOptions options_;

@@ -1,10 +1,13 @@
 #include "ado/odbc/session.h"
 
 #include "ado/odbc/server_facts.h"
+#include "ado/odbc/statement.h"
 #include "ado/odbc/wide_text.h"
 #include "base/scope_guard.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace zkp::ado::odbc {
 
@@ -33,8 +36,8 @@ Session::Session(const QString& connectionString, bool readOnly)
 }
 
 Session::~Session() {
-    if (!connected_)
-        return;
+    for (Statement* statement : statements_)
+        statement->end();
     // A driver does not disconnect inside a transaction.
     if (inTransaction_)
         SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_ROLLBACK);
@@ -53,7 +56,6 @@ void Session::connect(const QString& text) {
         const Error error = Diagnostics(SQL_HANDLE_DBC, connection_.get()).error(serverName_);
         throw Error(kErrDatabase, error.description(), error.source());
     }
-    connected_ = true;
 }
 
 void Session::prepare() {
@@ -90,6 +92,10 @@ Error Session::failure(SQLSMALLINT type, SQLHANDLE handle, Deadline deadline) {
     // Names may be of a table that came meanwhile.
     if (error.number() == kErrBadStatement)
         forgetCatalogue();
+    // A collation goes with a transaction that the host began and undid in the server's own words.
+    if (error.description().contains(QStringLiteral("zkp_text")) ||
+        error.description().contains(QStringLiteral("pg_temp")))
+        collation_.reset();
     return error;
 }
 
@@ -104,6 +110,7 @@ void Session::setAutoCommit(bool on) {
 void Session::begin() {
     if (inTransaction_)
         throw Error(kErrDatabase, QStringLiteral("There is a transaction already."), serverName_);
+    chooseCollationEarly();
     if (readOnly_)
         setWritable(true);
     try {
@@ -113,16 +120,26 @@ void Session::begin() {
         throw;
     }
     inTransaction_ = true;
-    collationIsOfTransaction_ = false;
+}
+
+/// PostgreSQL's is made, once a session: made inside a transaction it would go with a rollback, and there a
+/// user whose transactions only read couldn't make it. Where it can't be made, the comparison tells that
+/// needs it.
+void Session::chooseCollationEarly() {
+    if (dialect_ != Dialect::PostgreSql || std::exchange(triedCollation_, true))
+        return;
+    try {
+        collation();
+    } catch (const Error&) {
+        if (lost_)
+            throw;
+    }
 }
 
 void Session::commit() {
     endTransaction(SQL_COMMIT);
 }
 void Session::rollback() {
-    // What was made inside the transaction goes with it.
-    if (collationIsOfTransaction_)
-        collation_.reset();
     endTransaction(SQL_ROLLBACK);
 }
 
@@ -133,8 +150,6 @@ void Session::endTransaction(SQLSMALLINT how) {
     const ScopeGuard reading([this] { readAgain(); });
     if (!SQL_SUCCEEDED(SQLEndTran(SQL_HANDLE_DBC, connection_.get(), how))) {
         const Error error = failure(SQL_HANDLE_DBC, connection_.get());
-        if (collationIsOfTransaction_)
-            collation_.reset();
         SQLEndTran(SQL_HANDLE_DBC, connection_.get(), SQL_ROLLBACK);
         SQLSetConnectAttrW(connection_.get(), SQL_ATTR_AUTOCOMMIT, number(SQL_AUTOCOMMIT_ON),
                            SQL_IS_UINTEGER);
@@ -157,6 +172,10 @@ void Session::setWritable(bool writable) {
     allowWriting(*this, writable);
 }
 
+void Session::remove(Statement& statement) {
+    statements_.erase(std::find(statements_.begin(), statements_.end(), &statement));
+}
+
 const dialect::Catalogue& Session::catalogue() {
     if (!catalogue_)
         catalogue_ = readCatalogue(*this);
@@ -164,10 +183,8 @@ const dialect::Catalogue& Session::catalogue() {
 }
 
 const QString& Session::collation() {
-    if (!collation_) {
+    if (!collation_)
         collation_ = chooseCollation(*this);
-        collationIsOfTransaction_ = inTransaction_;
-    }
     return *collation_;
 }
 

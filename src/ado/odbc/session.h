@@ -9,10 +9,13 @@
 #include <QString>
 
 #include <optional>
+#include <vector>
 
 namespace zkp::ado::odbc {
 
-/// An open connection to a server.
+class Statement;
+
+/// An open connection to a server. It ends with the object: what is not committed is undone.
 class Session {
 public:
     /// Error kErrDatabase in the driver's words.
@@ -22,6 +25,9 @@ public:
     Session& operator=(const Session&) = delete;
 
     SQLHDBC connection() const { return connection_.get(); }
+    /// Those that live, which have to end before the connection does.
+    void add(Statement& statement) { statements_.push_back(&statement); }
+    void remove(Statement& statement);
     Dialect dialect() const { return dialect_; }
     bool isReadOnly() const { return readOnly_; }
     /// Asks the server, where it can, to refuse or allow writing from the next transaction on.
@@ -62,6 +68,7 @@ private:
     void connect(const QString& text);
     void prepare();
     QString info(SQLUSMALLINT what) const;
+    void chooseCollationEarly();
     void setAutoCommit(bool on);
     void endTransaction(SQLSMALLINT how);
     /// A connection for reading refuses writing from now on.
@@ -69,7 +76,6 @@ private:
 
     Handle environment_;
     Handle connection_;
-    bool connected_ = false;
     Dialect dialect_ = Dialect::SqlServer;
     bool readOnly_;
     bool readsInsideBlocks_ = false;
@@ -80,7 +86,8 @@ private:
     QString lastStatement_;
     std::optional<dialect::Catalogue> catalogue_;
     std::optional<QString> collation_;
-    bool collationIsOfTransaction_ = false;
+    bool triedCollation_ = false;
+    std::vector<Statement*> statements_;
     Canceller canceller_;
 };
 

@@ -13,9 +13,13 @@ Statement::Statement(Session& session, int timeoutSeconds)
     // A driver that can't leaves it to the canceller.
     SQLSetStmtAttrW(get(), SQL_ATTR_QUERY_TIMEOUT, reinterpret_cast<SQLPOINTER>(SQLULEN(timeoutSeconds)),
                     SQL_IS_UINTEGER);
+    session_.add(*this);
 }
 
-Statement::~Statement() = default;
+Statement::~Statement() {
+    if (get() != SQL_NULL_HSTMT)
+        session_.remove(*this);
+}
 
 Statement::Watched::Watched(const Statement& statement)
     : session_(statement.session_) {

@@ -15,13 +15,16 @@ struct ColumnKind {
     SQLSMALLINT digits = 0;
 };
 
-/// One statement on its way: executed once, with one or several results.
+/// One statement on its way: executed once, with one or several results. It may outlive its session, and
+/// is of no use then.
 class Statement {
 public:
     explicit Statement(Session& session, int timeoutSeconds = 0);
     ~Statement();
     Statement(const Statement&) = delete;
     Statement& operator=(const Statement&) = delete;
+    /// For the session, ahead of its own end.
+    void end() { handle_.free(); }
 
     SQLHSTMT get() const { return handle_.get(); }
     Session& session() const { return session_; }

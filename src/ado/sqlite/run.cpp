@@ -1,6 +1,7 @@
 #include "ado/sqlite/run.h"
 
 #include "ado/dialect/tokenizer.h"
+#include "ado/object_state.h"
 #include "ado/sqlite/fetch.h"
 
 namespace zkp::ado::sqlite {
@@ -39,7 +40,7 @@ Result runStatement(const std::shared_ptr<Database>& database, const QString& sq
     return {};
 }
 
-StatementStream::StatementStream(std::shared_ptr<Database> database, std::vector<QString> statements,
+StatementStream::StatementStream(std::weak_ptr<Database> database, std::vector<QString> statements,
                                  QVariantList parameters, RunOptions options)
     : database_(std::move(database))
     , statements_(std::move(statements))
@@ -47,11 +48,12 @@ StatementStream::StatementStream(std::shared_ptr<Database> database, std::vector
     , options_(std::move(options)) {}
 
 std::optional<Result> StatementStream::next() {
-    if (done_ == statements_.size())
+    if (isAtEnd())
         return std::nullopt;
+    const auto database = stillOpen(database_);
     const QString& sql = statements_[done_++];
-    database_->setLastStatement(sql);
-    return runStatement(database_, sql, parameters_, options_);
+    database->setLastStatement(sql);
+    return runStatement(database, sql, parameters_, options_);
 }
 
 } // namespace zkp::ado::sqlite

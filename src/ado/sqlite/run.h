@@ -12,12 +12,13 @@ Result runStatement(const std::shared_ptr<Database>& database, const QString& sq
 /// Runs the texts of a statement or stored procedure one by one, as the results are asked for.
 class StatementStream final : public ResultStream {
 public:
-    StatementStream(std::shared_ptr<Database> database, std::vector<QString> statements,
+    StatementStream(std::weak_ptr<Database> database, std::vector<QString> statements,
                     QVariantList parameters, RunOptions options);
     std::optional<Result> next() override;
+    bool isAtEnd() const override { return done_ == statements_.size(); }
 
 private:
-    std::shared_ptr<Database> database_;
+    std::weak_ptr<Database> database_;
     std::vector<QString> statements_;
     QVariantList parameters_;
     RunOptions options_;

@@ -3,6 +3,7 @@
 #include "ado/constants.h"
 #include "ado/dialect/plain_select.h"
 #include "ado/dialect/sqlite_rewrite.h"
+#include "ado/object_state.h"
 #include "ado/sqlite/field_types.h"
 #include "ado/sqlite/run.h"
 #include "base/text.h"
@@ -36,16 +37,16 @@ QHash<QString, std::pair<QString, Declared>> tableColumns(const std::shared_ptr<
 
 class SqliteBaseTable final : public BaseTable {
 public:
-    SqliteBaseTable(std::shared_ptr<Database> database, dialect::PlainSelect select, RunOptions options,
-                    QHash<QString, std::pair<QString, Declared>> columns)
-        : database_(std::move(database))
+    SqliteBaseTable(const std::shared_ptr<Database>& database, dialect::PlainSelect select,
+                    RunOptions options, QHash<QString, std::pair<QString, Declared>> columns)
+        : database_(database)
         , select_(std::move(select))
         , options_(std::move(options))
         , columns_(std::move(columns)) {
         // One row's select list: TOP and the key have no place there, the rest is the statement's.
         rowStatement_ = dialect::rewriteForSqlite(select_.beforeFrom + QStringLiteral("FROM ") +
                                                   select_.source + QStringLiteral(" WHERE _rowid_ = ?1"));
-        const Statement statement(database_, rowStatement_);
+        const Statement statement(database, rowStatement_);
         for (int i = 0; i < statement.columnCount(); ++i)
             fieldColumns_.push_back(QString::fromUtf8(sqlite3_column_origin_name(statement.handle(), i)));
     }
@@ -55,7 +56,7 @@ public:
 
     Result recordsWithKeys() override {
         const QString sql = select_.beforeFrom + QStringLiteral(", _rowid_ ") + select_.fromOn;
-        return runStatement(database_, dialect::rewriteForSqlite(sql), {}, options_);
+        return runStatement(stillOpen(database_), dialect::rewriteForSqlite(sql), {}, options_);
     }
 
     Result insert(const QStringList& columns, const QVariantList& values) override {
@@ -98,41 +99,43 @@ private:
     /// Writes one row and reads it back, or writes nothing; no key means the new row's. A savepoint works
     /// inside the host's transaction and outside.
     Result write(const QString& sql, const QVariantList& parameters, const QVariant& key) {
-        database_->execute("SAVEPOINT zkp_write");
+        const auto database = stillOpen(database_);
+        database->execute("SAVEPOINT zkp_write");
         try {
-            const qlonglong last = writeOne(sql, parameters);
-            Result written = record(key.isValid() ? key : last);
-            database_->execute("RELEASE zkp_write");
+            const qlonglong last = writeOne(database, sql, parameters);
+            Result written = record(database, key.isValid() ? key : last);
+            database->execute("RELEASE zkp_write");
             return written;
         } catch (...) {
-            const Turn turn(*database_);
-            sqlite3_exec(database_->handle(), "ROLLBACK TO zkp_write; RELEASE zkp_write", nullptr, nullptr,
+            const Turn turn(*database);
+            sqlite3_exec(database->handle(), "ROLLBACK TO zkp_write; RELEASE zkp_write", nullptr, nullptr,
                          nullptr);
             throw;
         }
     }
 
     /// Gives the number of the row that was added last.
-    qlonglong writeOne(const QString& sql, const QVariantList& parameters) {
-        const Turn turn(*database_, Deadline::in(options_.timeoutSeconds));
-        database_->setLastStatement(sql);
-        Statement statement(database_, sql);
+    qlonglong writeOne(const std::shared_ptr<Database>& database, const QString& sql,
+                       const QVariantList& parameters) const {
+        const Turn turn(*database, Deadline::in(options_.timeoutSeconds));
+        database->setLastStatement(sql);
+        Statement statement(database, sql);
         statement.bind(parameters);
         while (statement.step()) {
         }
-        if (sqlite3_changes(database_->handle()) != 1)
+        if (sqlite3_changes(database->handle()) != 1)
             throw Error(kErrDatabase, QStringLiteral("The row is no longer there."));
-        return sqlite3_last_insert_rowid(database_->handle());
+        return sqlite3_last_insert_rowid(database->handle());
     }
 
-    Result record(const QVariant& key) {
-        Result result = runStatement(database_, rowStatement_, {key}, options_);
+    Result record(const std::shared_ptr<Database>& database, const QVariant& key) const {
+        Result result = runStatement(database, rowStatement_, {key}, options_);
         if (result.table.rows != 1)
             throw Error(kErrDatabase, QStringLiteral("The row is no longer there."));
         return result;
     }
 
-    std::shared_ptr<Database> database_;
+    std::weak_ptr<Database> database_;
     dialect::PlainSelect select_;
     RunOptions options_;
     QHash<QString, std::pair<QString, Declared>> columns_; ///< by name key

@@ -20,7 +20,7 @@ public:
     Result schema(int schema, const std::optional<QString>& table) override;
 
 private:
-    std::shared_ptr<Database> database_; ///< also held by what is still being read
+    std::shared_ptr<Database> database_; ///< shared with the calls alone that run
 };
 
 } // namespace zkp::ado::sqlite
