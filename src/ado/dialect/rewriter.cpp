@@ -48,14 +48,25 @@ QString& Rewriter::written(std::size_t k) {
     return written_[static_cast<qsizetype>(solid_[k])];
 }
 
+QString Rewriter::nowOf(QStringView part) const {
+    QString now;
+    for (std::size_t i = 0; i < tokens_.size(); ++i) {
+        if (tokens_[i].text.begin() >= part.begin() && tokens_[i].text.end() <= part.end())
+            now += written_[static_cast<qsizetype>(i)];
+    }
+    return now;
+}
+
 void Rewriter::drop(std::size_t token) {
     changed_ = true;
     written_[static_cast<qsizetype>(token)].clear();
 }
 
-bool Rewriter::isComparison(const Token& token) {
+/// The ">" of "->" gets a value out of another one.
+bool Rewriter::isComparison(std::size_t k) const {
+    const Token& token = at(k);
     static const QStringView signs[] = {u"=", u"==", u"<>", u"!=", u"<", u">", u"<=", u">="};
-    return token.kind == TokenKind::Sign &&
+    return token.kind == TokenKind::Sign && !at(k - 1).isSign(u"-") &&
            std::find(std::begin(signs), std::end(signs), token.text) != std::end(signs);
 }
 
@@ -78,8 +89,37 @@ bool Rewriter::assigns(std::size_t k) const {
 }
 
 bool Rewriter::hasCase(QStringView constant) {
-    return std::any_of(constant.begin(), constant.end(), [](QChar c) { return c.unicode() >= u'A'; }) &&
+    const auto mayHaveCase = [](QChar c) { return c.isLetter() || c.unicode() >= 0x80; };
+    return std::any_of(constant.begin(), constant.end(), mayHaveCase) &&
            !isUniqueKey(constant.sliced(1, std::max<qsizetype>(0, constant.size() - 2)));
+}
+
+bool Rewriter::isCasedConstant(std::size_t k) const {
+    const QStringView text = at(k).text;
+    // The database's words shall show a constant without an end as it came.
+    const bool isClosed = text.size() > 1 && text.endsWith(u'\'');
+    return at(k).kind == TokenKind::Text && isClosed && hasCase(text) && !at(k + 1).isWord(u"collate");
+}
+
+int Rewriter::nesting(const Token& token) {
+    return token.isWord(u"case") ? 1 : token.isWord(u"end") ? -1 : token.nesting();
+}
+
+std::size_t Rewriter::caseOf(std::size_t when) const {
+    int depth = 0;
+    for (std::size_t k = when; k-- > 0;) {
+        depth += nesting(at(k));
+        if (depth > 0)
+            return at(k).isWord(u"case") ? k : count();
+    }
+    return count();
+}
+
+bool Rewriter::isSimpleWhen(std::size_t k) const {
+    if (!at(k).isWord(u"when"))
+        return false;
+    const std::size_t start = caseOf(k);
+    return start < count() && !at(start + 1).isWord(u"when");
 }
 
 bool Rewriter::isAnswered() const {
@@ -190,16 +230,13 @@ bool Rewriter::isCompared(std::size_t k) const {
     const bool behindSign = before > 0 && compares(before - 1);
     const bool lower = k > 0 && at(k - 1).isWord(u"between");
     const bool upper = k > 2 && at(k - 1).isWord(u"and") && at(k - 3).isWord(u"between");
-    return behindSign || compares(k + 1) || lower || upper;
+    const bool inCase = before > 0 && (isSimpleWhen(before - 1) || at(before - 1).isWord(u"case"));
+    return behindSign || compares(k + 1) || lower || upper || inCase;
 }
 
 void Rewriter::collateConstants(const QString& collation) {
     for (std::size_t k = 0; k < count(); ++k) {
-        const QStringView text = at(k).text;
-        // The database's words shall show a constant without an end as it came.
-        const bool isClosed = text.size() > 1 && text.endsWith(u'\'');
-        if (at(k).kind == TokenKind::Text && isClosed && hasCase(text) && !at(k + 1).isWord(u"collate") &&
-            isCompared(k))
+        if (isCasedConstant(k) && isCompared(k))
             written(k) += QStringLiteral(" COLLATE ") + collation;
     }
 }

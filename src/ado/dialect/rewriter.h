@@ -14,6 +14,7 @@ public:
 
     /// The statement as it was when no step changed anything.
     QString text() const { return changed_ ? written_.join(QString()) : statement_; }
+    const std::vector<Token>& tokens() const { return tokens_; }
 
 protected:
     std::size_t count() const { return solid_.size(); }
@@ -21,9 +22,11 @@ protected:
     const Token& at(std::size_t k) const;
     const QString& now(std::size_t k) const { return written_[static_cast<qsizetype>(solid_[k])]; }
     QString& written(std::size_t k);
+    /// What a part of the statement, from token to token, has become.
+    QString nowOf(QStringView part) const;
 
     /// Whether the token at a place compares what stands on its two sides.
-    bool compares(std::size_t k) const { return isComparison(at(k)) && !assigns(k); }
+    bool compares(std::size_t k) const { return isComparison(k) && !assigns(k); }
     /// Whether it is the "=" by which an UPDATE gives a column its value.
     bool assigns(std::size_t k) const;
     static bool isName(const Token& token) {
@@ -35,6 +38,14 @@ protected:
     /// A constant of nothing but signs and digits (a date, a code) compares alike with case and without:
     /// an index stays of use. So does one that can be a key of a server's own making.
     static bool hasCase(QStringView constant);
+    /// Whether a constant that has a case stands at a place, without a collation of its own.
+    bool isCasedConstant(std::size_t k) const;
+    /// 1 for a bracket or CASE that opens, -1 for what closes one.
+    static int nesting(const Token& token);
+    /// The CASE that a WHEN belongs to, and whether the WHEN holds a value that the CASE compares: it holds
+    /// a condition where nothing stands between "case" and the first "when".
+    std::size_t caseOf(std::size_t when) const;
+    bool isSimpleWhen(std::size_t k) const;
     /// Statements whose comparisons are answered now. What others hold is stored (views, triggers) and
     /// must stay readable to every program.
     bool isAnswered() const;
@@ -55,7 +66,7 @@ protected:
     std::size_t endOfSelect(std::size_t k, bool isMember) const;
 
 private:
-    static bool isComparison(const Token& token);
+    bool isComparison(std::size_t k) const;
     void rewriteConvert(std::size_t k);
     void rewriteTop(std::size_t k, const QString& beforeMember, const QString& behindMember);
     bool isCompared(std::size_t k) const;

@@ -1,15 +1,12 @@
 #include "ado/dialect/select_shape.h"
 
+#include "ado/dialect/keywords.h"
+
 #include <algorithm>
-#include <initializer_list>
 
 namespace zkp::ado::dialect {
 
 namespace {
-
-bool isOneOf(const Token& token, std::initializer_list<QStringView> words) {
-    return std::any_of(words.begin(), words.end(), [&](QStringView word) { return token.isWord(word); });
-}
 
 bool isName(const Token& token) {
     return token.kind == TokenKind::Word || token.kind == TokenKind::Name;
@@ -78,8 +75,8 @@ Item sortedBy(const Item& item) {
 }
 
 /// As it stands in the statement, blanks included: they may mean something ahead of a bracket.
-QString sourceText(const Item& item) {
-    return QStringView(item.front().text.begin(), item.back().text.end()).toString();
+QStringView sourceText(const Item& item) {
+    return {item.front().text.begin(), item.back().text.end()};
 }
 
 bool sameText(const Item& a, const Item& b) {
@@ -154,7 +151,7 @@ GroupOrder groupOrder(const std::vector<Token>& statement) {
         const bool sortedToo = std::any_of(sorted.begin(), sorted.end(),
                                            [&](const Item& item) { return sameText(sortedBy(item), group); });
         if (selectedToo && !sortedToo && !group.empty())
-            order.items << sourceText(group);
+            order.items.push_back(sourceText(group));
     }
     return order;
 }

@@ -17,8 +17,8 @@ QStringList sourceColumns(const std::vector<Token>& statement);
 
 /// How a select that groups has to be told to sort its groups, for a server that gives them in any order.
 struct GroupOrder {
-    bool behindOrder = false; ///< the select has an order of its own, which goes ahead
-    QStringList items;        ///< texts of the group items that are in the select's list and not in its order
+    bool behindOrder = false;       ///< the select has an order of its own, which goes ahead
+    std::vector<QStringView> items; ///< the group items that are in the select's list and not in its order
 };
 /// No items for what does not group, or is more than one select.
 GroupOrder groupOrder(const std::vector<Token>& statement);
