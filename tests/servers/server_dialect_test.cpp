@@ -144,8 +144,9 @@ TEST_P(ServerDialectTest, AProceduresResultsComeOneByOne) {
     if (isPostgres())
         GTEST_SUCCEED() << "its functions give one result";
     else {
-        run("DROP PROCEDURE IF EXISTS Two");
-        run("CREATE PROCEDURE Two() BEGIN SELECT 1 AS A; UPDATE NAMES SET N = N; SELECT 2 AS B, 3 AS C; END");
+        // The driver takes this body for statements of its own, and falls over when asked for their results.
+        run("CREATE OR REPLACE PROCEDURE Two() BEGIN SELECT 1 AS A; UPDATE NAMES SET N = N; SELECT 2 AS B, "
+            "3 AS C; END");
         const auto rs = open("exec Two");
         EXPECT_EQ(rs->Collect(u("A")).toInt(), 1);
         const auto next = rs->NextRecordset();

@@ -1,5 +1,6 @@
 #include "ado/odbc/run.h"
 
+#include "ado/dialect/tokenizer.h"
 #include "ado/object_state.h"
 #include "ado/odbc/fetch.h"
 
@@ -17,6 +18,17 @@ void rename(Result& result, const QStringList& names) {
         if (const QString& name = names[static_cast<qsizetype>(i)]; !name.isEmpty())
             result.fields[i].name = name;
     }
+}
+
+/// Whether a text that gives no records may give some behind that. What creates something never does, and
+/// MariaDB's driver, which takes a body of several statements for statements of the text's own, falls over
+/// when it is asked.
+bool mayGiveRecords(const QString& sql, Dialect dialect) {
+    for (const dialect::Token& token : dialect::tokenize(sql, dialect)) {
+        if (token.kind != dialect::TokenKind::Space)
+            return !token.isWord(u"create") && !token.isWord(u"alter");
+    }
+    return false;
 }
 
 } // namespace
@@ -61,7 +73,7 @@ void StatementStream::start(Session& session) {
 /// passed over.
 std::optional<Result> StatementStream::takeRecords() {
     while (statement_->columnCount() == 0) {
-        if (!statement_->moreResults()) {
+        if (!mayGiveRecords(sql_, statement_->session().dialect()) || !statement_->moreResults()) {
             statement_.reset();
             return std::nullopt;
         }
