@@ -126,6 +126,7 @@ TEST(Tokenizer, CommentsEndWhereTheServerEndsThem) {
 TEST(Tokenizer, WhatMariaDbExecutesIsNoComment) {
     check(Dialect::MariaDb, {{"a /*! b; [c] */ d", "w:a s:/*! b; [c] */ w:d"},
                              {"/*M!100100 a /* b */ c */ d", "s:/*M!100100 a /* b */ c */ w:d"},
+                             {"/*! /*! a */ b", "s:/*! /*! a */ w:b"},
                              {"/*m! a */ b /* !a */", "w:b"}});
     check(Dialect::PostgreSql, {{"a /*! b */ c", "w:a w:c"}});
 }

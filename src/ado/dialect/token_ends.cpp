@@ -73,7 +73,7 @@ bool TokenEnds::isExecutable(qsizetype i) const {
     return dialect_ == Dialect::MariaDb && (rest.startsWith(u"/*!") || rest.startsWith(u"/*M!"));
 }
 
-/// What such a comment holds is skipped by servers of other versions, with one comment inside.
+/// Comments of the plain form inside are comments, further ones of this form open nothing.
 qsizetype TokenEnds::ofExecutableComment(qsizetype i) const {
     return isExecutable(i) ? behindBlockComment(i, 2) : i;
 }
@@ -82,7 +82,8 @@ qsizetype TokenEnds::ofExecutableComment(qsizetype i) const {
 qsizetype TokenEnds::behindBlockComment(qsizetype i, int levels) const {
     int depth = 0;
     while (i + 1 < text_.size()) {
-        const bool opens = text_[i] == u'/' && text_[i + 1] == u'*' && depth < levels;
+        const bool opens =
+            text_[i] == u'/' && text_[i + 1] == u'*' && depth < levels && (depth == 0 || !isExecutable(i));
         const bool closes = text_[i] == u'*' && text_[i + 1] == u'/';
         depth += opens ? 1 : closes ? -1 : 0;
         i += opens || closes ? 2 : 1;
