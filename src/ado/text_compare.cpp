@@ -86,4 +86,12 @@ std::string textKey(std::string_view text) {
     return key;
 }
 
+std::u32string textCapitals(std::string_view text) {
+    std::u32string capitals;
+    capitals.reserve(text.size());
+    for (std::size_t i = 0; i < text.size();)
+        capitals += capital(nextCharacter(text, i));
+    return capitals;
+}
+
 } // namespace zkp::ado

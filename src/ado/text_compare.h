@@ -13,4 +13,7 @@ int compareTexts(std::string_view a, std::string_view b);
 /// these are byte by byte.
 std::string textKey(std::string_view text);
 
+/// The same capitals as characters.
+std::u32string textCapitals(std::string_view text);
+
 } // namespace zkp::ado

@@ -1,6 +1,7 @@
 #include "ado/sqlite/database.h"
 
 #include "ado/sqlite/collation.h"
+#include "ado/sqlite/like.h"
 #include "ado/sqlite/read_only.h"
 
 #include <QFileInfo>
@@ -50,6 +51,7 @@ void Database::prepareHandle() {
     sqlite3_busy_timeout(handle_, kBusyMilliseconds);
     interrupter_ = std::make_unique<Interrupter>(handle_);
     registerTextCollation(handle_);
+    registerLike(handle_);
     // Reads the file's head: what is no database shows itself here and not in the first statement.
     execute("SELECT count(*) FROM sqlite_schema");
     if (readOnly_)
