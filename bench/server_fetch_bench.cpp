@@ -1,7 +1,7 @@
 // How long a recordset takes to open from PostgreSQL against a bare loop that fetches the same statement in
-// blocks of the same size and touches every value, and against one row at a time; and how many bytes a
-// totals report brings over the wire against the plain one. Without a server (the connection string in
-// ZKP_TEST_POSTGRES) it says so and ends.
+// blocks of the same size and touches every value, and against one row at a time, with bound columns and
+// with each value asked for; and how many bytes a totals report brings over the wire against the plain one.
+// Without a server (the connection string in ZKP_TEST_POSTGRES) it says so and ends.
 //
 //   server_fetch_bench [--rows N] [--runs N]
 
@@ -18,6 +18,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 
 namespace {
 
@@ -65,7 +66,7 @@ struct Column {
     std::vector<SQLLEN> lengths;
 };
 
-std::vector<Column> boundColumns(SQLHSTMT statement, std::size_t rows) {
+std::vector<Column> makeColumns(std::size_t rows) {
     const std::array<std::pair<SQLSMALLINT, std::size_t>, kColumns> forms{{{SQL_C_CHAR, 81},
                                                                            {SQL_C_CHAR, 241},
                                                                            {SQL_C_CHAR, 161},
@@ -78,12 +79,8 @@ std::vector<Column> boundColumns(SQLHSTMT statement, std::size_t rows) {
                                                                            {SQL_C_SBIGINT, 8}}};
     std::vector<Column> columns;
     columns.reserve(forms.size());
-    for (const auto& [type, width] : forms) {
-        Column& column = columns.emplace_back(
-            Column{type, width, std::vector<char>(width * rows), std::vector<SQLLEN>(rows)});
-        SQLBindCol(statement, static_cast<SQLUSMALLINT>(columns.size()), type, column.bytes.data(),
-                   static_cast<SQLLEN>(width), column.lengths.data());
-    }
+    for (const auto& [type, width] : forms)
+        columns.push_back({type, width, std::vector<char>(width * rows), std::vector<SQLLEN>(rows)});
     return columns;
 }
 
@@ -95,8 +92,35 @@ void touch(const Column& column, std::size_t rows) {
     }
 }
 
+void fetchBlocks(SQLHSTMT statement, std::size_t rows) {
+    SQLULEN fetched = 0;
+    SQLSetStmtAttr(statement, SQL_ATTR_ROW_ARRAY_SIZE, reinterpret_cast<SQLPOINTER>(rows), 0);
+    SQLSetStmtAttr(statement, SQL_ATTR_ROWS_FETCHED_PTR, &fetched, 0);
+    std::vector<Column> columns = makeColumns(rows);
+    SQLUSMALLINT number = 0;
+    for (Column& column : columns)
+        SQLBindCol(statement, ++number, column.type, column.bytes.data(), static_cast<SQLLEN>(column.width),
+                   column.lengths.data());
+    while (SQL_SUCCEEDED(SQLFetch(statement))) {
+        for (const Column& column : columns)
+            touch(column, fetched);
+    }
+}
+
+void fetchValues(SQLHSTMT statement) {
+    std::vector<Column> columns = makeColumns(1);
+    while (SQL_SUCCEEDED(SQLFetch(statement))) {
+        SQLUSMALLINT number = 0;
+        for (Column& column : columns) {
+            SQLGetData(statement, ++number, column.type, column.bytes.data(),
+                       static_cast<SQLLEN>(column.width), column.lengths.data());
+            touch(column, 1);
+        }
+    }
+}
+
 /// The driver's own loop, with nothing between.
-void bareLoop(std::size_t block) {
+void bareLoop(const std::function<void(SQLHSTMT)>& fetch) {
     SQLHANDLE environment = nullptr;
     SQLHANDLE connection = nullptr;
     SQLHANDLE statement = nullptr;
@@ -110,14 +134,7 @@ void bareLoop(std::size_t block) {
     SQLAllocHandle(SQL_HANDLE_STMT, connection, &statement);
     std::string sql = kPlain;
     SQLExecDirect(statement, reinterpret_cast<SQLCHAR*>(sql.data()), SQL_NTS);
-    SQLULEN fetched = 0;
-    SQLSetStmtAttr(statement, SQL_ATTR_ROW_ARRAY_SIZE, reinterpret_cast<SQLPOINTER>(block), 0);
-    SQLSetStmtAttr(statement, SQL_ATTR_ROWS_FETCHED_PTR, &fetched, 0);
-    const std::vector<Column> columns = boundColumns(statement, block);
-    while (SQL_SUCCEEDED(SQLFetch(statement))) {
-        for (const Column& column : columns)
-            touch(column, fetched);
-    }
+    fetch(statement);
     SQLFreeHandle(SQL_HANDLE_STMT, statement);
     SQLDisconnect(connection);
 }
@@ -145,9 +162,11 @@ double wireBytes() {
 
 int work(const Words& words) {
     if (words[0] == "blocks")
-        bareLoop(kBlock);
+        bareLoop([](SQLHSTMT statement) { fetchBlocks(statement, kBlock); });
     else if (words[0] == "rows")
-        bareLoop(1);
+        bareLoop([](SQLHSTMT statement) { fetchBlocks(statement, 1); });
+    else if (words[0] == "values")
+        bareLoop(fetchValues);
     else
         recordset(words[0] == "totals" ? kTotals : kPlain);
     return touched == 0;
@@ -161,20 +180,23 @@ void measureAll(int rows, int runs) {
     makeTable(rows);
     std::vector<Sample> blocks;
     std::vector<Sample> single;
+    std::vector<Sample> values;
     std::vector<Sample> ours;
     for (int i = 0; i < runs; ++i) {
         blocks.push_back(zkp::bench::measure({"blocks"}));
         single.push_back(zkp::bench::measure({"rows"}));
+        values.push_back(zkp::bench::measure({"values"}));
         ours.push_back(zkp::bench::measure({"recordset"}));
     }
     const Sample block = medians(blocks);
     const Sample row = medians(single);
+    const Sample value = medians(values);
     const Sample own = medians(ours);
     std::printf("%d rows, 10 columns, medians of %d runs\n", rows, runs);
-    std::printf("bare loop in blocks %.2f s, row by row %.2f s, recordset %.2f s\n", block.seconds,
-                row.seconds, own.seconds);
-    std::printf("ratio to blocks %.2f (processor %.2f), to row by row %.2f\n", (own / block).seconds,
-                (own / block).processor, (own / row).seconds);
+    std::printf("bare loop in blocks %.2f s, row by row %.2f s, value by value %.2f s, recordset %.2f s\n",
+                block.seconds, row.seconds, value.seconds, own.seconds);
+    std::printf("ratio to blocks %.2f (processor %.2f), to row by row %.2f, to value by value %.2f\n",
+                (own / block).seconds, (own / block).processor, (own / row).seconds, (own / value).seconds);
 
     const double before = wireBytes();
     const Sample totals = zkp::bench::measure({"totals"});

@@ -155,6 +155,7 @@ END
     chmod 755 "$restart"
     "${user_words[@]}" "$@" >"$log" 2>&1 8>&- 9>&- </dev/null &
     server_pid=$!
+    disown "$server_pid"
 }
 
 # A data folder gets its name once it is complete, so that an interrupted start leaves none half-made.
