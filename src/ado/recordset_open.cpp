@@ -106,6 +106,7 @@ void Recordset::Requery() {
                     QStringLiteral("Operation is not allowed while the object is executing."));
     if (d->text.isEmpty())
         throw Error(kErrNotSupported, QStringLiteral("The recordset cannot be run again."));
+    const auto self = weak_from_this().lock();
     const QString filter = d->filter;
     const QString sort = d->sort;
     openText(d->text, d->connection, d->command != nullptr);

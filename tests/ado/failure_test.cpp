@@ -229,6 +229,15 @@ TEST_F(ProgressTest, TheHostMayCloseTheConnectionOrOpenTheSameRecordset) {
     EXPECT_EQ(cn->State(), adStateClosed);
 }
 
+TEST_F(ProgressTest, TheHostMayLetGoOfARecordsetThatIsRunAgain) {
+    auto rs = open("SELECT * FROM B");
+    rs->setFilter(u("n < 10"));
+    const std::weak_ptr<Recordset> watched = rs;
+    cn->setFetchProgress([&](std::int64_t) { rs.reset(); });
+    rs->Requery();
+    EXPECT_TRUE(watched.expired());
+}
+
 TEST_F(ProgressTest, LongResultsTakeFewBytesACell) {
     run("CREATE TABLE P (POLICYNO VARCHAR(20), CUSTOMER NVARCHAR(60), BRANCH NVARCHAR(40), PRODUCT "
         "NVARCHAR(40), "

@@ -66,6 +66,36 @@ TEST_F(AdoTest, LikeTakesOneEscapeSign) {
 }
 
 /// Each record may bring its own.
+TEST_F(AdoTest, LikeTakesEscapeSignsOfAColumn) {
+    run("CREATE TABLE T (N INTEGER, E TEXT)");
+    run("INSERT INTO T VALUES (1,'x'),(2,'y'),(3,'x')");
+    EXPECT_EQ(one("SELECT Group_Concat(N) FROM T WHERE 'a%b' LIKE 'ax%b' ESCAPE E").toString(),
+              QStringLiteral("1,3"));
+}
+
+/// What a file holds keeps the meaning that it has for every program.
+TEST_F(AdoTest, LikeOfAnIndexIsSQLitesOwn) {
+    run("CREATE TABLE T (N INTEGER, A TEXT)");
+    run("CREATE INDEX T_A ON T (N) WHERE A LIKE 'δημ%'");
+    run("INSERT INTO T VALUES (1,'Δημος'),(2,'δημος'),(3,'ΔΗΜΟΣ')");
+    EXPECT_EQ(one("SELECT Group_Concat(N) FROM T WHERE A LIKE 'δημ%'").toString(), QStringLiteral("1,2,3"));
+    EXPECT_EQ(one("PRAGMA integrity_check").toString(), QStringLiteral("ok"));
+}
+
+TEST_F(AdoTest, LikeIsWrittenAsTheOperatorThatSQLiteLeavesToPrograms) {
+    const auto sent = [this](const char* sql) {
+        open(sql);
+        return cn->LastStatementSent();
+    };
+    EXPECT_EQ(sent("SELECT 'Ω' Like 'ω%' AS x"), QStringLiteral("SELECT 'Ω' REGEXP 'ω%' AS x"));
+    EXPECT_EQ(sent("SELECT ('Ω') not like ('ω') AS x"), QStringLiteral("SELECT ('Ω') not REGEXP ('ω') AS x"));
+    // No letter, no case; a function's name; a name in signs.
+    EXPECT_EQ(sent("SELECT '1' LIKE '1%' AS x"), QStringLiteral("SELECT '1' LIKE '1%' AS x"));
+    EXPECT_EQ(sent("SELECT like('ω','Ω') AS x"), QStringLiteral("SELECT like('ω','Ω') AS x"));
+    EXPECT_EQ(sent("SELECT [like]+1 AS x FROM (SELECT 1 AS [like])"),
+              QStringLiteral("SELECT [like]+1 AS x FROM (SELECT 1 AS [like])"));
+}
+
 TEST_F(AdoTest, LikeTakesPatternsOfAColumn) {
     run("CREATE TABLE T (A TEXT, B TEXT)");
     run("INSERT INTO T VALUES ('Άλφα','άλ%'),('Βήτα','γ%'),('Γάμμα','ΓΆ%')");

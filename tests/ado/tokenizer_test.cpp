@@ -191,6 +191,7 @@ TEST(Tokenizer, ATextIsCutIntoItsStatements) {
                   dialect)
                 .size(),
             2u);
+        EXPECT_EQ(split("CREATE VIEW procedures AS SELECT 1 AS trigger; BEGIN; END", dialect).size(), 3u);
         EXPECT_TRUE(split("  ; -- nothing\n", dialect).empty());
         EXPECT_EQ(split("BEGIN; COMMIT", dialect).size(), 2u);
     }
@@ -211,6 +212,11 @@ TEST(Tokenizer, ATextIsCutWhereItsServerCutsIt) {
     EXPECT_EQ(split("SELECT 1 # ; it's\n; SELECT 2", Dialect::MariaDb).size(), 2u);
     EXPECT_EQ(split("SELECT 5--1; SELECT 2", Dialect::MariaDb).size(), 2u);
     EXPECT_EQ(split("/*!50003 CREATE TRIGGER t BEGIN x; END */; SELECT 2", Dialect::MariaDb).size(), 2u);
+    EXPECT_EQ(split("CREATE OR REPLACE DEFINER=`a`@`%` PROCEDURE p(x INT) BEGIN SELECT 1; SELECT 2; END; "
+                    "SELECT 3",
+                    Dialect::MariaDb)
+                  .size(),
+              2u);
     EXPECT_EQ(split("SELECT 5--1; SELECT 2", Dialect::Sqlite).size(), 1u);
 }
 

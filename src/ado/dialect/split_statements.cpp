@@ -15,16 +15,26 @@ namespace {
 class BodyWatch {
 public:
     void see(const Token& token) {
-        if (words_++ == 0)
-            creates_ = token.isWord(u"create");
-        else if (words_ <= 5 && isOneOf(token, {u"trigger", u"procedure", u"function"}))
-            hasBody_ = creates_;
-        if (hasBody_)
+        if (what_ == What::Unknown)
+            what_ = token.isWord(u"create") ? What::Creates : What::Plain;
+        else if (what_ == What::Creates)
+            what_ = created(token);
+        if (what_ == What::HasBody)
             follow(token);
     }
-    bool isInBody() const { return hasBody_ && depth_ > 0; }
+    bool isInBody() const { return what_ == What::HasBody && depth_ > 0; }
 
 private:
+    enum class What { Unknown, Plain, Creates, HasBody };
+
+    /// What is created stands behind words of all kinds, such as MariaDB's DEFINER.
+    static What created(const Token& token) {
+        if (isOneOf(token, {u"trigger", u"procedure", u"function", u"event"}))
+            return What::HasBody;
+        const bool other =
+            token.isSign(u"(") || isOneOf(token, {u"table", u"view", u"index", u"as", u"select"});
+        return other ? What::Plain : What::Creates;
+    }
     static bool isOneOf(const Token& token, std::initializer_list<QStringView> words) {
         return std::any_of(words.begin(), words.end(), [&](QStringView word) { return token.isWord(word); });
     }
@@ -39,10 +49,8 @@ private:
             ++depth_;
     }
 
-    int words_ = 0;
+    What what_ = What::Unknown;
     int depth_ = 0;
-    bool creates_ = false;
-    bool hasBody_ = false;
     bool behindEnd_ = false;
 };
 

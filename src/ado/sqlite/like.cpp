@@ -58,18 +58,12 @@ bool matches(const Characters& pattern, const Characters& text) {
     return pattern.find_first_not_of(kAnyText, p) == Characters::npos;
 }
 
-/// The pattern of a statement is most often one for all rows and is kept between them.
-const Characters& keptPattern(sqlite3_context* context, sqlite3_value* value, char32_t escape) {
-    if (const auto* kept = static_cast<const Characters*>(sqlite3_get_auxdata(context, 0)))
-        return *kept;
-    auto made = std::make_unique<Characters>(patternOf(capitalsOf(value), escape));
-    const Characters& pattern = *made;
-    sqlite3_set_auxdata(context, 0, made.release(),
-                        [](void* kept) { delete static_cast<Characters*>(kept); });
-    return pattern;
-}
+struct Pattern {
+    Characters characters;
+    char32_t escape;
+};
 
-/// like(pattern, text [, escape])
+/// The pattern, the text and the sign that takes the next sign's meaning away.
 void like(sqlite3_context* context, int count, sqlite3_value** values) {
     for (int i = 0; i < count; ++i) {
         if (sqlite3_value_type(values[i]) == SQLITE_NULL)
@@ -78,16 +72,22 @@ void like(sqlite3_context* context, int count, sqlite3_value** values) {
     const Characters escape = count > 2 ? capitalsOf(values[2]) : Characters(1, kNoEscape);
     if (escape.size() != 1)
         return sqlite3_result_error(context, "ESCAPE expression must be a single character", -1);
-    sqlite3_result_int(context,
-                       matches(keptPattern(context, values[0], escape.front()), capitalsOf(values[1])));
+    const Characters text = capitalsOf(values[1]);
+    // The pattern of a statement is most often one for all rows and is kept between them.
+    const auto* kept = static_cast<const Pattern*>(sqlite3_get_auxdata(context, 0));
+    if (kept && kept->escape == escape.front())
+        return sqlite3_result_int(context, matches(kept->characters, text));
+    auto made =
+        std::make_unique<Pattern>(Pattern{patternOf(capitalsOf(values[0]), escape.front()), escape.front()});
+    sqlite3_result_int(context, matches(made->characters, text));
+    sqlite3_set_auxdata(context, 0, made.release(), [](void* old) { delete static_cast<Pattern*>(old); });
 }
 
 } // namespace
 
 void registerLike(sqlite3* handle) {
     for (const int count : {2, 3})
-        sqlite3_create_function_v2(handle, "like", count,
-                                   SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, nullptr, like,
+        sqlite3_create_function_v2(handle, "regexp", count, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, like,
                                    nullptr, nullptr, nullptr);
 }
 
