@@ -84,7 +84,9 @@ TEST(ReadOnlyServer, WordsCountWhereTheServerReadsThem) {
           "SELECT \u00A0$$; DELETE FROM T; --$$", "SELECT set_config('a','off',false)",
           "SELECT pg_catalog.\"set_config\"('a','off',false)",
           "SELECT U&\"\\0073et_config\"('a','off',false)",
-          "SELECT U&\"!0073et_config\" UESCAPE '!' ('a','off',false)"})
+          "SELECT U&\"!0073et_config\" UESCAPE '!' ('a','off',false)",
+          "SELECT query_to_xml('SELECT set_config(''a'',''off'',false)',true,true,'')",
+          "SELECT ts_stat('DELETE FROM T')", "SELECT [dblink]('a', 'DELETE FROM T')"})
         EXPECT_EQ(readingOf(u(refused), Dialect::PostgreSql), Reading::Refused) << refused;
     for (const char* read :
          {"SELECT a$b FROM T", "SELECT date'2026-01-01'", "SELECT 1 -- '\r\n", "SELECT $$it's; delete$$",

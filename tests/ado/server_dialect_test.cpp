@@ -17,7 +17,7 @@ dialect::ServerFacts server() {
                 catalogue.addFlag(u("dict"), u("Sum"));
                 return catalogue.namesIn(tokens);
             },
-            [] { return u("zkp"); }};
+            [] { return u("zkp"); }, [] { return true; }};
 }
 
 QString postgres(const char* statement) {
@@ -114,6 +114,42 @@ TEST(PostgresDialect, GroupsComeSortedWhereNoOrderIsGiven) {
         u("SELECT A, YEAR(B) FROM T Group By A,YEAR(B) HAVING A>1 order by Count(*) desc,a asc, YEAR(B)"));
     const char* both = "SELECT A FROM T Group By A UNION SELECT B FROM U";
     EXPECT_EQ(postgres(both), u(both));
+}
+
+TEST(PostgresDialect, GroupsAreLeftUnsortedWhereMoreThanAnOrderFollows) {
+    for (const char* sql :
+         {"SELECT A,B FROM T GROUP BY A,B OFFSET 1", "SELECT A,B FROM T GROUP BY A,B FETCH FIRST 2 ROWS ONLY",
+          "SELECT A,B FROM T GROUP BY A,B HAVING A>1 LIMIT 2", "SELECT A,B FROM T GROUP BY A,B FOR UPDATE",
+          "SELECT A,B FROM T GROUP BY A,percent WINDOW w AS (PARTITION BY A)"})
+        EXPECT_EQ(postgres(sql), u(sql));
+    for (const char* sql :
+         {"SELECT A,B FROM T GROUP BY A,B WITH ROLLUP", "SELECT A,B FROM T GROUP BY A,B LOCK IN SHARE MODE",
+          "SELECT A,B FROM T GROUP BY A,B ORDER BY A DESC FOR UPDATE",
+          "SELECT A,B FROM T GROUP BY A,B INTO OUTFILE 'x'", "SELECT A,B FROM T GROUP BY A,B PROCEDURE X()"})
+        EXPECT_EQ(mariaDb(sql), u(sql));
+    EXPECT_EQ(postgres("SELECT A,B FROM T GROUP BY A,B ORDER BY B DESC FETCH FIRST 2 ROWS ONLY"),
+              u("SELECT A,B FROM T GROUP BY A,B ORDER BY B DESC NULLS LAST FETCH FIRST 2 ROWS ONLY"));
+    EXPECT_EQ(mariaDb("SELECT offset,T.lock FROM T GROUP BY offset,T.lock"),
+              u("SELECT offset,T.lock FROM T GROUP BY offset,T.lock ORDER BY offset, T.lock"))
+        << "columns of these names";
+}
+
+TEST(PostgresDialect, CollationsAndTypesInQuotesKeepTheirCapitals) {
+    EXPECT_EQ(postgres("SELECT A COLLATE \"C\", B::\"Colour\", [C], \"D\" FROM T ORDER BY A COLLATE "
+                       "pg_catalog.\"POSIX\""),
+              u("SELECT A COLLATE \"C\", B::\"Colour\", \"c\", \"d\" FROM T ORDER BY A COLLATE "
+                "pg_catalog.\"POSIX\" NULLS FIRST"));
+}
+
+TEST(PostgresDialect, ConstantsOfATypeTakeNoCollation) {
+    for (const char* sql :
+         {"SELECT 1 WHERE interval '1 day' > interval '1 hour'",
+          "SELECT 1 FROM T WHERE timestamp '2020-01-01T00:00:00' <= D AND date 'Jan 1 2020' < D"}) {
+        EXPECT_EQ(postgres(sql), u(sql));
+        EXPECT_EQ(mariaDb(sql), u(sql));
+    }
+    EXPECT_EQ(postgres("SELECT 1 FROM T WHERE N'x' = A AND NOT 'y' = A"),
+              u("SELECT 1 FROM T WHERE 'x' COLLATE zkp = A AND NOT 'y' COLLATE zkp = A"));
 }
 
 TEST(PostgresDialect, FieldsKeepTheNamesThatTheStatementWrites) {

@@ -46,6 +46,59 @@ TEST_P(ServerConditionsTest, PatternsIgnoreCaseAndHeedAccents) {
               QStringList({u("4"), u("2")}));
 }
 
+TEST_P(ServerConditionsTest, PatternsMayBeOfManyParts) {
+    EXPECT_EQ(numbers("NAME LIKE CASE WHEN N<3 THEN 'δημ%' ELSE 'ν%' END"), u("1 2 3 4"));
+    EXPECT_EQ(numbers("(SELECT NAME) LIKE 'δημοσ%'"), u("1 2"));
+    EXPECT_EQ(numbers("NAME || 'Σ' LIKE 'νίκος_'"), u("3"));
+    make("ZT_WORDS", "N INTEGER, PERCENT VARCHAR(20), TYPE VARCHAR(20)");
+    run("INSERT INTO ZT_WORDS VALUES (1, 'Άλφα', 'τ')");
+    for (const char* condition :
+         {"PERCENT LIKE 'άλ%'", "ZT_WORDS.PERCENT LIKE 'άλ%'", "PERCENT || TYPE LIKE 'άλφαΤ'",
+          "TYPE || PERCENT LIKE 'τΆΛ%'", "ZT_WORDS.PERCENT || ZT_WORDS.TYPE LIKE 'άλ%'"})
+        EXPECT_EQ(one((std::string("SELECT Count(*) FROM ZT_WORDS WHERE ") + condition).c_str()).toInt(), 1)
+            << condition;
+    if (isPostgres()) {
+        EXPECT_EQ(numbers("NAME LIKE E'δημοσ%' OR NAME LIKE $$νίκ%$$"), u("1 2 3"));
+        EXPECT_EQ(numbers("NAME COLLATE \"C\" LIKE 'AX%'"), u("6"));
+        EXPECT_EQ(numbers("interval '1 day' > interval '1 hour' AND N=1"), u("1"));
+    }
+    EXPECT_EQ(numbers("timestamp '2020-01-01 00:00:00' < timestamp '2020-01-02 00:00:00' AND N=1"), u("1"));
+}
+
+TEST_P(ServerConditionsTest, ASignOfAPatternIsOneLetter) {
+    run("DELETE FROM ZT_CONDITIONS");
+    run("INSERT INTO ZT_CONDITIONS VALUES ('Μαΐου', 1, 0), ('Ταΰγετος', 2, 0), ('Straße', 3, 0), ('ᾳx', 4, "
+        "0), "
+        "('ΜΑΪ́ΟΥ', 5, 0)");
+    EXPECT_EQ(numbers("NAME LIKE 'μα_ου'"), u("1"));
+    EXPECT_EQ(numbers("NAME LIKE 'ΤΑ_ΓΕΤΟΣ'"), u("2"));
+    EXPECT_EQ(numbers("NAME LIKE 'stra_e'"), u("3"));
+    EXPECT_EQ(numbers("NAME LIKE '_X'"), u("4"));
+}
+
+TEST_P(ServerConditionsTest, ABackslashInAPatternIsItself) {
+    run("DELETE FROM ZT_CONDITIONS");
+    run("INSERT INTO ZT_CONDITIONS VALUES ('C:\\docs\\α', 1, 0), ('x\\y', 2, 0), ('10%', 3, 0), ('|\\', 4, "
+        "0)");
+    EXPECT_EQ(numbers("NAME LIKE 'c:\\docs\\Α'"), u("1"));
+    EXPECT_EQ(numbers("NAME LIKE '%\\%'"), u("1 2 4"));
+    EXPECT_EQ(numbers("NAME LIKE '|\\'"), u("4"));
+    EXPECT_EQ(numbers("NAME NOT LIKE 'X\\_'"), u("1 3 4"));
+    EXPECT_EQ(numbers("NAME LIKE '10\\%' ESCAPE '\\'"), u("3"));
+}
+
+TEST_P(ServerConditionsTest, WhatFollowsTheGroupsStaysLast) {
+    const char* const endings[] = {isPostgres() ? " OFFSET 1" : " WITH ROLLUP",
+                                   isPostgres() ? " FETCH FIRST 2 ROWS ONLY" : " LOCK IN SHARE MODE",
+                                   isPostgres() ? " ORDER BY M FETCH FIRST 2 ROWS ONLY" : " FOR UPDATE",
+                                   " LIMIT 1"};
+    for (const char* ending : endings)
+        EXPECT_GT(open((std::string("SELECT N, M FROM ZT_CONDITIONS GROUP BY N, M") + ending).c_str())
+                      ->RecordCount(),
+                  0)
+            << ending;
+}
+
 TEST_P(ServerConditionsTest, ACaseWithASubjectComparesValues) {
     EXPECT_EQ(values("CASE N WHEN M THEN 1 ELSE 0 END"), u("1 1 0 1 0 1 1"));
     EXPECT_EQ(values("CASE [N] WHEN [M] THEN 'same' WHEN 3 THEN 'three' ELSE 'other' END"),

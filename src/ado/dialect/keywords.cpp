@@ -25,14 +25,24 @@ bool isKeyword(const Token& token) {
         u"return",  u"revoke",     u"right",  u"rollback", u"schema",   u"select",      u"set",
         u"some",    u"table",      u"then",   u"to",       u"top",      u"transaction", u"trigger",
         u"true",    u"truncate",   u"union",  u"unique",   u"update",   u"use",         u"user",
-        u"values",  u"view",       u"when",   u"where",    u"while",    u"with"};
+        u"values",  u"view",       u"when",   u"where",    u"while",    u"with",        u"xor"};
     return token.kind == TokenKind::Word && words.contains(token.text.toString().toLower());
+}
+
+bool mayBeName(const Token& token) {
+    return isOneOf(token,
+                   {u"add",    u"alter",  u"begin",    u"commit",  u"cursor",      u"database", u"declare",
+                    u"delete", u"drop",   u"exec",     u"execute", u"function",    u"if",       u"index",
+                    u"insert", u"key",    u"merge",    u"of",      u"option",      u"percent",  u"procedure",
+                    u"return", u"revoke", u"rollback", u"schema",  u"transaction", u"trigger",  u"truncate",
+                    u"update", u"use",    u"view",     u"while"});
 }
 
 bool endsValue(const Token& token) {
     if (token.kind == TokenKind::Sign)
         return token.nesting() < 0;
-    return !isKeyword(token) || isOneOf(token, {u"end", u"null", u"true", u"false"});
+    return !isKeyword(token) || mayBeName(token) ||
+           isOneOf(token, {u"end", u"null", u"true", u"false", u"user"});
 }
 
 } // namespace zkp::ado::dialect

@@ -4,6 +4,8 @@
 #include "ado/dialect/server_rewriter.h"
 #include "base/text.h"
 
+#include <optional>
+
 namespace zkp::ado::dialect {
 
 namespace {
@@ -22,6 +24,10 @@ public:
         const bool answered = isAnswered();
         if (answered) {
             compareWithoutCase(collation());
+            for (std::size_t k = 0; k < count(); ++k) {
+                if (at(k).isWord(u"like"))
+                    takeBackslashes(pattern(k));
+            }
             divideAsReal(QStringLiteral("1e0"));
         }
         for (std::size_t k = 0; k < count(); ++k) {
@@ -48,6 +54,22 @@ private:
             if (const auto constant = casedConstant(likened(k), pattern(k)))
                 written(*constant) += QStringLiteral(" COLLATE ") + collation;
         }
+    }
+
+    /// The first constant of the pattern that is a value by itself, or what is likened. Nothing where a side
+    /// tells by itself how it compares, or the pattern is a select.
+    std::optional<std::size_t> casedConstant(const Operand& likened, const Operand& pattern) const {
+        if (!isPlain(likened) || !isPlain(pattern))
+            return {};
+        for (std::size_t k = pattern.first; k < pattern.end && !at(k).isWord(u"select"); ++k) {
+            const bool isValue = k == pattern.first || at(k - 1).kind == TokenKind::Sign ||
+                                 isOneOf(at(k - 1), {u"then", u"else"});
+            if (isValue && isCasedConstant(k) && !isCompared(k))
+                return k;
+        }
+        if (isConstant(likened) && isCasedConstant(likened.first))
+            return likened.first;
+        return {};
     }
 
     /// Tables are files, whose names have capitals; columns are found in any case, Greek ones not always.

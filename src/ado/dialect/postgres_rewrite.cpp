@@ -69,10 +69,21 @@ void PostgresRewriter::rewriteName(std::size_t k) {
     const auto kept = names().spelling.constFind(nameKey(name));
     const bool isKept = kept != names().spelling.cend();
     const bool isCall = bare && at(k + 1).isSign(u"(");
-    if (bare && (!isKept || isCall || isKeyword(token)))
+    if ((bare && (!isKept || isCall || isKeyword(token))) || isOfTheServer(k))
         return;
     const QString behind = now(k).mid(token.text.size());
     written(k) = quoted(isKept ? *kept : folded(name)) + behind;
+}
+
+/// Whether a name in quotes is a collation's or a type's, which the catalogue here doesn't know: "C" is no
+/// "c".
+bool PostgresRewriter::isOfTheServer(std::size_t k) const {
+    if (!at(k).text.startsWith(u'"'))
+        return false;
+    std::size_t first = k;
+    while (first > 1 && at(first - 1).isSign(u"."))
+        first -= 2;
+    return at(first - 1).isWord(u"collate") || (at(first - 1).isSign(u":") && at(first - 2).isSign(u":"));
 }
 
 Rewritten rewriteForPostgres(const QString& statement, const ServerFacts& server) {

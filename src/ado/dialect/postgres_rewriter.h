@@ -14,10 +14,11 @@ public:
 private:
     void compareWithoutCase(const QString& collation);
     void rewriteName(std::size_t k);
+    bool isOfTheServer(std::size_t k) const;
 
     // postgres_like.cpp
     void rewriteLike(std::size_t k, const QString& collation);
-    void inCapitals(const Operand& operand, const QString& collation);
+    void inSmallLetters(const Operand& operand, const QString& collation);
 
     // postgres_flags.cpp
     void rewriteFlag(std::size_t k);

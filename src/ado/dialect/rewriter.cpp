@@ -1,5 +1,7 @@
 #include "ado/dialect/rewriter.h"
 
+#include "ado/dialect/keywords.h"
+
 #include <QDate>
 
 #include <algorithm>
@@ -98,7 +100,10 @@ bool Rewriter::isCasedConstant(std::size_t k) const {
     const QStringView text = at(k).text;
     // The database's words shall show a constant without an end as it came.
     const bool isClosed = text.size() > 1 && text.endsWith(u'\'');
-    return at(k).kind == TokenKind::Text && isClosed && hasCase(text) && !at(k + 1).isWord(u"collate");
+    // Behind a type's name: interval '1 day'.
+    const bool isTyped = isName(at(k - 1)) && !isKeyword(at(k - 1));
+    return at(k).kind == TokenKind::Text && isClosed && hasCase(text) && !isTyped &&
+           !at(k + 1).isWord(u"collate");
 }
 
 int Rewriter::nesting(const Token& token) {

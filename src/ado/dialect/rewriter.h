@@ -38,8 +38,10 @@ protected:
     /// A constant of nothing but signs and digits (a date, a code) compares alike with case and without:
     /// an index stays of use. So does one that can be a key of a server's own making.
     static bool hasCase(QStringView constant);
-    /// Whether a constant that has a case stands at a place, without a collation of its own.
+    /// Whether a text constant that has a case stands at a place, without a collation or type of its own.
     bool isCasedConstant(std::size_t k) const;
+    /// Whether a constant stands where it is compared.
+    bool isCompared(std::size_t k) const;
     /// 1 for a bracket or CASE that opens, -1 for what closes one.
     static int nesting(const Token& token);
     /// The CASE that a WHEN belongs to, and whether the WHEN holds a value that the CASE compares: it holds
@@ -69,7 +71,6 @@ private:
     bool isComparison(std::size_t k) const;
     void rewriteConvert(std::size_t k);
     void rewriteTop(std::size_t k, const QString& beforeMember, const QString& behindMember);
-    bool isCompared(std::size_t k) const;
     void drop(std::size_t token);
 
     const QString& statement_;

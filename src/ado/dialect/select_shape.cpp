@@ -29,7 +29,7 @@ std::vector<Item> itemsUpTo(const std::vector<Token>& tokens, std::size_t& at, F
     int depth = 0;
     for (; at < tokens.size(); ++at) {
         const Token& token = tokens[at];
-        if (depth == 0 && ends(token))
+        if (depth == 0 && ends(at))
             break;
         depth += token.nesting();
         if (depth < 0)
@@ -52,7 +52,7 @@ std::vector<Item> selectItems(const std::vector<Token>& tokens, std::size_t& at)
     if (at + 1 < tokens.size() && tokens[at].isWord(u"top") && tokens[at + 1].kind == TokenKind::Number)
         at += 2;
     return itemsUpTo(tokens, at,
-                     [](const Token& token) { return token.isWord(u"from") || token.isSign(u";"); });
+                     [&](std::size_t k) { return tokens[k].isWord(u"from") || tokens[k].isSign(u";"); });
 }
 
 QString textOfItem(const Item& item) {
@@ -81,6 +81,17 @@ QStringView sourceText(const Item& item) {
 
 bool sameText(const Item& a, const Item& b) {
     return textOfItem(a).compare(textOfItem(b), Qt::CaseInsensitive) == 0;
+}
+
+/// Whether the items of a "group by" or an order end ahead of a place. Some of the words that end them may
+/// be columns, too.
+bool endsGroups(const std::vector<Token>& tokens, std::size_t k) {
+    const Token& before = tokens[k - 1];
+    const bool behindItem = before.kind == TokenKind::Sign ? before.nesting() < 0 : !before.isWord(u"by");
+    return tokens[k].isSign(u";") ||
+           isOneOf(tokens[k], {u"having", u"order", u"union", u"except", u"intersect"}) ||
+           (behindItem && isOneOf(tokens[k], {u"limit", u"offset", u"fetch", u"for", u"window", u"with",
+                                              u"lock", u"into", u"procedure"}));
 }
 
 /// The place behind the outer "group by"; 0 when there is none.
@@ -131,10 +142,7 @@ GroupOrder groupOrder(const std::vector<Token>& statement) {
     at = selected.empty() ? 0 : behindGroupBy(tokens, at);
     if (at == 0)
         return {};
-    const auto ends = [](const Token& token) {
-        return isOneOf(token, {u"having", u"order", u"union", u"except", u"intersect", u"limit"}) ||
-               token.isSign(u";");
-    };
+    const auto ends = [&](std::size_t k) { return endsGroups(tokens, k); };
     const std::vector<Item> groups = itemsUpTo(tokens, at, ends);
     if (at < tokens.size() && tokens[at].isWord(u"having"))
         itemsUpTo(tokens, ++at, ends);

@@ -10,6 +10,8 @@ namespace zkp::ado::dialect {
 struct ServerFacts {
     std::function<StatementNames(const std::vector<Token>&)> names;
     std::function<QString()> collation; ///< for comparisons with constants; empty where there is none
+    /// Whether texts can hold the sigma of a word's end, and statements so.
+    std::function<bool()> hasSigma = [] { return false; };
 };
 
 /// A statement in a server's words.

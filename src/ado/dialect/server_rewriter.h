@@ -3,8 +3,6 @@
 #include "ado/dialect/rewriter.h"
 #include "ado/dialect/server_rewrite.h"
 
-#include <optional>
-
 namespace zkp::ado::dialect {
 
 /// The steps that servers share: they know the names of their catalogue, have a collation for comparisons
@@ -13,6 +11,7 @@ class ServerRewriter : public Rewriter {
 protected:
     ServerRewriter(const QString& statement, Dialect dialect, const ServerFacts& server);
 
+    const ServerFacts& server() const { return server_; }
     const StatementNames& names() const { return names_; }
     /// Empty when nothing that has a case is compared, which is not asked of the server then: asking can be
     /// a round trip.
@@ -27,17 +26,24 @@ protected:
         std::size_t first;
         std::size_t end;
     };
-    /// The sides of the LIKE at a place.
+    // server_like.cpp
+    /// The sides of the LIKE at a place; empty where it isn't sure how far one goes, so that nothing is put
+    /// around it.
     Operand likened(std::size_t k) const;
     Operand pattern(std::size_t k) const;
-    /// The constant whose case a LIKE has to ignore: the first of the pattern, or what is likened. Nothing
-    /// where an operand tells by itself how it compares, or is a select.
-    std::optional<std::size_t> casedConstant(const Operand& likened, const Operand& pattern) const;
+    bool isConstant(const Operand& operand) const;
+    /// Whether it doesn't tell by itself how it compares.
+    bool isPlain(const Operand& operand) const;
+    /// Whether a constant in it has letters.
+    bool hasLetters(const Operand& operand) const;
+    /// Lets a "\" in a pattern stand for itself, as it does on SQL Server and SQLite.
+    void takeBackslashes(const Operand& pattern);
 
 private:
+    bool isWordOfLanguage(std::size_t k) const;
     bool endsOperand(std::size_t k) const;
     bool isSeam(std::size_t k) const;
-    bool isPlain(const Operand& operand) const;
+    bool isJoin(std::size_t k) const;
     void collateList(std::size_t first, const QString& collation);
 
     const ServerFacts& server_;

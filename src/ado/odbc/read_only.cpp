@@ -72,10 +72,15 @@ bool beginsAnother(const Token& token) {
                     u"use",    u"writetext", u"updatetext", u"reconfigure"});
 }
 
-/// A function that can let PostgreSQL's session write, or a name like U&"\0073et" that can be anything.
+/// A function that can let PostgreSQL's session write, by itself or in a text that it runs, or a name like
+/// U&"\0073et" that can be anything.
 bool setsConfiguration(const Token& token) {
+    static const QStringView names[] = {u"SET_CONFIG", u"QUERY_TO_XML",     u"QUERY_TO_XMLSCHEMA",
+                                        u"TS_STAT",    u"TS_REWRITE",       u"QUERY_TO_XML_AND_XMLSCHEMA",
+                                        u"DBLINK",     u"DBLINK_EXEC",      u"DBLINK_OPEN",
+                                        u"UESCAPE",    u"DBLINK_SEND_QUERY"};
     const QString name = isName(token) ? nameKey(dialect::nameOf(token)) : QString();
-    return name == u"SET_CONFIG" || name == u"UESCAPE" || name.contains(u'\\');
+    return std::find(std::begin(names), std::end(names), name) != std::end(names) || name.contains(u'\\');
 }
 
 /// Whether a server does more than the first words say.

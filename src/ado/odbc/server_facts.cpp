@@ -82,10 +82,14 @@ void makePostgresCollation(Session& session) {
                  "'und-u-ks-level2', deterministic = false)");
 }
 
+QString postgresEncoding(Session& session) {
+    const Result encoding = ask(session, "SHOW server_encoding");
+    return encoding.table.rows > 0 ? encoding.table.columns[0]->value(0).toString() : QString();
+}
+
 /// A database of bytes without an encoding has no letters either: its texts compare as they are.
 bool hasLetters(Session& session) {
-    const Result encoding = ask(session, "SHOW server_encoding");
-    const QString name = encoding.table.rows > 0 ? encoding.table.columns[0]->value(0).toString() : QString();
+    const QString name = postgresEncoding(session);
     return name != QStringLiteral("SQL_ASCII") && name != QStringLiteral("MULE_INTERNAL");
 }
 
@@ -194,6 +198,12 @@ QString chooseCollation(Session& session) {
     default:
         return {};
     }
+}
+
+bool postgresHasSigma(Session& session) {
+    const QString name = postgresEncoding(session);
+    return name == QStringLiteral("UTF8") || name == QStringLiteral("ISO_8859_7") ||
+           name == QStringLiteral("WIN1253");
 }
 
 } // namespace zkp::ado::odbc

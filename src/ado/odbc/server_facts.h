@@ -17,4 +17,8 @@ dialect::Catalogue readCatalogue(Session& session);
 /// nobody be told.
 QString chooseCollation(Session& session);
 
+/// Whether PostgreSQL's database has the sigma of a word's end among its signs: a statement with one is an
+/// error elsewhere.
+bool postgresHasSigma(Session& session);
+
 } // namespace zkp::ado::odbc

@@ -188,4 +188,10 @@ const QString& Session::collation() {
     return *collation_;
 }
 
+bool Session::hasSigma() {
+    if (!hasSigma_)
+        hasSigma_ = postgresHasSigma(*this);
+    return *hasSigma_;
+}
+
 } // namespace zkp::ado::odbc

@@ -63,6 +63,8 @@ public:
     /// The collation for comparisons with constants; empty where the server has none to offer. Error
     /// kErrDatabase where one can't be made.
     const QString& collation();
+    /// Whether the texts of a PostgreSQL database can hold a "ς".
+    bool hasSigma();
 
 private:
     void connect(const QString& text);
@@ -87,6 +89,7 @@ private:
     std::optional<dialect::Catalogue> catalogue_;
     std::optional<QString> collation_;
     bool triedCollation_ = false;
+    std::optional<bool> hasSigma_;
     std::vector<Statement*> statements_;
     Canceller canceller_;
 };

@@ -7,7 +7,7 @@ namespace zkp::ado::odbc {
 dialect::Rewritten translate(Session& session, const QString& statement) {
     const dialect::ServerFacts facts{
         [&session](const std::vector<dialect::Token>& tokens) { return session.catalogue().namesIn(tokens); },
-        [&session] { return session.collation(); }};
+        [&session] { return session.collation(); }, [&session] { return session.hasSigma(); }};
     switch (session.dialect()) {
     case Dialect::PostgreSql:
         return dialect::rewriteForPostgres(statement, facts);
