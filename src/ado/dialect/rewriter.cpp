@@ -38,6 +38,7 @@ Rewriter::Rewriter(const QString& statement, Dialect dialect)
         else if (tokens_[i].kind != TokenKind::Space)
             solid_.push_back(i);
     }
+    survey();
 }
 
 const Token& Rewriter::at(std::size_t k) const {
@@ -72,22 +73,25 @@ bool Rewriter::isComparison(std::size_t k) const {
            std::find(std::begin(signs), std::end(signs), token.text) != std::end(signs);
 }
 
-bool Rewriter::assigns(std::size_t k) const {
-    if (!at(0).isWord(u"update") || !at(k).isSign(u"="))
-        return false;
-    int depth = 0;
+void Rewriter::survey() {
+    cases_.assign(count(), count());
+    assigns_.assign(count(), false);
+    std::vector<std::size_t> open;
     bool awaited = false;
-    for (std::size_t i = 1; i < k; ++i) {
-        const Token& token = at(i);
-        depth += token.isSign(u"(") ? 1 : token.isSign(u")") ? -1 : 0;
-        if (depth != 0)
-            continue;
-        if (token.isWord(u"set") || token.isSign(u","))
-            awaited = true;
-        else if (token.isWord(u"where") || token.isSign(u"="))
-            awaited = false;
+    for (std::size_t k = 0; k < count(); ++k) {
+        const Token& token = at(k);
+        if (!open.empty() && at(open.back()).isWord(u"case"))
+            cases_[k] = open.back();
+        assigns_[k] = awaited && open.empty() && token.isSign(u"=");
+        if (open.empty() && at(0).isWord(u"update"))
+            awaited = token.isWord(u"set") || token.isSign(u",") ||
+                      (awaited && !token.isWord(u"where") && !token.isSign(u"="));
+        const int nests = nesting(token);
+        if (nests > 0)
+            open.push_back(k);
+        else if (nests < 0 && !open.empty())
+            open.pop_back();
     }
-    return awaited && depth == 0;
 }
 
 bool Rewriter::hasCase(QStringView constant) {
@@ -110,16 +114,6 @@ int Rewriter::nesting(const Token& token) {
     return token.isWord(u"case") ? 1 : token.isWord(u"end") ? -1 : token.nesting();
 }
 
-std::size_t Rewriter::caseOf(std::size_t when) const {
-    int depth = 0;
-    for (std::size_t k = when; k-- > 0;) {
-        depth += nesting(at(k));
-        if (depth > 0)
-            return at(k).isWord(u"case") ? k : count();
-    }
-    return count();
-}
-
 bool Rewriter::isSimpleWhen(std::size_t k) const {
     if (!at(k).isWord(u"when"))
         return false;
@@ -139,6 +133,7 @@ void Rewriter::datesToIso() {
         if (at(k).isWord(u"convert"))
             rewriteConvert(k);
     }
+    survey();
 }
 
 void Rewriter::rewriteConvert(std::size_t k) {

@@ -28,7 +28,7 @@ protected:
     /// Whether the token at a place compares what stands on its two sides.
     bool compares(std::size_t k) const { return isComparison(k) && !assigns(k); }
     /// Whether it is the "=" by which an UPDATE gives a column its value.
-    bool assigns(std::size_t k) const;
+    bool assigns(std::size_t k) const { return k < count() && assigns_[k]; }
     static bool isName(const Token& token) {
         return token.kind == TokenKind::Word || token.kind == TokenKind::Name;
     }
@@ -46,7 +46,7 @@ protected:
     static int nesting(const Token& token);
     /// The CASE that a WHEN belongs to, and whether the WHEN holds a value that the CASE compares: it holds
     /// a condition where nothing stands between "case" and the first "when".
-    std::size_t caseOf(std::size_t when) const;
+    std::size_t caseOf(std::size_t when) const { return when < count() ? cases_[when] : count(); }
     bool isSimpleWhen(std::size_t k) const;
     /// Statements whose comparisons are answered now. What others hold is stored (views, triggers) and
     /// must stay readable to every program.
@@ -68,6 +68,8 @@ protected:
     std::size_t endOfSelect(std::size_t k, bool isMember) const;
 
 private:
+    /// Works out in one walk what is asked of each place, for the places as they are now.
+    void survey();
     bool isComparison(std::size_t k) const;
     void rewriteConvert(std::size_t k);
     void rewriteTop(std::size_t k, const QString& beforeMember, const QString& behindMember);
@@ -77,6 +79,8 @@ private:
     std::vector<Token> tokens_;
     QStringList written_;            ///< what each token becomes
     std::vector<std::size_t> solid_; ///< the tokens that are no space
+    std::vector<std::size_t> cases_; ///< the CASE that each place is in, or their count
+    std::vector<bool> assigns_;
     bool changed_ = false;
 };
 
