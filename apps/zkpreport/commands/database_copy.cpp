@@ -3,6 +3,7 @@
 #include "commands/server_words.h"
 
 #include "ado/recordset.h"
+#include "base/error.h"
 
 #include <QStringList>
 
@@ -31,9 +32,17 @@ public:
         }
         for (const QString& statement : objects("index", "sql"))
             into_->Execute(statement);
-        for (const QString& statement : objects("view", "sql"))
-            into_->Execute(words_.expression(statement));
+        for (const QString& view : objects("view", "name"))
+            makeView(view);
         into_->Execute(words_.hierarchyProcedure());
+    }
+
+    /// Takes away what was made, the latest first, where a rollback undoes no making of tables.
+    void undo() {
+        if (words_.isPostgres())
+            return;
+        for (; !made_.isEmpty(); made_.removeLast())
+            into_->Execute(QStringLiteral("DROP %1").arg(made_.last()));
     }
 
 private:
@@ -70,7 +79,16 @@ private:
         }
         if (!keys.isEmpty())
             parts << QStringLiteral("PRIMARY KEY (%1)").arg(keys.join(QStringLiteral(", ")));
-        into_->Execute(QStringLiteral("CREATE TABLE [%1] (%2)").arg(table, parts.join(QStringLiteral(", "))));
+        into_->Execute(QStringLiteral("CREATE TABLE [%1] (%2)%3")
+                           .arg(table, parts.join(QStringLiteral(", ")), words_.tableOptions()));
+        made_ << QStringLiteral("TABLE [%1]").arg(table);
+    }
+
+    void makeView(const QString& view) {
+        const auto text =
+            from_->Execute(QStringLiteral("SELECT sql FROM sqlite_schema WHERE name = '%1'").arg(view));
+        into_->Execute(words_.expression(text->Fields().Item(0).Value().toString()));
+        made_ << QStringLiteral("VIEW [%1]").arg(view);
     }
 
     void copyRecords(const QString& table) {
@@ -100,9 +118,19 @@ private:
     ado::ConnectionPtr from_;
     ado::ConnectionPtr into_;
     ServerWords words_;
+    QStringList made_; ///< what DROP takes away again
 };
 
 } // namespace
+
+void mustBeEmpty(const ado::ConnectionPtr& database, const QString& name) {
+    const auto found = database->Execute(ServerWords(database).findContents());
+    if (!found->Eof())
+        throw Error(kErrDatabase,
+                    QStringLiteral("the database %1 is not empty: it holds %2. Nothing was made; "
+                                   "the demonstration wants a database of its own")
+                        .arg(name, found->Fields().Item(0).Value().toString()));
+}
 
 void copyDemoDatabase(const ado::ConnectionPtr& from, const ado::ConnectionPtr& into) {
     DemoCopy copy(from, into);
@@ -112,6 +140,7 @@ void copyDemoDatabase(const ado::ConnectionPtr& from, const ado::ConnectionPtr& 
     } catch (...) {
         try {
             into->RollbackTrans();
+            copy.undo();
         } catch (const std::exception&) {
             // What failed first is what is told.
         }

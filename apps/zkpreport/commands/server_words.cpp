@@ -17,6 +17,17 @@ ServerWords::ServerWords(const ado::ConnectionPtr& connection) {
         throw Error(kErrNotSupported,
                     QStringLiteral("The demonstration database goes into PostgreSQL or MariaDB, not into %1")
                         .arg(version));
+    isOtherCharacterSet_ =
+        !isPostgres_ && connection->Execute(QStringLiteral("SELECT @@character_set_database"))
+                                ->Fields()
+                                .Item(0)
+                                .Value()
+                                .toString() != QStringLiteral("utf8mb4");
+}
+
+/// In a database of utf8mb4 the tables have its collation.
+QString ServerWords::tableOptions() const {
+    return isOtherCharacterSet_ ? QStringLiteral(" CHARACTER SET utf8mb4") : QString();
 }
 
 QString ServerWords::type(const QString& declared, int length) const {
@@ -80,8 +91,17 @@ QString ServerWords::hierarchyProcedure() const {
         return QStringLiteral("CREATE FUNCTION Sec_GetUserIerarxiaID(who TEXT) RETURNS TABLE (Ierarxia TEXT, "
                               "IerID TEXT) LANGUAGE sql STABLE AS 'SELECT CAST(u.Ierarxia AS TEXT), "
                               "CAST(u.IerID AS TEXT) FROM SECUSERS u WHERE u.UserID = who'");
-    return QStringLiteral("CREATE PROCEDURE Sec_GetUserIerarxiaID(who VARCHAR(100)) READS SQL DATA "
-                          "SELECT Ierarxia, IerID FROM SECUSERS WHERE UserID = who");
+    return QStringLiteral("CREATE PROCEDURE Sec_GetUserIerarxiaID(who VARCHAR(100) CHARACTER SET utf8mb4) "
+                          "READS SQL DATA SELECT Ierarxia, IerID FROM SECUSERS WHERE UserID = who");
+}
+
+/// MariaDB's driver lists the tables of every database.
+QString ServerWords::findContents() const {
+    return QStringLiteral(
+               "SELECT table_name FROM information_schema.tables WHERE table_schema = %1 UNION ALL "
+               "SELECT routine_name FROM information_schema.routines WHERE routine_schema = %1 AND "
+               "lower(routine_name) = 'sec_getuserierarxiaid'")
+        .arg(isPostgres_ ? QStringLiteral("current_schema()") : QStringLiteral("DATABASE()"));
 }
 
 } // namespace zkp::app
