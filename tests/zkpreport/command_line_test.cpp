@@ -240,4 +240,57 @@ TEST_F(CommandLine, ATemplateThatCannotBeReadOrWrittenIsToldAndNothingChanges) {
     EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("export"), QStringLiteral("Καμία")}), 2);
 }
 
+TEST_F(CommandLine, EachCommandTakesAFileBySqliteToo) {
+    ASSERT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("sqlite:t.db"), QStringLiteral("--rows=5")}),
+              0);
+    const QString database = QStringLiteral("--database=sqlite:t.db");
+    EXPECT_EQ(start({QStringLiteral("show"), database}), 0) << qPrintable(errors);
+    EXPECT_EQ(start({QStringLiteral("template"), QStringLiteral("list"), database}), 0) << qPrintable(errors);
+    EXPECT_EQ(start({QStringLiteral("show"), QStringLiteral("sqlite:none.db")}), 2);
+    EXPECT_TRUE(errors.contains(QStringLiteral("there is no file none.db"))) << qPrintable(errors);
+}
+
+TEST_F(CommandLine, AServerThatCannotBeReachedIsToldWithoutItsPassword) {
+    const QString server = QStringLiteral("Driver={no such driver};Server=srv02;Database=office;PWD=secret");
+    const QString database = QStringLiteral("--database=") + server;
+    const auto expectExit = [&](int exitCode, const QStringList& arguments) {
+        EXPECT_EQ(start(arguments), exitCode) << qPrintable(arguments.join(u' '));
+        EXPECT_NE(errors.trimmed(), QString());
+        EXPECT_FALSE((output + errors).contains(QStringLiteral("secret"))) << qPrintable(errors);
+    };
+    expectExit(1, {QStringLiteral("show"), database});
+    EXPECT_TRUE(errors.contains(QStringLiteral("office (srv02)"))) << qPrintable(errors);
+    EXPECT_TRUE(errors.contains(QStringLiteral("no such driver"))) << "the driver manager's words";
+    expectExit(1, {QStringLiteral("template"), QStringLiteral("list"), database});
+    expectExit(1, {QStringLiteral("shots"), QStringLiteral("pictures"), database});
+    expectExit(1, {QStringLiteral("demo-db"), QStringLiteral("--into"), server});
+    expectExit(2, {QStringLiteral("demo-db"), server});
+    expectExit(2, {server});
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList()) << "no file of such a name";
+}
+
+TEST_F(CommandLine, DemoDbGoesIntoAServerOnlyByItsConnectionString) {
+    EXPECT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("--into"), QStringLiteral("t.db")}), 2);
+    EXPECT_TRUE(errors.contains(QStringLiteral("connection string"))) << qPrintable(errors);
+    EXPECT_FALSE(QFile::exists(folder.filePath(QStringLiteral("t.db"))));
+}
+
+TEST_F(CommandLine, ATemplateForARowThatIsNotThereIsToldSo) {
+    const QString database = QStringLiteral("--database=t.db");
+    ASSERT_EQ(start({QStringLiteral("demo-db"), QStringLiteral("t.db"), QStringLiteral("--rows=5")}), 0);
+    write(QStringLiteral("save.js"), "const cn = new Connection(); cn.Open('sqlite:t.db');"
+                                     "const grid = new ZkpGrid(); grid.Cn = cn; grid.Cols = 3;"
+                                     "grid.SaveTemplate(undefined, 'Μηνιαία');");
+    ASSERT_EQ(start({QStringLiteral("run"), QStringLiteral("save.js")}), 0) << qPrintable(errors);
+    ASSERT_EQ(start({QStringLiteral("template"), QStringLiteral("export"), QStringLiteral("Μηνιαία"),
+                     QStringLiteral("a.txt"), database}),
+              0);
+    for (const char* action : {"import", "export"}) {
+        EXPECT_EQ(start({QStringLiteral("template"), QLatin1String(action), QStringLiteral("ABCD99"),
+                         QStringLiteral("a.txt"), database}),
+                  1);
+        EXPECT_TRUE(errors.contains(QStringLiteral("there is no row 99 in frms"))) << qPrintable(errors);
+    }
+}
+
 } // namespace

@@ -40,9 +40,9 @@ inline QString demoFile() {
 }
 
 /// The window with its real widgets, and what its user does.
-class WindowTest : public testing::Test {
+class WindowSteps {
 protected:
-    WindowTest() {
+    WindowSteps() {
         host = std::make_shared<zkp::ScriptedHost>();
         host->onMsgBox = [this](const zkp::ScriptedHost::Message& box) { return answerTo(box); };
         window = std::make_unique<zkp::app::ReportWindow>(host);
@@ -192,6 +192,8 @@ protected:
     std::shared_ptr<zkp::ScriptedHost> host;
     std::unique_ptr<zkp::app::ReportWindow> window;
 };
+
+class WindowTest : public testing::Test, public WindowSteps {};
 
 /// Databases other than the demonstration one.
 class OtherDatabase : public WindowTest {

@@ -25,4 +25,10 @@ std::optional<int> parseArguments(QCommandLineParser& parser, const QString& com
     return std::nullopt;
 }
 
+QCommandLineOption databaseOption() {
+    return {QStringLiteral("database"),
+            QStringLiteral("SQLite file, or the connection string of a server (demo.db)."),
+            QStringLiteral("DB"), QStringLiteral("demo.db")};
+}
+
 } // namespace zkp::app

@@ -11,4 +11,7 @@ namespace zkp::app {
 std::optional<int> parseArguments(QCommandLineParser& parser, const QString& command,
                                   const QStringList& arguments);
 
+/// `--database`, with demo.db where it is not given.
+QCommandLineOption databaseOption();
+
 } // namespace zkp::app

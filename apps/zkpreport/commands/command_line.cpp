@@ -1,5 +1,6 @@
 #include "commands/command.h"
 
+#include "database/database_place.h"
 #include "zkpreport_version.h"
 
 #include <array>
@@ -10,13 +11,14 @@ namespace zkp::app {
 namespace {
 
 constexpr std::array kCommands{
-    Command{"show", "[--database FILE] [OPTION...]", "shows the reports of a database; the usual command",
+    Command{"show", "[--database DB] [OPTION...]", "shows the reports of a database; the usual command",
             runShow},
     Command{"run", "FILE.js [ARGUMENT...]", "runs a script, with no window and no display", runRun},
-    Command{"demo-db", "FILE|--into CONNECTION [--rows N] [--seed S]", "makes the demonstration database", runDemoDb},
+    Command{"demo-db", "FILE|--into CONNECTION [--rows N] [--seed S]", "makes the demonstration database",
+            runDemoDb},
     Command{"template", "list | export NAME FILE | import NAME FILE", "saved report shapes as text",
             runTemplate},
-    Command{"shots", "FOLDER [--database FILE]", "draws the window's reports into pictures", runShots},
+    Command{"shots", "FOLDER [--database DB]", "draws the window's reports into pictures", runShots},
 };
 
 void printHelp() {
@@ -74,8 +76,8 @@ int runCommandLine(Start start) {
     }
     const Command* command = findCommand(first);
     if (!command) {
-        printError(
-            QStringLiteral("zkpreport: there is no command %1; zkpreport --help lists them").arg(first));
+        printError(QStringLiteral("zkpreport: there is no command %1; zkpreport --help lists them")
+                       .arg(withoutPasswords(first)));
         return kExitUsage;
     }
     return command->run(start, arguments.mid(1));

@@ -3,6 +3,7 @@
 #include "commands/database_copy.h"
 
 #include "base/error.h"
+#include "database/database_place.h"
 #include "demo/demo_database.h"
 
 #include <QCoreApplication>
@@ -27,17 +28,34 @@ std::optional<Number> numberOf(const QCommandLineParser& parser, const QString& 
     return static_cast<Number>(number);
 }
 
-/// Into a server, by way of a file that goes again.
-void makeInto(demo::Options options, const QString& connectionString) {
+/// Into a server, by way of a file that goes again. The server is asked first, the file takes longer.
+void makeInto(demo::Options options, const DatabasePlace& server) {
+    const auto into = server.open();
+    into->setCommandTimeout(0);
+    mustBeEmpty(into, server.name());
     const QTemporaryDir folder;
     options.file = folder.filePath(QStringLiteral("demo.db"));
     demo::makeDatabase(options);
-    const auto from = std::make_shared<ado::Connection>();
-    from->Open(QStringLiteral("sqlite:") + options.file);
-    const auto into = std::make_shared<ado::Connection>();
-    into->setCommandTimeout(0);
-    into->Open(connectionString);
-    copyDemoDatabase(from, into);
+    copyDemoDatabase(DatabasePlace(options.file).open(), into);
+}
+
+/// Where the data are to go, or nothing when that is not told well.
+std::optional<DatabasePlace> placeOf(const QCommandLineParser& parser) {
+    const bool isInto = parser.isSet(QStringLiteral("into"));
+    const QStringList files = parser.positionalArguments();
+    if (files.size() != (isInto ? 0 : 1)) {
+        printError(QStringLiteral("zkpreport demo-db: name one file to make, or --into one database"));
+        return std::nullopt;
+    }
+    const DatabasePlace place(isInto ? parser.value(QStringLiteral("into")) : files.front());
+    if (place.isServer() == isInto)
+        return place;
+    printError(isInto
+                   ? QStringLiteral("zkpreport demo-db: --into takes the connection string of a server, "
+                                    "which %1 is not")
+                         .arg(withoutPasswords(place.file()))
+                   : QStringLiteral("zkpreport demo-db: a server's connection string stands behind --into"));
+    return std::nullopt;
 }
 
 } // namespace
@@ -61,11 +79,9 @@ int runDemoDb(Start start, const QStringList& arguments) {
          QStringLiteral("S")});
     if (const auto exitCode = parseArguments(parser, QStringLiteral("demo-db"), arguments))
         return *exitCode;
-    const QString into = parser.value(QStringLiteral("into"));
-    if (parser.positionalArguments().size() != (into.isEmpty() ? 1 : 0)) {
-        printError(QStringLiteral("zkpreport demo-db: name one file to make, or --into one database"));
+    const auto place = placeOf(parser);
+    if (!place)
         return kExitUsage;
-    }
     const auto rows = numberOf<int>(parser, QStringLiteral("rows"), options.policies);
     const auto seed = numberOf<std::uint32_t>(parser, QStringLiteral("seed"), options.seed);
     if (!rows || !seed)
@@ -73,11 +89,11 @@ int runDemoDb(Start start, const QStringList& arguments) {
     options.policies = *rows;
     options.seed = *seed;
     try {
-        if (into.isEmpty()) {
-            options.file = parser.positionalArguments().front();
-            demo::makeDatabase(options);
+        if (place->isServer()) {
+            makeInto(options, *place);
         } else {
-            makeInto(options, into);
+            options.file = place->file();
+            demo::makeDatabase(options);
         }
     } catch (const Error& error) {
         printError(QStringLiteral("zkpreport demo-db: %1").arg(error.description()));

@@ -2,13 +2,13 @@
 #include "commands/command.h"
 
 #include "base/error.h"
+#include "database/database_place.h"
 #include "demo/demo_database.h"
 #include "platform/scripted_host.h"
 #include "window/window_pictures.h"
 
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 namespace zkp::app {
@@ -85,8 +85,9 @@ int runShots(Start start, const QStringList& arguments) {
     parser.setApplicationDescription(QStringLiteral("Draws the window's reports into pictures."));
     parser.addPositionalArgument(QStringLiteral("FOLDER"), QStringLiteral("Where the pictures go."));
     parser.addOption({QStringLiteral("database"),
-                      QStringLiteral("SQLite file (a demonstration database made for it)."),
-                      QStringLiteral("FILE")});
+                      QStringLiteral("SQLite file, or the connection string of a server (a demonstration "
+                                     "database made for it)."),
+                      QStringLiteral("DB")});
     if (const auto exitCode = parseArguments(parser, QStringLiteral("shots"), arguments))
         return *exitCode;
     const QDir folder(parser.positionalArguments().value(0));
@@ -97,16 +98,17 @@ int runShots(Start start, const QStringList& arguments) {
     const QTemporaryDir made;
     demo::Options options;
     options.policies = kPolicies;
-    options.file = parser.value(QStringLiteral("database"));
+    options.file = made.filePath(QStringLiteral("demo.db"));
+    const QString database = parser.value(QStringLiteral("database"));
+    if (const DatabasePlace place(database); !database.isEmpty() && place.isMissing()) {
+        printError(
+            QStringLiteral("zkpreport shots: there is no file %1").arg(withoutPasswords(place.file())));
+        return kExitUsage;
+    }
     try {
-        if (options.file.isEmpty()) {
-            options.file = made.filePath(QStringLiteral("demo.db"));
+        if (database.isEmpty())
             demo::makeDatabase(options);
-        } else if (!QFileInfo::exists(options.file)) {
-            printError(QStringLiteral("zkpreport shots: there is no file %1").arg(options.file));
-            return kExitUsage;
-        }
-        return takeAll(options.file, folder);
+        return takeAll(database.isEmpty() ? options.file : database, folder);
     } catch (const Error& error) {
         printError(QStringLiteral("zkpreport shots: %1").arg(error.description()));
         return kExitFailed;

@@ -1,6 +1,7 @@
 #include "commands/arguments.h"
 #include "commands/command.h"
 
+#include "database/database_place.h"
 #include "platform/scripted_host.h"
 #include "window/report_text.h"
 #include "window/report_window.h"
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QThread>
 #include <QWindow>
 
@@ -64,6 +66,11 @@ int showWindow(const QString& database, const FirstReport& first) {
     window.show();
     waitUntilOnScreen(window);
     window.showDatabase(database, first);
+    if (!window.hasDatabase()) {
+        printError(window.message());
+        QMessageBox::critical(&window, window.windowTitle(), window.message());
+        return kExitFailed;
+    }
     return QApplication::exec();
 }
 
@@ -89,8 +96,7 @@ int drawPicture(const QString& database, const FirstReport& first, const QString
 void addOptions(QCommandLineParser& parser) {
     parser.addPositionalArgument(QStringLiteral("DB"), QStringLiteral("The same as --database."),
                                  QStringLiteral("[DB]"));
-    parser.addOption({QStringLiteral("database"), QStringLiteral("SQLite file (demo.db)."),
-                      QStringLiteral("FILE"), QStringLiteral("demo.db")});
+    parser.addOption(databaseOption());
     parser.addOption({QStringLiteral("picture"), QStringLiteral("Where the picture goes (plain_report.png)."),
                       QStringLiteral("FILE"), QStringLiteral("plain_report.png")});
     parser.addOption({QStringLiteral("report"),
@@ -131,10 +137,10 @@ int runShow(Start start, const QStringList& arguments) {
         return kExitUsage;
     }
     const QString database = named.isEmpty() ? parser.value(QStringLiteral("database")) : named.front();
-    if (!QFileInfo::exists(database)) {
+    if (const DatabasePlace place(database); place.isMissing()) {
         printError(QStringLiteral("zkpreport show: there is no file %1; zkpreport demo-db %1 makes a "
                                   "demonstration database")
-                       .arg(database));
+                       .arg(withoutPasswords(place.file())));
         return kExitUsage;
     }
     const FirstReport first{parser.value(QStringLiteral("report")), parser.value(QStringLiteral("user")),

@@ -1,14 +1,14 @@
 #include "commands/arguments.h"
 #include "commands/command.h"
 
-#include "ado/connection.h"
+#include "ado/recordset.h"
 #include "base/error.h"
+#include "database/database_place.h"
 #include "platform/property_bag_text.h"
 #include "template/template_rows.h"
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QFileInfo>
 #include <QSaveFile>
 
 namespace zkp::app {
@@ -18,12 +18,12 @@ namespace {
 constexpr int kFileNotReadable = 53;
 constexpr int kFileNotWritable = 75;
 
-ado::ConnectionPtr openDatabase(const QString& file) {
-    if (!QFileInfo::exists(file))
-        throw Error(kFileNotReadable, QStringLiteral("there is no file %1").arg(file));
-    auto connection = std::make_shared<ado::Connection>();
-    connection->Open(QStringLiteral("sqlite:") + file);
-    return connection;
+ado::ConnectionPtr openDatabase(const QString& named) {
+    const DatabasePlace place(named);
+    if (place.isMissing())
+        throw Error(kFileNotReadable,
+                    QStringLiteral("there is no file %1").arg(withoutPasswords(place.file())));
+    return place.open();
 }
 
 /// Every name that `export` takes: four characters and a number stand for a row of `frms`.
@@ -39,8 +39,25 @@ void listTemplates(const ado::ConnectionPtr& connection) {
     print(QStringLiteral("select lstCode from frms2 where ZKP_ is not null order by lstCode"), {});
 }
 
+/// Without the row of `frms` that a number stands for, the words would be about records only.
+template <class F>
+void inRow(const TemplatePlace& place, F call) {
+    try {
+        call();
+    } catch (const Error& error) {
+        if (!place.number || error.number() != kErrNoCurrentRecord)
+            throw;
+        throw Error(error.number(),
+                    QStringLiteral("there is no row %1 in frms, which a name with a number from its fifth "
+                                   "character on stands for; another name goes into frms2")
+                        .arg(*place.number));
+    }
+}
+
 void exportTemplate(const ado::ConnectionPtr& connection, const QString& name, const QString& file) {
-    const QVariant bytes = TemplateRows(connection).read(placeToOpen(name));
+    const TemplatePlace place = placeToOpen(name);
+    QVariant bytes;
+    inRow(place, [&] { bytes = TemplateRows(connection).read(place); });
     if (!bytes.isValid())
         throw Error(kErrNoCurrentRecord, QStringLiteral("there is no template %1").arg(name));
     PropertyBag bag;
@@ -55,7 +72,8 @@ void importTemplate(const ado::ConnectionPtr& connection, const QString& name, c
     if (!source.open(QIODevice::ReadOnly))
         throw Error(kFileNotReadable, QStringLiteral("can't read %1: %2").arg(file, source.errorString()));
     const PropertyBag bag = bagFromText(source.readAll());
-    TemplateRows(connection).store(placeToSave(name), bag.Contents());
+    const TemplatePlace place = placeToSave(name);
+    inRow(place, [&] { TemplateRows(connection).store(place, bag.Contents()); });
 }
 
 /// One thing that the command does, with as many words behind its name.
@@ -99,8 +117,7 @@ int runTemplate(Start start, const QStringList& arguments) {
     parser.addPositionalArgument(QStringLiteral("NAME FILE"),
                                  QStringLiteral("The template, and the text file."),
                                  QStringLiteral("[NAME FILE]"));
-    parser.addOption({QStringLiteral("database"), QStringLiteral("SQLite file (demo.db)."),
-                      QStringLiteral("FILE"), QStringLiteral("demo.db")});
+    parser.addOption(databaseOption());
     if (const auto exitCode = parseArguments(parser, QStringLiteral("template"), arguments))
         return *exitCode;
     const QStringList words = parser.positionalArguments();

@@ -19,7 +19,6 @@
 #include <QAction>
 #include <QComboBox>
 #include <QCoreApplication>
-#include <QFileInfo>
 #include <QLabel>
 #include <QListView>
 #include <QSignalBlocker>
@@ -97,16 +96,34 @@ void ReportWindow::setMessage(const QString& text) {
     message_->tell(text);
 }
 
-bool ReportWindow::showDatabase(const QString& file, const FirstReport& first) {
+bool ReportWindow::showDatabase(const QString& named, const FirstReport& first) {
     forgetShape();
-    if (const QString reason = whyNoDatabase(file); !reason.isEmpty()) {
+    database_ = DatabasePlace(named);
+    if (const QString reason = openDatabase(); !reason.isEmpty()) {
         showNoDatabase(reason);
         return false;
     }
     return guarded([&] {
-        readDatabase(file);
+        readDatabase();
         return choose(first);
     });
+}
+
+QString ReportWindow::openDatabase() {
+    if (!database_.isServer())
+        if (const QString reason = whyNoDatabase(database_.file()); !reason.isEmpty())
+            return reason;
+    try {
+        connection_ = database_.open(ado::adModeRead);
+        return {};
+    } catch (const Error& error) {
+        return texts::notOpened(database_.name(), error.description().simplified());
+    }
+}
+
+void ReportWindow::reconnectDatabase() {
+    if (connection_)
+        database_.reconnect(*connection_);
 }
 
 /// The choices are those of a database without reports.
@@ -128,13 +145,8 @@ void ReportWindow::showNoDatabase(const QString& reason) {
     setMessage(reason);
 }
 
-void ReportWindow::readDatabase(const QString& file) {
-    file_ = file;
-    database_ = QFileInfo(file).fileName();
-    setWindowTitle(texts::windowTitle({}, {}, database_));
-    connection_ = std::make_shared<ado::Connection>();
-    connection_->setMode(ado::adModeRead);
-    connection_->Open(QStringLiteral("sqlite:%1").arg(file));
+void ReportWindow::readDatabase() {
+    setWindowTitle(texts::windowTitle({}, {}, database_.name()));
     tools_->watch(*connection_);
 
     const auto reports = readReports(connection_);
@@ -201,6 +213,7 @@ bool ReportWindow::openReport(const QString& filter) {
         if (!report)
             return false;
         showTitle();
+        reconnectDatabase();
         const UserFilter checked = reportFilter(*report, connection_, filter);
         if (!checked.isAccepted()) {
             filter_->setText(filter);
@@ -274,8 +287,8 @@ bool ReportWindow::tell(const LoadRecord& record) {
     isLoaded_ = record.isLoaded;
     if (!isLoaded_)
         setMessage(texts::loadFailed());
-    else if (!QFileInfo::exists(file_))
-        setMessage(texts::fileGone(database_)); // the rows come from what the system still keeps of it
+    else if (database_.isMissing())
+        setMessage(texts::fileGone(database_.name())); // the rows come from what the system still keeps of it
     if (isLoaded_ && !groups_->isTotals())
         showSort(grid(), sort_);
     loadFilter_ = record.filter;
@@ -305,6 +318,7 @@ void ReportWindow::sortByCurrentColumn() {
         return;
     }
     guarded([&] {
+        reconnectDatabase();
         const UserFilter filter = reportFilter(*report, connection_, filter_->inForce());
         return tell(sortReport(grid(), *host_, filter.text, sort_));
     });

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "database/database_place.h"
 #include "window/kept_shape.h"
 #include "window/load_watch.h"
 #include "window/report_list.h"
@@ -57,8 +58,10 @@ public:
     /// Usually empty.
     QString message() const;
 
-    /// Opens a SQLite file read-only and shows a report of it. False when there was a box or a message.
-    bool showDatabase(const QString& file, const FirstReport& first = {});
+    /// Opens a database for reading and shows a report of it. False when there was a box or a message.
+    bool showDatabase(const QString& named, const FirstReport& first = {});
+    /// False when the database could not be opened; the message tells why.
+    bool hasDatabase() const { return connection_ != nullptr; }
 
     /// The template that is open; empty for none.
     QString templateName() const { return template_; }
@@ -74,7 +77,9 @@ private:
     QWidget* makeChoices();
     QWidget* makeShapeChoices();
     void connectWidgets();
-    void readDatabase(const QString& file);
+    /// Why there is none to show; empty once it is open.
+    QString openDatabase();
+    void readDatabase();
     void showNoDatabase(const QString& reason);
     bool choose(const FirstReport& first);
 
@@ -135,14 +140,15 @@ private:
     ReportShape shape() const;
     const ReportEntry* chosenReport() const;
     QString chosenUser() const;
+    /// A server may have gone and come back since the last load.
+    void reconnectDatabase();
     template <class F>
     bool guarded(F call);
 
     std::shared_ptr<LoadWatch> host_;
     ado::ConnectionPtr connection_;
-    QString file_;
-    QString database_; // the file's name
-    int user_ = 0;     // whose rows show, by the list
+    DatabasePlace database_;
+    int user_ = 0; // whose rows show, by the list
     std::vector<UserEntry> users_;
     std::vector<DictionaryField> fields_; // of the open report, for the user
     std::map<QString, double> widths_;    // of the report's columns, as the user has left them

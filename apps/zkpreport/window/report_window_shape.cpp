@@ -69,7 +69,7 @@ void ReportWindow::restoreWidths() {
 
 void ReportWindow::showTitle() {
     const ReportEntry* report = chosenReport();
-    setWindowTitle(texts::windowTitle(template_, report ? report->title : QString(), database_));
+    setWindowTitle(texts::windowTitle(template_, report ? report->title : QString(), database_.name()));
 }
 
 } // namespace zkp::app

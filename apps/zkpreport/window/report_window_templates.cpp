@@ -12,7 +12,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QFileInfo>
 #include <QLabel>
 #include <QListView>
 #include <QSignalBlocker>
@@ -98,11 +97,12 @@ void ReportWindow::refuse(const QString& refusal, const QString& reason) {
 template <class F>
 bool ReportWindow::guardedTemplate(const QString& refusal, F call) {
     try {
+        reconnectDatabase();
         call();
         return true;
     } catch (const Error& error) {
         host_->setPointer(kPointerDefault);
-        refuse(refusal, QFileInfo::exists(file_) ? error.description() : texts::fileGone(database_));
+        refuse(refusal, database_.isMissing() ? texts::fileGone(database_.name()) : error.description());
         return false;
     }
 }

@@ -13,6 +13,7 @@ namespace zkp::app {
 
 void ReportWindow::reloadReshaped() {
     setMessage({});
+    reconnectDatabase();
     sort_ = sortOf(grid());
     tell(loadReport(grid(), *host_, loadFilter_));
 }

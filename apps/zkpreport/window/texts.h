@@ -273,6 +273,9 @@ inline QString fileNotReadable(const QString& file) {
 inline QString noDatabase(const QString& file) {
     return QStringLiteral("Το αρχείο %1 δεν είναι βάση δεδομένων SQLite.").arg(file);
 }
+inline QString notOpened(const QString& database, const QString& reason) {
+    return QStringLiteral("Η βάση %1 δεν ανοίγει: %2").arg(database, reason);
+}
 inline QString noReportsTable() {
     return QStringLiteral("Η βάση δεν έχει πίνακα Reports, άρα ούτε αναφορές.");
 }
