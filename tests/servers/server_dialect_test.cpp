@@ -175,4 +175,19 @@ TEST_P(ServerDialectTest, SchemasTellTablesViewsAndColumns) {
     run("DROP VIEW ZV_NAMES");
 }
 
+TEST_P(ServerDialectTest, SchemasTellOfTheConnectionsOwnDatabase) {
+    if (isPostgres())
+        return; // a connection reaches no other database there
+    run("CREATE OR REPLACE DATABASE zkpother");
+    run("CREATE TABLE zkpother.NAMES (NAME VARCHAR(10))");
+    run("CREATE TABLE zkpother.NEIGHBOURS (NAME VARCHAR(10))");
+    const auto count = [this](int schema, const char* name) {
+        return cn->OpenSchema(schema, {QVariant(), QVariant(), u(name)})->RecordCount();
+    };
+    EXPECT_EQ(count(adSchemaTables, "NAMES"), 1);
+    EXPECT_EQ(count(adSchemaTables, "NEIGHBOURS"), 0);
+    EXPECT_EQ(count(adSchemaColumns, "NEIGHBOURS"), 0);
+    run("DROP DATABASE zkpother");
+}
+
 } // namespace zkp::servers

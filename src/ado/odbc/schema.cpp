@@ -3,6 +3,7 @@
 #include "ado/constants.h"
 #include "ado/odbc/column_types.h"
 #include "ado/odbc/fetch.h"
+#include "ado/odbc/run.h"
 #include "ado/odbc/translate.h"
 #include "ado/odbc/wide_text.h"
 #include "ado/result_builder.h"
@@ -60,11 +61,14 @@ FieldInfo numberField(const char* name) {
     return {QString::fromLatin1(name), adInteger, 4};
 }
 
+/// Those of other databases, which MariaDB's driver tells of too, are none of the connection's own.
 Result tablesResult(Session& session, bool viewsOnly, const std::optional<QString>& table) {
+    const QString home = session.dialect() == Dialect::MariaDb ? currentDatabase(session) : QString();
     ResultBuilder rows({textField("TABLE_NAME"), textField("TABLE_TYPE")});
     for (const CatalogueTable& found : readTables(session)) {
         const bool isView = found.type == QStringLiteral("VIEW");
-        if ((isView || !viewsOnly) && (!table || sameName(found.name, *table)))
+        const bool isOwn = home.isEmpty() || found.catalogue == home;
+        if (isOwn && (isView || !viewsOnly) && (!table || sameName(found.name, *table)))
             rows.addRow({found.name, found.type});
     }
     return rows.finish();
@@ -152,6 +156,11 @@ QStringList readPrimaryKey(Session& session, const CatalogueTable& table) {
     for (std::size_t row = 0; row < result.table.rows; ++row)
         columns << Record(result, row).text(4);
     return columns;
+}
+
+QString currentDatabase(Session& session) {
+    const Result told = runStatement(session, QStringLiteral("SELECT DATABASE()"), {kSeconds, {}});
+    return told.table.rows == 1 ? told.table.columns[0]->value(0).toString() : QString();
 }
 
 Result readSchema(Session& session, int schema, const std::optional<QString>& table) {

@@ -5,6 +5,9 @@
 
 namespace zkp::ado::odbc {
 
+/// The database that a MariaDB session is in; empty for none.
+QString currentDatabase(Session& session);
+
 /// The columns, tables or views of a database (SchemaEnum). Error kErrNotSupported for others.
 Result readSchema(Session& session, int schema, const std::optional<QString>& table);
 

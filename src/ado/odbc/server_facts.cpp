@@ -111,7 +111,7 @@ QString choosePostgresCollation(Session& session) {
             throw;
         throw Error(kErrDatabase,
                     QStringLiteral("Texts can't be compared without regard to case: an administrator has to "
-                                   "make the collation zkp_text on this server.\n") +
+                                   "make the collation zkp_text in this database.\n") +
                         error.description(),
                     error.source());
     }

@@ -38,8 +38,7 @@ QString homeOf(Session& session, const QString& name) {
         break;
     }
     case Dialect::MariaDb:
-        question = QStringLiteral("SELECT DATABASE()");
-        break;
+        return currentDatabase(session);
     default:
         question = QStringLiteral("SELECT SCHEMA_NAME()");
     }
