@@ -175,9 +175,12 @@ TEST_P(ServerDialectTest, SchemasTellTablesViewsAndColumns) {
     run("DROP VIEW ZV_NAMES");
 }
 
-TEST_P(ServerDialectTest, SchemasTellOfTheConnectionsOwnDatabase) {
-    if (isPostgres())
-        return; // a connection reaches no other database there
+/// PostgreSQL's connections reach no other database.
+class MariaDbDatabasesTest : public ServerDialectTest {};
+INSTANTIATE_TEST_SUITE_P(Servers, MariaDbDatabasesTest, testing::Values(kMariaDb),
+                         [](const auto& server) { return std::string(server.param.name); });
+
+TEST_P(MariaDbDatabasesTest, SchemasTellOfTheConnectionsOwn) {
     run("CREATE OR REPLACE DATABASE zkpother");
     run("CREATE TABLE zkpother.NAMES (NAME VARCHAR(10))");
     run("CREATE TABLE zkpother.NEIGHBOURS (NAME VARCHAR(10))");

@@ -2,13 +2,7 @@
 
 #include <QSet>
 
-#include <algorithm>
-
 namespace zkp::ado::dialect {
-
-bool isOneOf(const Token& token, std::initializer_list<QStringView> words) {
-    return std::any_of(words.begin(), words.end(), [&](QStringView word) { return token.isWord(word); });
-}
 
 bool isKeyword(const Token& token) {
     static const QSet<QStringView> words{
@@ -30,19 +24,19 @@ bool isKeyword(const Token& token) {
 }
 
 bool mayBeName(const Token& token) {
-    return isOneOf(token,
-                   {u"add",    u"alter",  u"begin",    u"commit",  u"cursor",      u"database", u"declare",
-                    u"delete", u"drop",   u"exec",     u"execute", u"function",    u"if",       u"index",
-                    u"insert", u"key",    u"merge",    u"of",      u"option",      u"percent",  u"procedure",
-                    u"return", u"revoke", u"rollback", u"schema",  u"transaction", u"trigger",  u"truncate",
-                    u"update", u"use",    u"view",     u"while"});
+    return token.isOneOf({u"add",     u"alter",       u"begin",     u"commit",   u"cursor",  u"database",
+                          u"declare", u"delete",      u"drop",      u"exec",     u"execute", u"function",
+                          u"if",      u"index",       u"insert",    u"key",      u"merge",   u"of",
+                          u"option",  u"percent",     u"procedure", u"return",   u"revoke",  u"rollback",
+                          u"schema",  u"transaction", u"trigger",   u"truncate", u"update",  u"use",
+                          u"view",    u"while"});
 }
 
 bool endsValue(const Token& token) {
     if (token.kind == TokenKind::Sign)
         return token.nesting() < 0;
     return !isKeyword(token) || mayBeName(token) ||
-           isOneOf(token, {u"end", u"null", u"true", u"false", u"user"});
+           token.isOneOf({u"end", u"null", u"true", u"false", u"user"});
 }
 
 } // namespace zkp::ado::dialect

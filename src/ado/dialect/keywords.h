@@ -2,11 +2,7 @@
 
 #include "ado/dialect/tokenizer.h"
 
-#include <initializer_list>
-
 namespace zkp::ado::dialect {
-
-bool isOneOf(const Token& token, std::initializer_list<QStringView> words);
 
 /// Words of the statements' own language that a bare name can't be.
 bool isKeyword(const Token& token);

@@ -31,7 +31,7 @@ public:
             divideAsReal(QStringLiteral("1e0"));
         }
         for (std::size_t k = 0; k < count(); ++k) {
-            if (isName(at(k)))
+            if (at(k).isName())
                 rewriteName(k);
         }
         if (answered)
@@ -63,7 +63,7 @@ private:
             return {};
         for (std::size_t k = pattern.first; k < pattern.end && !at(k).isWord(u"select"); ++k) {
             const bool isValue = k == pattern.first || at(k - 1).kind == TokenKind::Sign ||
-                                 isOneOf(at(k - 1), {u"then", u"else"});
+                                 at(k - 1).isOneOf({u"then", u"else"});
             if (isValue && isCasedConstant(k) && !isCompared(k))
                 return k;
         }

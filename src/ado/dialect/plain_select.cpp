@@ -8,17 +8,13 @@ namespace zkp::ado::dialect {
 
 namespace {
 
-bool isOneOf(const Token& token, std::initializer_list<QStringView> words) {
-    return std::any_of(words.begin(), words.end(), [&](QStringView word) { return token.isWord(word); });
-}
-
 /// Words at the outer level after which a record is no longer one row of one table.
 bool joinsRows(const Token& token) {
-    return isOneOf(token, {u"distinct", u"group", u"having", u"union", u"except", u"intersect", u"join"});
+    return token.isOneOf({u"distinct", u"group", u"having", u"union", u"except", u"intersect", u"join"});
 }
 
 bool isAggregate(const Token& token) {
-    return isOneOf(token, {u"count", u"sum", u"avg", u"min", u"max", u"total", u"group_concat"});
+    return token.isOneOf({u"count", u"sum", u"avg", u"min", u"max", u"total", u"group_concat"});
 }
 
 struct Parts {
@@ -56,10 +52,6 @@ bool findFrom(Parts& parts) {
     return parts.from > 0;
 }
 
-bool isName(const Token& token) {
-    return token.kind == TokenKind::Word || token.kind == TokenKind::Name;
-}
-
 } // namespace
 
 std::optional<PlainSelect> parsePlainSelect(const QString& statement, Dialect dialect) {
@@ -76,20 +68,20 @@ std::optional<PlainSelect> parsePlainSelect(const QString& statement, Dialect di
     std::size_t k = parts.from + 1;
     PlainSelect select;
     if (parts.at(k + 1).isSign(u".")) {
-        if (!isName(parts.at(k)))
+        if (!parts.at(k).isName())
             return std::nullopt;
         select.qualifier = nameOf(parts.at(k));
         k += 2;
     }
-    if (!isName(parts.at(k)))
+    if (!parts.at(k).isName())
         return std::nullopt;
     select.table = nameOf(parts.at(k++));
     const auto ends = [](const Token& token) {
-        return token.text.isEmpty() || isOneOf(token, {u"where", u"order", u"limit"});
+        return token.text.isEmpty() || token.isOneOf({u"where", u"order", u"limit"});
     };
     if (parts.at(k).isWord(u"as"))
         ++k;
-    if (!ends(parts.at(k)) && isName(parts.at(k)))
+    if (!ends(parts.at(k)) && parts.at(k).isName())
         ++k;
     if (!ends(parts.at(k)))
         return std::nullopt;

@@ -53,12 +53,12 @@ bool PostgresRewriter::isCondition(std::size_t first, std::size_t last) const {
         return false;
     const Token& before = at(first - 1);
     const Token& behind = at(last + 1);
-    const bool begins = isOneOf(before, {u"where", u"or", u"not", u"having"}) ||
+    const bool begins = before.isOneOf({u"where", u"or", u"not", u"having"}) ||
                         (before.isWord(u"when") && !isSimpleWhen(first - 1)) ||
                         (before.isWord(u"and") && !isBetween(first - 1));
     const bool ends = behind.text.isEmpty() || behind.isSign(u")") || behind.isSign(u";") ||
-                      isOneOf(behind, {u"and", u"or", u"then", u"order", u"group"});
-    const bool opens = before.isSign(u"(") && isOneOf(behind, {u"and", u"or"});
+                      behind.isOneOf({u"and", u"or", u"then", u"order", u"group"});
+    const bool opens = before.isSign(u"(") && behind.isOneOf({u"and", u"or"});
     return (begins && ends) || opens;
 }
 
@@ -67,7 +67,7 @@ bool PostgresRewriter::isBetween(std::size_t k) const {
     int depth = 0;
     while (k-- > 0) {
         depth += at(k).isSign(u")") ? 1 : at(k).isSign(u"(") ? -1 : 0;
-        if (depth < 0 || (depth == 0 && isOneOf(at(k), {u"and", u"or", u"where", u"on", u"when"})))
+        if (depth < 0 || (depth == 0 && at(k).isOneOf({u"and", u"or", u"where", u"on", u"when"})))
             return false;
         if (depth == 0 && at(k).isWord(u"between"))
             return true;

@@ -19,7 +19,7 @@ void PostgresRewriter::sortItems(std::size_t k) {
         const bool ends =
             token.text.isEmpty() ||
             (depth == 0 && (nesting(token) < 0 || token.isSign(u";") || (k > start && beginsFrame(k)) ||
-                            isOneOf(token, {u"limit", u"offset", u"fetch", u"for"})));
+                            token.isOneOf({u"limit", u"offset", u"fetch", u"for"})));
         if (ends || (depth == 0 && token.isSign(u","))) {
             if (k > start && !at(k - 2).isWord(u"nulls"))
                 written(k - 1) += at(k - 1).isWord(u"desc") ? QStringLiteral(" NULLS LAST")
@@ -35,8 +35,8 @@ void PostgresRewriter::sortItems(std::size_t k) {
 /// Whether a word tells which rows of a window count. Behind a sign or a word of the language it is a
 /// column.
 bool PostgresRewriter::beginsFrame(std::size_t k) const {
-    const bool endsItem = endsValue(at(k - 1)) || isOneOf(at(k - 1), {u"asc", u"desc"});
-    return endsItem && isOneOf(at(k), {u"rows", u"range", u"groups"});
+    const bool endsItem = endsValue(at(k - 1)) || at(k - 1).isOneOf({u"asc", u"desc"});
+    return endsItem && at(k).isOneOf({u"rows", u"range", u"groups"});
 }
 
 } // namespace zkp::ado::dialect

@@ -33,12 +33,12 @@ QString PostgresRewriter::rewrite() {
     if (answered) {
         divideAsReal(QStringLiteral("1.0::float8"));
         for (std::size_t k = 0; k < count(); ++k) {
-            if (isName(at(k)))
+            if (at(k).isName())
                 rewriteFlag(k);
         }
     }
     for (std::size_t k = 0; k < count(); ++k) {
-        if (isName(at(k)))
+        if (at(k).isName())
             rewriteName(k);
     }
     if (answered) {

@@ -105,7 +105,7 @@ bool Rewriter::isCasedConstant(std::size_t k) const {
     // The database's words shall show a constant without an end as it came.
     const bool isClosed = text.size() > 1 && text.endsWith(u'\'');
     // Behind a type's name: interval '1 day'.
-    const bool isTyped = isName(at(k - 1)) && !isKeyword(at(k - 1));
+    const bool isTyped = at(k - 1).isName() && !isKeyword(at(k - 1));
     return at(k).kind == TokenKind::Text && isClosed && hasCase(text) && !isTyped &&
            !at(k + 1).isWord(u"collate");
 }

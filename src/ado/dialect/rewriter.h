@@ -29,9 +29,6 @@ protected:
     bool compares(std::size_t k) const { return isComparison(k) && !assigns(k); }
     /// Whether it is the "=" by which an UPDATE gives a column its value.
     bool assigns(std::size_t k) const { return k < count() && assigns_[k]; }
-    static bool isName(const Token& token) {
-        return token.kind == TokenKind::Word || token.kind == TokenKind::Name;
-    }
     static bool isCompound(const Token& token) {
         return token.isWord(u"union") || token.isWord(u"except") || token.isWord(u"intersect");
     }

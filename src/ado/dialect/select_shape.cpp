@@ -8,10 +8,6 @@ namespace zkp::ado::dialect {
 
 namespace {
 
-bool isName(const Token& token) {
-    return token.kind == TokenKind::Word || token.kind == TokenKind::Name;
-}
-
 /// Tokens that are no space.
 std::vector<Token> solid(const std::vector<Token>& tokens) {
     std::vector<Token> kept;
@@ -47,7 +43,7 @@ std::vector<Item> selectItems(const std::vector<Token>& tokens, std::size_t& at)
     if (tokens.empty() || !tokens.front().isWord(u"select"))
         return {};
     at = 1;
-    if (at < tokens.size() && isOneOf(tokens[at], {u"distinct", u"all"}))
+    if (at < tokens.size() && tokens[at].isOneOf({u"distinct", u"all"}))
         ++at;
     if (at + 1 < tokens.size() && tokens[at].isWord(u"top") && tokens[at + 1].kind == TokenKind::Number)
         at += 2;
@@ -70,7 +66,7 @@ Item expressionOf(const Item& item) {
 
 /// An item of an order without its direction.
 Item sortedBy(const Item& item) {
-    const bool directed = item.size() > 1 && isOneOf(item.back(), {u"asc", u"desc"});
+    const bool directed = item.size() > 1 && item.back().isOneOf({u"asc", u"desc"});
     return directed ? Item(item.begin(), item.end() - 1) : item;
 }
 
@@ -89,9 +85,9 @@ bool endsGroups(const std::vector<Token>& tokens, std::size_t k) {
     const Token& before = tokens[k - 1];
     const bool behindItem = before.kind == TokenKind::Sign ? before.nesting() < 0 : !before.isWord(u"by");
     return tokens[k].isSign(u";") ||
-           isOneOf(tokens[k], {u"having", u"order", u"union", u"except", u"intersect"}) ||
-           (behindItem && isOneOf(tokens[k], {u"limit", u"offset", u"fetch", u"for", u"window", u"with",
-                                              u"lock", u"into", u"procedure"}));
+           tokens[k].isOneOf({u"having", u"order", u"union", u"except", u"intersect"}) ||
+           (behindItem && tokens[k].isOneOf({u"limit", u"offset", u"fetch", u"for", u"window", u"with",
+                                             u"lock", u"into", u"procedure"}));
 }
 
 /// The place behind the outer "group by"; 0 when there is none.
@@ -114,7 +110,7 @@ QStringList outputNames(const std::vector<Token>& statement) {
     for (const Item& item : selectItems(tokens, at)) {
         if (item.empty() || item.back().isSign(u"*"))
             return {};
-        const bool named = isName(item.back()) && !item.back().isWord(u"end");
+        const bool named = item.back().isName() && !item.back().isWord(u"end");
         names << (named ? nameOf(item.back()) : QString());
     }
     return names;
@@ -130,7 +126,7 @@ QStringList sourceColumns(const std::vector<Token>& statement) {
         if (plain && expression.back().isSign(u"*"))
             columns << QStringLiteral("*");
         else
-            columns << (plain && isName(expression.back()) ? nameOf(expression.back()) : QString());
+            columns << (plain && expression.back().isName() ? nameOf(expression.back()) : QString());
     }
     return columns;
 }

@@ -37,7 +37,7 @@ bool ServerRewriter::isConstant(const Operand& operand) const {
 
 bool ServerRewriter::isPlain(const Operand& operand) const {
     for (std::size_t k = operand.first; k < operand.end; ++k) {
-        if (isOneOf(at(k), {u"collate", u"binary"}))
+        if (at(k).isOneOf({u"collate", u"binary"}))
             return false;
     }
     return operand.first < operand.end;
@@ -71,8 +71,8 @@ bool ServerRewriter::isWordOfLanguage(std::size_t k) const {
 bool ServerRewriter::endsOperand(std::size_t k) const {
     const Token& token = at(k);
     const bool isPart =
-        isOneOf(token, {u"case", u"end", u"collate", u"null", u"over", u"true", u"false", u"user"});
-    const bool isCall = isOneOf(token, {u"left", u"right"}) && at(k + 1).isSign(u"(");
+        token.isOneOf({u"case", u"end", u"collate", u"null", u"over", u"true", u"false", u"user"});
+    const bool isCall = token.isOneOf({u"left", u"right"}) && at(k + 1).isSign(u"(");
     return token.isSign(u",") || token.isSign(u";") || compares(k) || assigns(k) ||
            (isWordOfLanguage(k) && !isPart && !isCall);
 }
@@ -80,8 +80,8 @@ bool ServerRewriter::endsOperand(std::size_t k) const {
 /// Whether a name begins here that nothing joins to the value before it: an alias, or words of a server's
 /// own.
 bool ServerRewriter::isSeam(std::size_t k) const {
-    const bool behindValue = endsValue(at(k - 1)) || (isName(at(k - 1)) && at(k - 2).isSign(u"."));
-    return isName(at(k)) && !isWordOfLanguage(k) && !at(k).isWord(u"varying") && behindValue;
+    const bool behindValue = endsValue(at(k - 1)) || (at(k - 1).isName() && at(k - 2).isSign(u"."));
+    return at(k).isName() && !isWordOfLanguage(k) && !at(k).isWord(u"varying") && behindValue;
 }
 
 /// Whether a sign joins two values, so that no operand begins or ends with it.

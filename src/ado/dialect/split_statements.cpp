@@ -29,14 +29,11 @@ private:
 
     /// What is created stands behind words of all kinds, such as MariaDB's DEFINER.
     static What created(const Token& token) {
-        if (isOneOf(token, {u"trigger", u"procedure", u"function", u"event"}))
+        if (token.isOneOf({u"trigger", u"procedure", u"function", u"event"}))
             return What::HasBody;
         const bool other =
-            token.isSign(u"(") || isOneOf(token, {u"table", u"view", u"index", u"as", u"select"});
+            token.isSign(u"(") || token.isOneOf({u"table", u"view", u"index", u"as", u"select"});
         return other ? What::Plain : What::Creates;
-    }
-    static bool isOneOf(const Token& token, std::initializer_list<QStringView> words) {
-        return std::any_of(words.begin(), words.end(), [&](QStringView word) { return token.isWord(word); });
     }
     /// "END IF" closes what was not counted, and the CASE of "END CASE" opens none.
     void follow(const Token& token) {
@@ -45,7 +42,7 @@ private:
             --depth_;
         else if (token.isWord(u"begin") || (token.isWord(u"case") && !behindEnd))
             ++depth_;
-        else if (behindEnd && isOneOf(token, {u"if", u"loop", u"while", u"repeat", u"for"}))
+        else if (behindEnd && token.isOneOf({u"if", u"loop", u"while", u"repeat", u"for"}))
             ++depth_;
     }
 

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <algorithm>
+#include <initializer_list>
 #include <vector>
 
 namespace zkp::ado::dialect {
@@ -28,6 +30,10 @@ struct Token {
     bool isWord(QStringView word) const {
         return kind == TokenKind::Word && text.compare(word, Qt::CaseInsensitive) == 0;
     }
+    bool isOneOf(std::initializer_list<QStringView> words) const {
+        return std::any_of(words.begin(), words.end(), [this](QStringView word) { return isWord(word); });
+    }
+    bool isName() const { return kind == TokenKind::Word || kind == TokenKind::Name; }
     bool isSign(QStringView sign) const { return kind == TokenKind::Sign && text == sign; }
     /// A comment like /*! … */, which a server executes or skips by its version.
     bool isExecutableComment() const { return kind == TokenKind::Sign && text.startsWith(u"/*"); }

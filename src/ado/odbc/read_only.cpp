@@ -13,14 +13,6 @@ namespace {
 
 using dialect::Token;
 
-bool isOneOf(const Token& token, std::initializer_list<QStringView> words) {
-    return std::any_of(words.begin(), words.end(), [&](QStringView word) { return token.isWord(word); });
-}
-
-bool isName(const Token& token) {
-    return token.kind == dialect::TokenKind::Word || token.kind == dialect::TokenKind::Name;
-}
-
 /// What a statement writes to, by its first words.
 struct Target {
     QString table;        ///< empty when it is no such statement
@@ -30,14 +22,14 @@ struct Target {
 Target targetOf(const std::vector<Token>& tokens) {
     std::size_t at = 1;
     if (tokens[0].isWord(u"insert") || tokens[0].isWord(u"delete")) {
-        if (tokens.size() > 1 && isOneOf(tokens[1], {u"into", u"from"}))
+        if (tokens.size() > 1 && tokens[1].isOneOf({u"into", u"from"}))
             ++at;
     } else if (!tokens[0].isWord(u"update")) {
         return {};
     }
     while (at + 2 < tokens.size() && tokens[at + 1].isSign(u"."))
         at += 2;
-    if (at >= tokens.size() || !isName(tokens[at]))
+    if (at >= tokens.size() || !tokens[at].isName())
         return {};
     return {dialect::nameOf(tokens[at]), at + 1};
 }
@@ -60,16 +52,16 @@ bool writesOneTable(const std::vector<Token>& tokens, std::size_t behind, Dialec
 }
 
 bool writes(const Token& token) {
-    return isOneOf(token, {u"insert", u"update", u"delete", u"merge", u"into", u"truncate"});
+    return token.isOneOf({u"insert", u"update", u"delete", u"merge", u"into", u"truncate"});
 }
 
 /// SQL Server needs no ";" between statements and has no sessions for reading; all these are reserved there.
 bool beginsAnother(const Token& token) {
-    return isOneOf(token,
-                   {u"alter",  u"backup",    u"begin",      u"bulk",       u"commit", u"create",  u"dbcc",
-                    u"deny",   u"drop",      u"exec",       u"execute",    u"grant",  u"kill",    u"restore",
-                    u"revoke", u"revert",    u"rollback",   u"save",       u"set",    u"setuser", u"shutdown",
-                    u"use",    u"writetext", u"updatetext", u"reconfigure"});
+    return token.isOneOf({u"alter",    u"backup",   u"begin",     u"bulk",       u"commit",
+                          u"create",   u"dbcc",     u"deny",      u"drop",       u"exec",
+                          u"execute",  u"grant",    u"kill",      u"restore",    u"revoke",
+                          u"revert",   u"rollback", u"save",      u"set",        u"setuser",
+                          u"shutdown", u"use",      u"writetext", u"updatetext", u"reconfigure"});
 }
 
 /// A function that can let PostgreSQL's session write, by itself or in a text that it runs, or a name like
@@ -79,14 +71,14 @@ bool setsConfiguration(const Token& token) {
                                         u"TS_STAT",    u"TS_REWRITE",       u"QUERY_TO_XML_AND_XMLSCHEMA",
                                         u"DBLINK",     u"DBLINK_EXEC",      u"DBLINK_OPEN",
                                         u"UESCAPE",    u"DBLINK_SEND_QUERY"};
-    const QString name = isName(token) ? nameKey(dialect::nameOf(token)) : QString();
+    const QString name = token.isName() ? nameKey(dialect::nameOf(token)) : QString();
     return std::find(std::begin(names), std::end(names), name) != std::end(names) || name.contains(u'\\');
 }
 
 /// Whether a server does more than the first words say.
 bool doesMore(const std::vector<Token>& tokens, std::size_t from, Dialect dialect) {
     // A text that is run.
-    if (isOneOf(tokens[0], {u"exec", u"execute"}) && tokens.size() > 1 && tokens[1].isSign(u"("))
+    if (tokens[0].isOneOf({u"exec", u"execute"}) && tokens.size() > 1 && tokens[1].isSign(u"("))
         return true;
     const auto does = [dialect](const Token& token) {
         switch (dialect) {
@@ -133,8 +125,8 @@ Reading readingOf(const QString& statement, Dialect dialect) {
                              std::none_of(tokens.begin() + 2, tokens.end(), writes);
         return allowed ? Reading::WritesAllowed : Reading::Refused;
     }
-    const bool reads = isOneOf(tokens[0], {u"select", u"with", u"values", u"table", u"show", u"explain",
-                                           u"describe", u"exec", u"execute", u"call"}) &&
+    const bool reads = tokens[0].isOneOf({u"select", u"with", u"values", u"table", u"show", u"explain",
+                                          u"describe", u"exec", u"execute", u"call"}) &&
                        !doesMore(tokens, 1, dialect) && std::none_of(tokens.begin(), tokens.end(), writes);
     return reads ? Reading::Reads : Reading::Refused;
 }

@@ -16,19 +16,15 @@ bool isAggregate(const Token& token) {
     return token.isWord(u"sum") || token.isWord(u"avg") || token.isWord(u"min") || token.isWord(u"max");
 }
 
-bool isName(const Token& token) {
-    return token.kind == TokenKind::Word || token.kind == TokenKind::Name;
-}
-
 /// Whether "(name)" or "(name.name)" stands at a place.
 bool isPlainColumn(const std::vector<Token>& tokens, std::size_t at) {
     const auto is = [&](std::size_t i, QStringView sign) {
         return i < tokens.size() && tokens[i].isSign(sign);
     };
-    if (!is(at, u"(") || at + 1 >= tokens.size() || !isName(tokens[at + 1]))
+    if (!is(at, u"(") || at + 1 >= tokens.size() || !tokens[at + 1].isName())
         return false;
     return is(at + 2, u")") ||
-           (is(at + 2, u".") && at + 3 < tokens.size() && isName(tokens[at + 3]) && is(at + 4, u")"));
+           (is(at + 2, u".") && at + 3 < tokens.size() && tokens[at + 3].isName() && is(at + 4, u")"));
 }
 
 std::vector<Token> withoutSpaces(const std::vector<Token>& tokens) {
