@@ -1,6 +1,7 @@
 #include "base/value.h"
 
 #include "base/currency.h"
+#include "base/number.h"
 
 namespace zkp {
 
@@ -33,6 +34,29 @@ QString valueText(const QVariant& value, const ReportLocale& locale) {
         return QString::fromUtf8(value.toByteArray());
     default:
         return value.toString();
+    }
+}
+
+QVariant NullTo(const QVariant& value, const QVariant& fallback) {
+    return value.isValid() ? value : fallback;
+}
+
+QVariant ToDouble(const QVariant& value, const ReportLocale& locale) {
+    const QVariant notNumeric = QVariant::fromValue<short>(0);
+    if (value.metaType() == QMetaType::fromType<Currency>())
+        return value.value<Currency>().toDouble();
+    switch (value.typeId()) {
+    case QMetaType::Bool:
+        return value.toBool() ? -1.0 : 0.0;
+    case QMetaType::QString: {
+        const auto number = toNumber(value.toString(), locale);
+        return number ? QVariant(*number) : notNumeric;
+    }
+    default: {
+        bool ok = false;
+        const double number = value.toDouble(&ok);
+        return ok ? QVariant(number) : notNumeric;
+    }
     }
 }
 

@@ -17,4 +17,10 @@ inline bool isNull(const QVariant& value) {
 /// date, Booleans "True" and "False", bytes as they read in UTF-8. A null gives the empty text.
 QString valueText(const QVariant& value, const ReportLocale& locale);
 
+/// `fallback` when the value is null, otherwise the value.
+QVariant NullTo(const QVariant& value, const QVariant& fallback);
+
+/// The double of a value that is numeric in the report's locale, otherwise the 16-bit integer 0.
+QVariant ToDouble(const QVariant& value, const ReportLocale& locale);
+
 } // namespace zkp

@@ -1,7 +1,7 @@
 #include "core/key_column.h"
 
 #include "base/number.h"
-#include "support/utility.h"
+#include "base/value.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "ado/recordset.h"
+#include "base/color.h"
 #include "base/currency.h"
 #include "core/enums.h"
 #include "core/properties.def"
-#include "platform/style.h"
 
 #include <QStringList>
 #include <QVariant>

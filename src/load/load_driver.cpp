@@ -6,7 +6,8 @@
 #include "base/text.h"
 #include "load/field_list.h"
 #include "load/source_check.h"
-#include "support/utility.h"
+#include "load/empty_recordset.h"
+#include "platform/error_box.h"
 
 #include <utility>
 

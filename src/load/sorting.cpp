@@ -6,7 +6,8 @@
 #include "core/enums.h"
 #include "core/keep_alive.h"
 #include "core/paint_scopes.h"
-#include "support/utility.h"
+#include "base/value.h"
+#include "platform/error_box.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "base/bag_font.h"
 #include "base/decimal.h"
 #include "base/report_locale.h"
 #include "platform/cell_binding.h"
 #include "platform/cell_range.h"
-#include "platform/property_value.h"
 #include "platform/style.h"
 
 #include <QString>

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "platform/style.h"
+#include "base/bag_font.h"
+#include "base/color.h"
 
 #include <QString>
 
@@ -8,18 +9,6 @@
 #include <variant>
 
 namespace zkp {
-
-/// A font as a saved property holds it.
-struct BagFont {
-    QString name;
-    double size = 0; ///< points
-    bool bold = false;
-    bool italic = false;
-    bool underline = false;
-    bool strikethru = false;
-
-    bool operator==(const BagFont&) const = default;
-};
 
 /// What a property bag can hold: Boolean, 16- and 32-bit integer, single, double, text, colour, font.
 using BagValue = std::variant<bool, std::int16_t, std::int32_t, float, double, QString, Color, BagFont>;

@@ -5,7 +5,7 @@
 #include "base/text.h"
 #include "base/texts.h"
 #include "support/database_value.h"
-#include "support/utility.h"
+#include "base/value.h"
 
 namespace zkp {
 

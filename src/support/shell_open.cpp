@@ -2,7 +2,7 @@
 
 #include "base/text.h"
 #include "base/texts.h"
-#include "support/utility.h"
+#include "platform/error_box.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

@@ -5,7 +5,7 @@
 #include "base/scope_guard.h"
 #include "base/text.h"
 #include "base/texts.h"
-#include "support/utility.h"
+#include "platform/error_box.h"
 #include "ui/questions.h"
 
 namespace zkp {

@@ -4,7 +4,7 @@
 #include "base/text.h"
 #include "base/texts.h"
 #include "core/paint_scopes.h"
-#include "support/utility.h"
+#include "platform/error_box.h"
 #include "ui/questions.h"
 
 #include <algorithm>

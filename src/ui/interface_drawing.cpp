@@ -6,7 +6,7 @@
 #include "base/texts.h"
 #include "core/enums.h"
 #include "core/paint_scopes.h"
-#include "support/utility.h"
+#include "platform/error_box.h"
 
 #include <algorithm>
 

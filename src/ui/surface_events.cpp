@@ -3,7 +3,7 @@
 #include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/texts.h"
-#include "support/utility.h"
+#include "platform/error_box.h"
 #include "ui/menu_table.h"
 #include "ui/owner_guard.h"
 

@@ -1,4 +1,6 @@
-#include "support/utility.h"
+#include "base/value.h"
+#include "load/empty_recordset.h"
+#include "platform/error_box.h"
 
 #include "base/currency.h"
 #include "platform/scripted_host.h"

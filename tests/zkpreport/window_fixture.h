@@ -3,7 +3,7 @@
 #include "demo/demo_database.h"
 #include "platform/scripted_host.h"
 #include "print_qt.h"
-#include "support/utility.h"
+#include "base/value.h"
 #include "widgets/grid_view.h"
 #include "window/report_window.h"
 #include "window/texts.h"

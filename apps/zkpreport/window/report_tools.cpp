@@ -3,7 +3,7 @@
 #include "base/error.h"
 #include "base/scope_guard.h"
 #include "platform/host.h"
-#include "support/utility.h"
+#include "platform/error_box.h"
 #include "widgets/zkp_grid_widget.h"
 #include "window/clipboard_copy.h"
 #include "window/texts.h"
