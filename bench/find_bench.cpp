@@ -3,7 +3,7 @@
 
 #include "paint_data.h"
 
-#include "widgets/grid_view.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 #include "window/report_find.h"
 #include "window/selection_status.h"

@@ -6,7 +6,7 @@
 //
 //   interface_bench [--rows N] [--runs N]
 
-#include "support/stat_field.h"
+#include "core/stat_field.h"
 #include "zkp_grid.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // same surface, painted off screen in the same run. Usage: paint_bench [--rows N]
 
 #include "paint_data.h"
-#include "widgets/grid_view.h"
+#include "widgets/grid/grid_view.h"
 
 #include <QAbstractTableModel>
 #include <QApplication>

@@ -1,8 +1,8 @@
 // What the surface does while a report loads and while it is looked at, against raw loops over the
 // same data and against a small surface. --rows N: the size of the large one.
 
-#include "platform/grid_surface.h"
 #include "store/column_builder.h"
+#include "surface/grid_surface.h"
 
 #include <algorithm>
 #include <cstdio>

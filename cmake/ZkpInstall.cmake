@@ -8,7 +8,7 @@ set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZkpGrid)
 
 # What a host includes; the headers that these include are installed with them.
 set(public_headers zkp_grid.h ado/connection.h ado/command.h ado/field.h base/texts.h base/value.h
-    platform/scripted_host.h)
+    host/scripted_host.h)
 set(libraries zkpgrid)
 set(qt_components Core)
 set_target_properties(zkpgrid PROPERTIES EXPORT_NAME Engine)

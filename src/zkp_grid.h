@@ -1,14 +1,14 @@
 #pragma once
 
 #include "ado/recordset.h"
+#include "bag/property_bag.h"
 #include "base/error.h"
 #include "core/child_controls.h"
 #include "core/column_list.h"
 #include "core/enums.h"
 #include "core/events.h"
 #include "core/properties.def"
-#include "platform/host.h"
-#include "platform/property_bag.h"
+#include "host/host.h"
 
 #include <QLocale>
 #include <QObject>

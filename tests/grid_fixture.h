@@ -2,7 +2,7 @@
 
 #include "base/error.h"
 #include "core/report_state.h"
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "print_qt.h"
 #include "zkp_grid.h"
 

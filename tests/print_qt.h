@@ -10,3 +10,11 @@ inline void PrintTo(const QString& text, std::ostream* out) { *out << '"' << tex
 inline void PrintTo(const QStringList& texts, std::ostream* out) {
     *out << '[' << texts.join(QStringLiteral(" | ")).toStdString() << ']';
 }
+
+namespace zkp::test {
+
+inline QString u(const char* utf8) {
+    return QString::fromUtf8(utf8);
+}
+
+} // namespace zkp::test

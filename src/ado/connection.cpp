@@ -2,7 +2,7 @@
 
 #include "ado/dialect/split_statements.h"
 #include "ado/object_state.h"
-#include "ado/odbc/odbc_provider.h"
+#include "ado/odbc/session/odbc_provider.h"
 #include "ado/recordset.h"
 #include "ado/sqlite/sqlite_provider.h"
 #include "ado/text_stream.h"

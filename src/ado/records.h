@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/provider.h"
-#include "ado/row_index.h"
+#include "ado/records/row_index.h"
 
 #include <QHash>
 

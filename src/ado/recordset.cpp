@@ -1,8 +1,8 @@
 #include "ado/recordset_data.h"
 
-#include "ado/filter_match.h"
 #include "ado/object_state.h"
-#include "ado/sort_order.h"
+#include "ado/records/filter_match.h"
+#include "ado/records/sort_order.h"
 #include "base/text.h"
 
 #include <utility>

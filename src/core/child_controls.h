@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/grid_surface.h"
-#include "platform/menu_bar.h"
+#include "menu/menu_bar.h"
+#include "surface/grid_surface.h"
 
 #include <QString>
 

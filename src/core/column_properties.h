@@ -3,7 +3,7 @@
 #include "core/column_list.h"
 #include "core/events.h"
 #include "core/properties.def"
-#include "platform/grid_surface.h"
+#include "surface/grid_surface.h"
 
 #include <QVariant>
 

@@ -3,7 +3,7 @@
 #include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/text.h"
-#include "platform/error_box.h"
+#include "host/error_box.h"
 
 #include <algorithm>
 

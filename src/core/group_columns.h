@@ -3,8 +3,8 @@
 #include "core/column_properties.h"
 #include "core/group_factors.h"
 #include "core/report_state.h"
-#include "platform/grid_surface.h"
-#include "platform/host.h"
+#include "host/host.h"
+#include "surface/grid_surface.h"
 
 #include <functional>
 

@@ -2,7 +2,7 @@
 
 #include "core/column_list.h"
 #include "core/report_state.h"
-#include "platform/grid_surface.h"
+#include "surface/grid_surface.h"
 
 namespace zkp {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/report_state.h"
-#include "platform/grid_surface.h"
+#include "surface/grid_surface.h"
 
 namespace zkp {
 

@@ -3,7 +3,7 @@
 #include "core/events.h"
 #include "core/key_column.h"
 #include "core/report_state.h"
-#include "platform/grid_surface.h"
+#include "surface/grid_surface.h"
 
 namespace zkp {
 

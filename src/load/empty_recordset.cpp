@@ -1,7 +1,7 @@
 #include "load/empty_recordset.h"
 
 #include "base/error_in_flight.h"
-#include "platform/error_box.h"
+#include "host/error_box.h"
 
 namespace zkp {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/recordset.h"
-#include "platform/host.h"
+#include "host/host.h"
 
 namespace zkp {
 

@@ -2,7 +2,7 @@
 
 #include "base/number.h"
 #include "load/field_list.h"
-#include "support/query_exists.h"
+#include "sql/query_exists.h"
 
 namespace zkp {
 

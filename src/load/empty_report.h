@@ -2,9 +2,9 @@
 
 #include "core/column_properties.h"
 #include "core/record_source.h"
+#include "host/host.h"
 #include "load/load_hooks.h"
-#include "platform/host.h"
-#include "platform/menu_bar.h"
+#include "menu/menu_bar.h"
 #include "sql/dictionary.h"
 
 namespace zkp {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/record_statistics.h"
+#include "load/record_statistics.h"
 
 namespace zkp {
 

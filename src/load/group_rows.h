@@ -4,7 +4,7 @@
 #include "core/report_state.h"
 #include "load/group_sums.h"
 #include "load/percentages.h"
-#include "platform/grid_surface.h"
+#include "surface/grid_surface.h"
 
 namespace zkp {
 

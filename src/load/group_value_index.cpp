@@ -1,10 +1,10 @@
 #include "load/group_value_index.h"
 
 #include "ado/constants.h"
+#include "base/date_text.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "base/value.h"
-#include "support/date_text.h"
 
 #include <optional>
 

@@ -4,10 +4,10 @@
 #include "base/number.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
+#include "host/error_box.h"
+#include "load/empty_recordset.h"
 #include "load/field_list.h"
 #include "load/source_check.h"
-#include "load/empty_recordset.h"
-#include "platform/error_box.h"
 
 #include <utility>
 

@@ -3,12 +3,12 @@
 #include "base/error.h"
 #include "core/events.h"
 #include "core/record_source.h"
+#include "host/host.h"
 #include "load/load_hooks.h"
 #include "load/row_reader.h"
-#include "platform/grid_surface.h"
-#include "platform/host.h"
-#include "platform/menu_bar.h"
+#include "menu/menu_bar.h"
 #include "sql/dictionary.h"
+#include "surface/grid_surface.h"
 
 #include <functional>
 

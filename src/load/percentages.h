@@ -2,9 +2,9 @@
 
 #include "core/column_list.h"
 #include "core/report_state.h"
+#include "host/host.h"
 #include "load/group_value_index.h"
-#include "platform/grid_surface.h"
-#include "platform/host.h"
+#include "surface/grid_surface.h"
 
 #include <optional>
 

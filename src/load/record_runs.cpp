@@ -1,6 +1,6 @@
 #include "load/record_runs.h"
 
-#include "platform/cell_text.h"
+#include "surface/cell_text.h"
 
 namespace zkp {
 

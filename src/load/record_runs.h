@@ -2,7 +2,7 @@
 
 #include "ado/recordset.h"
 #include "load/group_sums.h"
-#include "platform/cell_binding.h"
+#include "surface/cell_binding.h"
 
 #include <QVarLengthArray>
 

@@ -1,10 +1,10 @@
 #include "load/row_comparison.h"
 
 #include "ado/constants.h"
+#include "base/date_text.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "core/enums.h"
-#include "support/date_text.h"
 
 #include <algorithm>
 #include <numeric>

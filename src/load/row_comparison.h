@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/report_locale.h"
-#include "platform/row_sort.h"
+#include "surface/row_sort.h"
 
 #include <QString>
 #include <QStringList>

@@ -3,12 +3,12 @@
 #include "core/column_properties.h"
 #include "core/events.h"
 #include "core/report_state.h"
+#include "host/host.h"
 #include "load/cell_plan.h"
 #include "load/group_rows.h"
 #include "load/percentages.h"
 #include "load/totals_rows.h"
-#include "platform/grid_surface.h"
-#include "platform/host.h"
+#include "surface/grid_surface.h"
 
 #include <optional>
 

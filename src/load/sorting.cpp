@@ -3,11 +3,11 @@
 #include "base/error_in_flight.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
+#include "base/value.h"
 #include "core/enums.h"
 #include "core/keep_alive.h"
 #include "core/paint_scopes.h"
-#include "base/value.h"
-#include "platform/error_box.h"
+#include "host/error_box.h"
 
 #include <algorithm>
 

@@ -3,11 +3,11 @@
 #include "core/column_properties.h"
 #include "core/events.h"
 #include "core/report_state.h"
+#include "host/host.h"
 #include "load/load_hooks.h"
 #include "load/row_comparison.h"
-#include "platform/grid_surface.h"
-#include "platform/host.h"
 #include "sql/field_expressions.h"
+#include "surface/grid_surface.h"
 
 #include <functional>
 #include <memory>

@@ -4,7 +4,7 @@
 #include "core/events.h"
 #include "core/record_source.h"
 #include "core/report_state.h"
-#include "platform/grid_surface.h"
+#include "surface/grid_surface.h"
 
 namespace zkp {
 

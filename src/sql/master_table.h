@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/host.h"
+#include "host/host.h"
 #include "sql/builder_inputs.h"
 
 namespace zkp {

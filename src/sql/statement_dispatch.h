@@ -4,8 +4,8 @@
 #include "sql/grouped_statement.h"
 #include "sql/normal_statement.h"
 #include "sql/run_time_statement.h"
+#include "sql/settings_store.h"
 #include "sql/statistics_statement.h"
-#include "support/settings_store.h"
 
 namespace zkp {
 

@@ -1,7 +1,7 @@
 #include "template/saved_properties.h"
 
 #include "base/error_in_flight.h"
-#include "platform/error_box.h"
+#include "host/error_box.h"
 #include "template/saved_reading.h"
 
 namespace zkp {

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "bag/property_bag.h"
 #include "core/child_controls.h"
 #include "core/column_properties.h"
 #include "core/report_state.h"
-#include "platform/host.h"
-#include "platform/property_bag.h"
+#include "host/host.h"
 #include "template/saved_keys.h"
 
 #include <functional>

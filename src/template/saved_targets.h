@@ -1,10 +1,10 @@
 #pragma once
 
+#include "bag/property_value.h"
 #include "core/column.h"
 #include "core/report_state.h"
-#include "platform/grid_surface.h"
-#include "platform/menu_bar.h"
-#include "platform/property_value.h"
+#include "menu/menu_bar.h"
+#include "surface/grid_surface.h"
 
 #include <cstdint>
 #include <type_traits>

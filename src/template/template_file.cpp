@@ -1,7 +1,7 @@
 #include "template/template_file.h"
 
+#include "bag/property_bag.h"
 #include "base/error.h"
-#include "platform/property_bag.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/report_state.h"
-#include "platform/host.h"
+#include "host/host.h"
 #include "template/saved_properties.h"
 #include "template/template_rows.h"
 

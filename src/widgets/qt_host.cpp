@@ -1,8 +1,8 @@
 #include "widgets/qt_host.h"
 
 #include "base/dialog_texts.h"
-#include "widgets/dialog_texts.h"
-#include "widgets/palette_colors.h"
+#include "widgets/dialogs/dialog_texts.h"
+#include "widgets/grid/palette_colors.h"
 
 #include <QApplication>
 #include <QCheckBox>

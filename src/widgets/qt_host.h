@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/host.h"
+#include "host/host.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -2,9 +2,9 @@
 
 #include "base/text.h"
 #include "base/texts.h"
-#include "platform/error_box.h"
-#include "widgets/band_bar.h"
-#include "widgets/grid_view.h"
+#include "host/error_box.h"
+#include "widgets/band/band_bar.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/qt_host.h"
 
 #include <QApplication>

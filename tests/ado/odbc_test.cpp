@@ -1,7 +1,7 @@
-#include "ado/odbc/amount_text.h"
-#include "ado/odbc/connection_text.h"
-#include "ado/odbc/read_only.h"
-#include "ado/odbc/wide_text.h"
+#include "ado/odbc/fetch/amount_text.h"
+#include "ado/odbc/session/connection_text.h"
+#include "ado/odbc/session/read_only.h"
+#include "ado/odbc/session/wide_text.h"
 
 #include "ado/ado_fixture.h"
 

@@ -69,7 +69,7 @@ TEST(Architecture, TestsAndBenchmarksLinkTheLibraries) {
 
 TEST(IncludeOrder, AHigherFolderSeesALowerOne) {
     EXPECT_TRUE(orderOf("src/load/a.cpp", "#include \"base/error.h\"\n#include \"load/b.h\"\n").empty());
-    EXPECT_TRUE(orderOf("src/zkp_grid.cpp", "#include \"zkp_grid.h\"\n#include \"ui/a.h\"\n").empty());
+    EXPECT_TRUE(orderOf("src/grid/zkp_grid.cpp", "#include \"zkp_grid.h\"\n#include \"interaction/a.h\"\n").empty());
     EXPECT_TRUE(orderOf("src/widgets/a.h", "#include \"zkp_grid.h\"\n").empty());
     EXPECT_TRUE(orderOf("apps/zkpreport/a.cpp", "#include \"widgets/a.h\"\n#include \"demo/b.h\"\n").empty());
 }
@@ -80,12 +80,12 @@ TEST(IncludeOrder, ALowerFolderSeesNoHigherOne) {
     EXPECT_EQ(findings, (std::vector<Finding>{{"src/base/a.h", 2, "base may not include core/enums.h"}}));
     EXPECT_EQ(orderOf("src/load/a.cpp", "#include \"zkp_grid.h\"\n").size(), 1u);
     EXPECT_EQ(orderOf("src/zkp_grid.cpp", "#include \"widgets/a.h\"\n").size(), 1u);
-    EXPECT_EQ(orderOf("src/load/a.cpp", "  #  include <ui/a.h>\n").size(), 1u);
+    EXPECT_EQ(orderOf("src/load/a.cpp", "  #  include <interaction/a.h>\n").size(), 1u);
 }
 
 TEST(IncludeOrder, FoldersSideBySideDoNotKnowEachOther) {
-    EXPECT_EQ(orderOf("src/ado/a.h", "#include \"platform/host.h\"\n").size(), 1u);
-    EXPECT_EQ(orderOf("src/platform/a.h", "#include \"ado/recordset.h\"\n").size(), 1u);
+    EXPECT_EQ(orderOf("src/ado/a.h", "#include \"surface/a.h\"\n").size(), 1u);
+    EXPECT_EQ(orderOf("src/host/a.h", "#include \"ado/recordset.h\"\n").size(), 1u);
     EXPECT_EQ(orderOf("src/chart/a.h", "#include \"output/b.h\"\n").size(), 1u);
     EXPECT_EQ(orderOf("designer/a.cpp", "#include \"apps/zkpreport/b.h\"\n").size(), 1u);
 }

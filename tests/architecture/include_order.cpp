@@ -8,14 +8,16 @@ namespace zkp::architecture {
 
 namespace {
 
-const std::string kFrontDoor = "zkp_grid";
+const std::string kFrontDoor = "grid";
+const std::string kFrontDoorHeader = "zkp_grid.h";
 
 /// Folders from low to high; those of one rank stand side by side.
 const std::map<std::string, int>& ranks() {
     static const std::map<std::string, int> ranks{
-        {"base", 0},     {"store", 1},   {"ado", 2},      {"platform", 2}, {"support", 3}, {"core", 4},
-        {"sql", 5},      {"load", 6},    {"template", 7}, {"ui", 7},       {"output", 7},  {"chart", 7},
-        {kFrontDoor, 8}, {"widgets", 9}, {"apps", 10},    {"designer", 10}};
+        {"base", 0},       {"store", 1},   {"ado", 2},        {"surface", 2},     {"menu", 2},
+        {"bag", 2},        {"host", 2},    {"core", 3},       {"sql", 4},         {"load", 5},
+        {"template", 6},   {"output", 6},  {"chart", 6},      {"interaction", 6}, {kFrontDoor, 7},
+        {"drawing", 8},    {"widgets", 9}, {"script", 9},     {"apps", 10},       {"designer", 10}};
     return ranks;
 }
 
@@ -34,7 +36,7 @@ std::string layerOf(const std::string& path) {
 /// The folder that an include names; empty for a header that is none of the project's.
 std::string layerOfInclude(const std::string& header) {
     if (header.find('/') == std::string::npos)
-        return header.starts_with(kFrontDoor) ? kFrontDoor : std::string();
+        return header == kFrontDoorHeader ? kFrontDoor : std::string();
     const std::string folder = firstFolder(header);
     return ranks().contains(folder) || folder == "demo" ? folder : std::string();
 }

@@ -8,8 +8,8 @@ namespace zkp::architecture {
 
 /// Includes that break the order of the folders, of files below src/, apps/, designer/ and demo/:
 ///
-///     base ◄ store ◄ ado, platform ◄ support ◄ core ◄ sql ◄ load ◄ template, ui, output, chart
-///          ◄ zkp_grid ◄ widgets ◄ apps, designer
+///     base ◄ store ◄ ado, surface, menu, bag, host ◄ core ◄ sql ◄ load ◄ template, interaction, output, chart
+///          ◄ grid ◄ drawing ◄ widgets, script ◄ apps, designer
 ///
 /// Folders side by side don't know each other. The demonstration data stand beside the engine and
 /// use base alone.

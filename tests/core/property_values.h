@@ -1,8 +1,8 @@
 #pragma once
 
 #include "ado/recordset.h"
+#include "bag/property_value.h"
 #include "base/currency.h"
-#include "platform/property_value.h"
 
 #include <QLocale>
 #include <QVariant>

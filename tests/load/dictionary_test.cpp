@@ -1,6 +1,6 @@
+#include "core/stat_field.h"
 #include "load_fixture.h"
 #include "sql/dictionary.h"
-#include "support/stat_field.h"
 
 using namespace Qt::StringLiterals;
 using namespace zkp;

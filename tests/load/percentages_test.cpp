@@ -1,7 +1,7 @@
 #include "load/percentages.h"
 
 #include "base/texts.h"
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "print_qt.h"
 
 #include <gtest/gtest.h>

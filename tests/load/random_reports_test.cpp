@@ -2,7 +2,7 @@
 #include "report_recount.h"
 #include "report_text.h"
 
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 
 #include <gtest/gtest.h>
 

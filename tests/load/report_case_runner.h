@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "report_case.h"
 #include "test_database.h"
 #include "zkp_grid.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/grid_surface.h"
 #include "report_case.h"
+#include "surface/grid_surface.h"
 
 namespace zkp::reportcases {
 

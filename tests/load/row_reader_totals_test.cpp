@@ -1,6 +1,6 @@
 #include "load/row_reader.h"
 
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "print_qt.h"
 
 #include <gtest/gtest.h>

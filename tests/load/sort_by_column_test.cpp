@@ -1,6 +1,6 @@
 #include "load_fixture.h"
 
-#include "platform/host.h"
+#include "host/host.h"
 
 #include <stdexcept>
 

@@ -1,6 +1,6 @@
 #include "ado/recordset.h"
 #include "base/error.h"
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "print_qt.h"
 #include "zkp_grid.h"
 

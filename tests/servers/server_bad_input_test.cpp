@@ -1,6 +1,6 @@
 #include "server_fixture.h"
 
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "zkp_grid.h"
 
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "case_file.h"
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "test_database.h"
 #include "zkp_grid.h"
 

@@ -1,6 +1,6 @@
 #include "template_fixture.h"
 
-#include "support/application_folder.h"
+#include "host/application_folder.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -3,7 +3,9 @@
 #include "grid_fixture.h"
 #include "test_database.h"
 
-#include "platform/property_bag.h"
+#include "bag/property_bag.h"
+
+#include "print_qt.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -11,10 +13,6 @@
 namespace zkp::test {
 
 /// A text constant with Greek in it.
-inline QString u(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
 /// The lines of a golden file, without its comments.
 QStringList goldenLines(const char* name);
 

@@ -1,4 +1,4 @@
-#include "zkpreport/script_fixture.h"
+#include "script/script_fixture.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,10 +1,10 @@
 #include "ado/connection.h"
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "print_qt.h"
-#include "widgets/band_bar.h"
-#include "widgets/grid_accessible.h"
-#include "widgets/grid_view.h"
-#include "widgets/spoken_cell.h"
+#include "widgets/access/grid_accessible.h"
+#include "widgets/access/spoken_cell.h"
+#include "widgets/band/band_bar.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 
 #include <QAccessible>

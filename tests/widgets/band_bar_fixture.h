@@ -1,7 +1,7 @@
 #pragma once
 
 #include "print_qt.h"
-#include "widgets/band_bar.h"
+#include "widgets/band/band_bar.h"
 
 #include <QApplication>
 #include <QComboBox>

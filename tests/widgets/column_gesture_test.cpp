@@ -1,4 +1,4 @@
-#include "widgets/column_gesture.h"
+#include "widgets/grid/column_gesture.h"
 
 #include <gtest/gtest.h>
 

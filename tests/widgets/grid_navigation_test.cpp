@@ -1,6 +1,6 @@
-#include "widgets/grid_navigation.h"
+#include "widgets/grid/grid_navigation.h"
 
-#include "widgets/key_codes.h"
+#include "widgets/grid/key_codes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "view_fixture.h"
 
-#include "platform/host.h"
-#include "widgets/palette_colors.h"
+#include "host/host.h"
+#include "widgets/grid/palette_colors.h"
 
 namespace zkp {
 namespace {

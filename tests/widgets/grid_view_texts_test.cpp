@@ -1,6 +1,6 @@
 #include "view_fixture.h"
 
-#include "widgets/surface_painter.h"
+#include "widgets/grid/surface_painter.h"
 
 #include <QHelpEvent>
 #include <QToolTip>

@@ -1,4 +1,4 @@
-#include "widgets/palette_colors.h"
+#include "widgets/grid/palette_colors.h"
 
 #include <gtest/gtest.h>
 

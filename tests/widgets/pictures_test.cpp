@@ -1,9 +1,9 @@
 // Pictures for the eye, under the build folder: pictures/*.png.
 
-#include "platform/menu_bar.h"
-#include "ui/menu_bands.h"
-#include "widgets/band_bar.h"
-#include "widgets/grid_view.h"
+#include "interaction/menu_bands.h"
+#include "menu/menu_bar.h"
+#include "widgets/band/band_bar.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/qt_host.h"
 
 #include <QApplication>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "demo/demo_database.h"
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "print_qt.h"
-#include "widgets/band_bar.h"
-#include "widgets/grid_view.h"
+#include "widgets/band/band_bar.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 
 #include <QApplication>

@@ -1,4 +1,4 @@
-#include "widgets/row_plan.h"
+#include "widgets/band/row_plan.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "widgets/surface_geometry.h"
+#include "widgets/grid/surface_geometry.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "widgets/surface_page.h"
+#include "widgets/grid/surface_page.h"
 
 #include "print_qt.h"
 

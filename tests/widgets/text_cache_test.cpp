@@ -1,4 +1,4 @@
-#include "widgets/text_cache.h"
+#include "widgets/grid/text_cache.h"
 
 #include <QFontMetricsF>
 #include <QSet>

@@ -1,7 +1,7 @@
-#include "widgets/tool_icons.h"
+#include "widgets/band/tool_icons.h"
 
+#include "interaction/menu_table.h"
 #include "print_qt.h"
-#include "ui/menu_table.h"
 
 #include <QApplication>
 #include <QImage>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/grid_surface.h"
 #include "print_qt.h"
-#include "widgets/grid_view.h"
+#include "surface/grid_surface.h"
+#include "widgets/grid/grid_view.h"
 
 #include <QApplication>
 #include <QImage>

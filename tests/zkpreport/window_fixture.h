@@ -1,10 +1,10 @@
 #pragma once
 
-#include "demo/demo_database.h"
-#include "platform/scripted_host.h"
-#include "print_qt.h"
 #include "base/value.h"
-#include "widgets/grid_view.h"
+#include "demo/demo_database.h"
+#include "host/scripted_host.h"
+#include "print_qt.h"
+#include "widgets/grid/grid_view.h"
 #include "window/report_window.h"
 #include "window/texts.h"
 

@@ -1,6 +1,6 @@
 #include "base/texts.h"
 #include "core/enums.h"
-#include "widgets/palette_colors.h"
+#include "widgets/grid/palette_colors.h"
 #include "window/texts.h"
 #include "window_fixture.h"
 

@@ -4,7 +4,7 @@
 #include "base/error.h"
 #include "database/database_place.h"
 #include "demo/demo_database.h"
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "window/window_pictures.h"
 
 #include <QApplication>

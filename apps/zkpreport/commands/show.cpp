@@ -2,7 +2,7 @@
 #include "commands/command.h"
 
 #include "database/database_place.h"
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "window/report_text.h"
 #include "window/report_window.h"
 

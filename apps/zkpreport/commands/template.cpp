@@ -2,9 +2,9 @@
 #include "commands/command.h"
 
 #include "ado/recordset.h"
+#include "bag/property_bag_text.h"
 #include "base/error.h"
 #include "database/database_place.h"
-#include "platform/property_bag_text.h"
 #include "template/template_rows.h"
 
 #include <QCoreApplication>

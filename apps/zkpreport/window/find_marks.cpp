@@ -1,6 +1,6 @@
 #include "window/find_marks.h"
 
-#include "widgets/grid_view.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 
 #include <QEvent>

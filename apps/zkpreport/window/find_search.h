@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/grid_surface.h"
+#include "surface/grid_surface.h"
 #include "window/folded_text.h"
 
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/property_bag.h"
+#include "bag/property_bag.h"
 #include "window/dictionary_fields.h"
 #include "zkp_grid.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/connection.h"
-#include "platform/host.h"
+#include "host/host.h"
 
 #include <QElapsedTimer>
 

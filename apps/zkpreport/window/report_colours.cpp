@@ -1,6 +1,6 @@
 #include "window/report_colours.h"
 
-#include "widgets/palette_colors.h"
+#include "widgets/grid/palette_colors.h"
 
 namespace zkp::app {
 

@@ -1,7 +1,7 @@
 #include "window/report_filter.h"
 
 #include "base/text.h"
-#include "platform/scripted_host.h"
+#include "host/scripted_host.h"
 #include "window/texts.h"
 #include "zkp_grid.h"
 

@@ -1,7 +1,7 @@
 #include "window/report_find.h"
 
 #include "base/error.h"
-#include "widgets/grid_view.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 #include "window/texts.h"
 

@@ -2,7 +2,7 @@
 
 #include "ado/recordset.h"
 #include "base/text.h"
-#include "support/query_exists.h"
+#include "sql/query_exists.h"
 #include "window/table_text.h"
 
 namespace zkp::app {

@@ -2,8 +2,8 @@
 
 #include "base/error.h"
 #include "base/scope_guard.h"
-#include "platform/host.h"
-#include "platform/error_box.h"
+#include "host/error_box.h"
+#include "host/host.h"
 #include "widgets/zkp_grid_widget.h"
 #include "window/clipboard_copy.h"
 #include "window/texts.h"

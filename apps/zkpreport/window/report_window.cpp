@@ -2,7 +2,7 @@
 
 #include "base/error.h"
 #include "base/texts.h"
-#include "platform/error_box.h"
+#include "host/error_box.h"
 #include "widgets/qt_host.h"
 #include "window/filter_line.h"
 #include "window/group_choice.h"

@@ -8,8 +8,8 @@
 #include "window/user_list.h"
 
 // The widget is used whole by who uses the window.
-#include "widgets/band_bar.h"
-#include "widgets/grid_view.h"
+#include "widgets/band/band_bar.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 
 #include <QMainWindow>

@@ -1,5 +1,5 @@
 #include "base/error.h"
-#include "platform/error_box.h"
+#include "host/error_box.h"
 #include "window/group_choice.h"
 #include "window/report_tools.h"
 #include "window/report_window.h"

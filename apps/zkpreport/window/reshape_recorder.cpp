@@ -1,7 +1,7 @@
 #include "window/reshape_recorder.h"
 
 #include "base/scope_guard.h"
-#include "widgets/grid_view.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "window/selected_block.h"
 
-#include "widgets/surface_selection.h"
+#include "widgets/grid/surface_selection.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "window/selection_status.h"
 
-#include "widgets/grid_view.h"
+#include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 #include "window/selected_block.h"
 #include "window/texts.h"

@@ -3,7 +3,7 @@
 #include "ado/recordset.h"
 #include "base/error.h"
 #include "base/text.h"
-#include "support/query_exists.h"
+#include "sql/query_exists.h"
 #include "template/template_rows.h"
 #include "window/texts.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/connection.h"
-#include "platform/property_bag.h"
+#include "bag/property_bag.h"
 
 #include <QAbstractListModel>
 

@@ -1,6 +1,6 @@
 #include "ado/sqlite/collation.h"
 
-#include "ado/text_compare.h"
+#include "ado/records/text_compare.h"
 
 namespace zkp::ado::sqlite {
 

@@ -1,6 +1,6 @@
 #include "ado/sqlite/like.h"
 
-#include "ado/text_compare.h"
+#include "ado/records/text_compare.h"
 
 #include <memory>
 #include <string>

@@ -1,0 +1,33 @@
+#include "zkp_grid.h"
+
+#include "grid/parts.h"
+
+// What the user does to columns, one line each.
+
+namespace zkp {
+
+void ZkpGrid::deletecolumn(int& columnclicked) {
+    run([&](Parts& p) { p.columnCommands.deletecolumn(columnclicked); });
+}
+
+void ZkpGrid::mnuAddColumn_Click() {
+    run([](Parts& p) { p.columnCommands.addColumn(); });
+}
+
+void ZkpGrid::mnuInsert_Click() {
+    run([](Parts& p) { p.columnCommands.insertColumn(); });
+}
+
+void ZkpGrid::mnuAddOmadopoihsh_Click() {
+    run([](Parts& p) { p.columnCommands.addGroup(); });
+}
+
+void ZkpGrid::mnuInsertOmadopoihsh_Click() {
+    run([](Parts& p) { p.columnCommands.insertGroup(); });
+}
+
+void ZkpGrid::mnuDelete_Click() {
+    run([](Parts& p) { p.columnCommands.deleteCurrent(); });
+}
+
+} // namespace zkp

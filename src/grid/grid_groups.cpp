@@ -1,0 +1,66 @@
+#include "zkp_grid.h"
+
+#include "base/number.h"
+#include "grid/parts.h"
+
+// Group rows, totals and percentages, one line each.
+
+namespace zkp {
+
+void ZkpGrid::InitTotalsGrid() {
+    run([](Parts& p) { p.groupRows.InitTotalsGrid(); });
+}
+void ZkpGrid::AccumulateRow(double& r) {
+    run([&](Parts& p) { p.groupRows.AccumulateRow(r); });
+}
+void ZkpGrid::EmitSubTotalRows(int level, double& r) {
+    run([&](Parts& p) { p.groupRows.EmitSubTotalRows(level, r); });
+}
+void ZkpGrid::ResetGroupLevels(int level, double r) {
+    run([&](Parts& p) { p.groupRows.ResetGroupLevels(level, r); });
+}
+
+void ZkpGrid::FinishTotals() {
+    run([](Parts& p) { p.totalsRows.FinishTotals(); });
+}
+void ZkpGrid::PaintTotalsRows() {
+    run([](Parts& p) { p.totalsRows.PaintTotalsRows(); });
+}
+void ZkpGrid::AppendTotalsRow() {
+    run([](Parts& p) { p.totalsRows.AppendTotalsRow(); });
+}
+void ZkpGrid::CalcTotalsOnThisColumn(int clmn) {
+    run([&](Parts& p) { p.totalsRows.CalcTotalsOnThisColumn(clmn); });
+}
+int ZkpGrid::FindTotalsRow() const {
+    return parts_->totalsRows.FindTotalsRow();
+}
+
+void ZkpGrid::PercentOfParent(const QString& field, int r, const QVariant& level, QString& result) {
+    result = run([&](Parts& p) {
+        p.percentShares.tellFailuresAgain();
+        return p.percentShares.PercentOfParent(
+            field, r, level.isValid() ? std::optional<int>(toInt16(level)) : std::nullopt);
+    });
+}
+double ZkpGrid::GroupValueSum(int level, const QString& name, int r) {
+    return run([&](Parts& p) {
+        p.percentShares.tellFailuresAgain();
+        return p.percentShares.GroupValueSum(level, name, r);
+    });
+}
+
+void ZkpGrid::RecalcAverageColumns() {
+    run([](Parts& p) { p.summaryColumns.RecalcAverageColumns(); });
+}
+void ZkpGrid::RecalcPercentColumns() {
+    run([](Parts& p) { p.summaryColumns.RecalcPercentColumns(); });
+}
+int ZkpGrid::FindColumnByField(const QString& name) const {
+    return parts_->summaryColumns.FindColumnByField(name);
+}
+int ZkpGrid::FindParentRow(int r) const {
+    return parts_->summaryColumns.FindParentRow(r);
+}
+
+} // namespace zkp

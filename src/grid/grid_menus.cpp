@@ -1,0 +1,39 @@
+#include "zkp_grid.h"
+
+#include "grid/parts.h"
+
+// Menus and what they choose, one line each.
+
+namespace zkp {
+
+void ZkpGrid::MenuRefresh() {
+    run([](Parts& p) { p.menuState.MenuRefresh(); });
+}
+void ZkpGrid::fillBandField() {
+    run([](Parts& p) { p.menuState.fillBandField(); });
+}
+void ZkpGrid::fillcombos() {
+    run([](Parts& p) { p.menuState.fillcombos(); });
+}
+void ZkpGrid::fillTotalcombos() {
+    run([](Parts& p) { p.menuState.fillTotalcombos(); });
+}
+void ZkpGrid::LockMenus() {
+    run([](Parts& p) { p.menuState.LockMenus(); });
+}
+void ZkpGrid::UnlockMenus() {
+    run([](Parts& p) { p.menuState.UnlockMenus(); });
+}
+
+void ZkpGrid::ChooseSectionStyle(int section, int what) {
+    run([&](Parts& p) { p.sectionStyles.ChooseSectionStyle(section, what); });
+}
+void ZkpGrid::ChooseSectionFont(int section, int /*what*/) {
+    run([&](Parts& p) { p.sectionStyles.ChooseSectionFont(section); });
+}
+
+double ZkpGrid::FindKeyColumn() const {
+    return parts_->keyColumn.FindKeyColumn();
+}
+
+} // namespace zkp

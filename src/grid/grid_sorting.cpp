@@ -1,0 +1,19 @@
+#include "zkp_grid.h"
+
+#include "grid/parts.h"
+
+// Sorting, one line each.
+
+namespace zkp {
+
+void ZkpGrid::Sort(int mv) {
+    run([&](Parts& p) { p.sorting.Sort(mv); });
+}
+void ZkpGrid::SortGrid(int mv) {
+    run([&](Parts& p) { p.sorting.SortGrid(mv); });
+}
+void ZkpGrid::SortByColumn(const QString& previous) {
+    run([&](Parts& p) { p.sorting.SortByColumn(previous); });
+}
+
+} // namespace zkp

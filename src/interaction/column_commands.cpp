@@ -1,0 +1,156 @@
+#include "interaction/column_commands.h"
+
+#include "base/error_in_flight.h"
+#include "base/number.h"
+#include "base/scope_guard.h"
+#include "base/text.h"
+#include "base/texts.h"
+#include "host/error_box.h"
+#include "interaction/questions.h"
+
+namespace zkp {
+
+void ColumnCommands::addColumn() {
+    {
+        host_.setPointer(kPointerHourglass);
+        const ScopeGuard restore([this] { host_.setPointer(kPointerDefault); });
+        steps_.setCols(surface_.Cols() + 1);
+        properties_.setColForTot(surface_.Cols() - 1, false);
+        steps_.setRefreshOnChange(false);
+    }
+    setCol(surface_.Cols() - 1);
+    surface_.setRedraw(true);
+    Q_EMIT events_.addcolumn();
+}
+
+void ColumnCommands::insertColumn() {
+    steps_.setRefreshOnChange(false);
+    groups_.InsertColumn(state_.LastClickedCol);
+    raise(&Events::InsertColumn);
+}
+
+void ColumnCommands::addGroup() {
+    checkGroupBy();
+    if (!makeFactor(state_.GroupFactorCount))
+        return;
+    setCol(state_.GroupFactorCount - 1);
+    Q_EMIT events_.addcolumn();
+}
+
+void ColumnCommands::insertGroup() {
+    state_.LastClickedCol = surface_.Col();
+    const int position = state_.LastClickedCol;
+    checkGroupBy();
+    if (!makeFactor(position))
+        return;
+    surface_.setCol(position);
+    state_.throwIfDestroyed();
+    Q_EMIT events_.addcolumn();
+}
+
+/// False when there could be no column: its box has been shown, and no other column becomes a factor.
+bool ColumnCommands::makeFactor(int position) {
+    const int before = surface_.Cols();
+    groups_.InsertColumn(position);
+    state_.throwIfDestroyed();
+    if (surface_.Cols() == before)
+        return false;
+    properties_.setColForTot(position, true);
+    if (surface_.Rows() > 0)
+        fonts_.CellFonts(0, position,
+                         {state_.FixedFontSize, state_.FixedFontBold, state_.FixedFontUnderline,
+                          state_.FixedFontItalic, std::nullopt});
+    checkGroupBy();
+    steps_.setRefreshOnChange(false);
+    surface_.setRedraw(true);
+    return true;
+}
+
+void ColumnCommands::deleteCurrent() {
+    if (shownColumns() == 1) {
+        host_.msgBox(texts::onlyColumn(), kMsgBoxCritical);
+        return;
+    }
+    if (isLastFactor()) {
+        host_.msgBox(texts::lastFactor(), kMsgBoxCritical);
+        return;
+    }
+    int position = surface_.Col();
+    deletecolumn(position);
+    surface_.setRedraw(true);
+    raise(&Events::DelColumn);
+}
+
+int ColumnCommands::shownColumns() const {
+    int shown = 0;
+    for (int c = 0; c < surface_.Cols(); ++c)
+        shown += surface_.ColWidth(c) != 0 && !surface_.ColHidden(c) ? 1 : 0;
+    return shown;
+}
+
+/// A totals report needs a factor.
+bool ColumnCommands::isLastFactor() const {
+    return state_.TotalForm && surface_.Cols() > 0 && properties_.ColForTot(surface_.Col()) &&
+           state_.GroupFactorCount <= 1;
+}
+
+void ColumnCommands::deletecolumn(int& position) {
+    try {
+        askForRefresh();
+        removeColumn(position);
+        checkGroupBy();
+        steps_.fillGrid();
+        state_.throwIfDestroyed();
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
+        const Error error = errorInFlight();
+        state_.throwIfDestroyed();
+        ShowError(host_, error);
+    }
+}
+
+/// The current column is asked about, not the one that goes; wanted.
+void ColumnCommands::askForRefresh() {
+    const int current = surface_.Col();
+    bool again = false;
+    if (!isBlank(properties_.ColDataField(current)) && properties_.ColForTot(current)) {
+        again = host_.msgBox(texts::refreshNow(), kAskYesNo) == kAnswerYes;
+        state_.throwIfDestroyed();
+    }
+    steps_.setRefreshOnChange(again);
+    state_.throwIfDestroyed();
+}
+
+/// A position that the collection lacks is its error, and the surface is a column shorter by then; wanted.
+void ColumnCommands::removeColumn(int& position) {
+    const int last = surface_.Cols() - 1;
+    surface_.setColPosition(surface_.Col(), last);
+    surface_.setCols(last);
+    columns_.Remove(position + 1);
+    if (position > surface_.Cols() - 1) {
+        position = surface_.Cols() - 1;
+        state_.LastClickedCol = position; // the current cell is there already, and moves without a word
+    }
+    surface_.setCol(position);
+    state_.throwIfDestroyed();
+}
+
+/// The control's `Col` setter.
+void ColumnCommands::setCol(int col) {
+    surface_.setCol(col);
+    state_.throwIfDestroyed();
+    events_.notify(QStringLiteral("Col"));
+    state_.throwIfDestroyed();
+}
+
+/// A handler may write another column, which is then the one that was clicked last.
+void ColumnCommands::raise(void (Events::*event)(ColumnArgs&)) {
+    state_.throwIfDestroyed();
+    ColumnArgs args{state_.LastClickedCol};
+    Q_EMIT(events_.*event)(args);
+    state_.throwIfDestroyed();
+    state_.LastClickedCol = toInt32(args.WhatCol);
+}
+
+} // namespace zkp

@@ -1,0 +1,232 @@
+#include "interaction/interface_drawing.h"
+
+#include "base/error_in_flight.h"
+#include "base/scope_guard.h"
+#include "base/text.h"
+#include "base/texts.h"
+#include "core/enums.h"
+#include "core/paint_scopes.h"
+#include "host/error_box.h"
+
+#include <algorithm>
+
+namespace zkp {
+
+namespace {
+
+/// The colours and font of a section: one write for a block of cells.
+StylePatch sectionStyle(Color back, Color fore, const CellFont& font) {
+    return {back, fore, font.name, font.size, font.bold, font.italic, font.underline, {}};
+}
+
+/// What `DrawInterface` puts back: the other corner of the selection, `FillStyle` and `TopRow`.
+struct SavedView {
+    explicit SavedView(const GridSurface& surface)
+        : rowSel(surface.RowSel())
+        , colSel(surface.ColSel())
+        , fillStyle(surface.FillStyle())
+        , topRow(surface.TopRow()) {}
+
+    /// A corner in row or column 0 does not come back, as wanted; nor does a place that a handler took away.
+    void putBack(GridSurface& surface) const {
+        if (rowSel > 0 && rowSel < surface.Rows())
+            surface.setRowSel(rowSel);
+        if (colSel > 0 && colSel < surface.Cols())
+            surface.setColSel(colSel);
+        surface.setFillStyle(fillStyle);
+        if (topRow < surface.Rows())
+            surface.setTopRow(topRow);
+    }
+
+    int rowSel;
+    int colSel;
+    int fillStyle;
+    int topRow;
+};
+
+bool isSumRow(int kind) {
+    return kind == ZKPSubTotals || kind == ZKPTotals;
+}
+
+} // namespace
+
+void InterfaceDrawing::DrawInterface() {
+    if (drawing_)
+        return;
+    drawing_ = true;
+    const ScopeGuard done([this] { drawing_ = false; });
+    const RedrawOff still(surface_);
+    try {
+        if (state_.ReportRecordset)
+            paintSections();
+        Q_EMIT events_.StopInterface(); // alone when there is no record source, as wanted
+        state_.throwIfDestroyed();
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
+        const Error error = errorInFlight();
+        state_.throwIfDestroyed();
+        ShowError(host_, error);
+    }
+}
+
+void InterfaceDrawing::paintSections() {
+    Q_EMIT events_.StartInterface();
+    state_.throwIfDestroyed();
+    const SavedView saved(surface_);
+    const ScopeGuard restore([&] {
+        const SelectionQuiet quiet(state_);
+        saved.putBack(surface_);
+        state_.SavedTopRow = surface_.TopRow(); // what shows from now on is painted
+        state_.SavedLeftCol = surface_.LeftCol();
+    });
+    state_.PreRow = 0;
+    paintFonts();
+    const CellRange page{std::max(surface_.TopRow(), surface_.FixedRows()), 0, surface_.BottomRow(),
+                         surface_.Cols() - 1};
+    if (page.top <= page.bottom && surface_.Rows() >= 2) {
+        paintGroupCells(page);
+        paintRows(page);
+    }
+    marking_.Selectrow();
+}
+
+void InterfaceDrawing::paintFonts() {
+    const CellFont font{surface_.FontName(), surface_.FontSize(), surface_.FontBold(), surface_.FontItalic(),
+                        surface_.FontUnderline()};
+    const int first = surface_.FixedRows();
+    const int firstCol = std::min(surface_.FixedCols(), surface_.Cols() - 1);
+    fonts_.SetCellFonts(first, font, {firstCol, surface_.Rows() - 1, {}});
+    fonts_.paintHeading();
+}
+
+int InterfaceDrawing::groupColumns() const {
+    return std::min<int>(state_.GroupFactorCount, surface_.Cols());
+}
+
+StylePatch InterfaceDrawing::groupStyle() const {
+    return sectionStyle(state_.GroupedBackColor, state_.GroupedForecolor,
+                        {state_.GroupedFontName, state_.GroupedFontSize, state_.GroupedFontBold,
+                         state_.GroupedFontItalic, state_.GroupedFontUnderline});
+}
+
+void InterfaceDrawing::paintGroupCells(const CellRange& page) {
+    if (groupColumns() > 0)
+        surface_.applyStyle({page.top, 0, page.bottom, groupColumns() - 1}, groupStyle());
+}
+
+void InterfaceDrawing::paintRows(const CellRange& page) {
+    if (surface_.Cols() <= state_.GroupFactorCount)
+        return;
+    std::vector<int> kinds; // from the page's first row on
+    for (int row = page.top; row <= page.bottom; ++row)
+        kinds.push_back(surface_.RowData(row));
+    markBlankFactors(page, kinds);
+    paintDetailRows(page, kinds);
+    paintSumRows(page, kinds);
+}
+
+/// A blank factor cell that shows takes the mark of a repeated value; sums and rows out of sight don't.
+void InterfaceDrawing::markBlankFactors(const CellRange& page, const std::vector<int>& kinds) {
+    const int count = groupColumns();
+    for (int row = page.top; count > 0 && row <= page.bottom; ++row) {
+        if (isSumRow(kinds[static_cast<std::size_t>(row - page.top)]))
+            continue;
+        for (int c = 0; c < count; ++c)
+            if (isBlank(surface_.TextMatrix(row, c)))
+                surface_.setTextMatrix(row, c, texts::repeatedValue());
+    }
+}
+
+/// Rows that stand together are one write; the sums among them are painted over it afterwards.
+void InterfaceDrawing::paintDetailRows(const CellRange& page, const std::vector<int>& kinds) {
+    StylePatch colours;
+    colours.backColor = surface_.BackColor();
+    colours.foreColor = surface_.ForeColor();
+    int first = page.top;
+    for (int row = page.top; row <= page.bottom + 1; ++row) {
+        const int kind = row <= page.bottom ? kinds[static_cast<std::size_t>(row - page.top)] : 0;
+        if (kind == ZKPSingleRow || isSumRow(kind))
+            continue;
+        if (first < row)
+            surface_.applyStyle({first, groupColumns(), row - 1, page.right}, colours);
+        first = row + 1;
+    }
+}
+
+void InterfaceDrawing::paintSumRows(const CellRange& page, const std::vector<int>& kinds) {
+    const StylePatch subTotals =
+        sectionStyle(state_.SubTotalsBackColor, state_.SubTotalsForeColor,
+                     {state_.SubTotalsFontName, state_.SubTotalsFontSize, state_.SubTotalsFontBold,
+                      state_.SubTotalsFontItalic, state_.SubTotalsFontUnderline});
+    const StylePatch totals =
+        sectionStyle(state_.TotalsBackcolor, state_.TotalsForeColor,
+                     {state_.TotalsFontName, state_.TotalsFontSize, state_.TotalsFontBold,
+                      state_.TotalsFontItalic, state_.TotalsFontUnderline});
+    for (int row = page.top; row <= page.bottom; ++row)
+        if (const int kind = kinds[static_cast<std::size_t>(row - page.top)]; isSumRow(kind))
+            surface_.applyStyle({row, 0, row, page.right}, kind == ZKPTotals ? totals : subTotals);
+}
+
+void InterfaceDrawing::RefreshInterface(int what) {
+    const RedrawOff still(surface_);
+    const int pointer = host_.pointer();
+    const ScopeGuard restore([&] { host_.setPointer(pointer); });
+    host_.setPointer(kPointerHourglass);
+    if (surface_.FixedRows() > 0)
+        fonts_.FontsRow(0, {state_.FixedFontSize, state_.FixedFontBold, state_.FixedFontUnderline,
+                            state_.FixedFontItalic, state_.FixedFontStrikethru});
+    if (what == 0)
+        return;
+    PaintGroupBlock(true);
+    refreshTotals();
+    menu_.Refresh();
+}
+
+void InterfaceDrawing::refreshTotals() {
+    const FontMarks subtotals{state_.SubTotalsFontSize, state_.SubTotalsFontBold,
+                              state_.SubTotalsFontUnderline, state_.SubTotalsFontItalic,
+                              state_.SubTotalsFontStrikethru};
+    const FontMarks totals{state_.TotalsFontSize, state_.TotalsFontBold, state_.TotalsFontUnderline,
+                           state_.TotalsFontItalic, state_.TotalsFontStrikethru};
+    for (int row = surface_.FixedRows(); row < surface_.Rows(); ++row) {
+        const int kind = surface_.RowData(row);
+        if (kind == ZKPSubTotals)
+            markRow(row, state_.SubTotalsBackColor, state_.SubTotalsForeColor, subtotals);
+        else if (kind == ZKPTotals)
+            markRow(row, state_.TotalsBackcolor, state_.TotalsForeColor, totals);
+    }
+}
+
+/// Marking the current row raises `Selecting`, whose handler may take rows away.
+void InterfaceDrawing::markRow(int row, Color back, Color fore, const FontMarks& font) {
+    marking_.reversecolor(row, back, fore);
+    if (row < surface_.Rows())
+        fonts_.FontsRow(row, font);
+}
+
+/// In a totals report the innermost of several factors is a plain cell.
+void InterfaceDrawing::PaintGroupBlock(bool fromTop) {
+    if (state_.GroupFactorCount == 0)
+        return;
+    const bool innerIsPlain = state_.TotalForm && state_.GroupFactorCount != 1;
+    const int count = std::min(state_.GroupFactorCount - (innerIsPlain ? 1 : 0), surface_.Cols());
+    const RedrawOff still(surface_);
+    const SelectionQuiet quiet(state_);
+    surface_.setMergeCells(0);
+    if (surface_.Rows() > surface_.FixedRows() && count > 0) {
+        const int last = surface_.Rows() - 1;
+        surface_.Select(fromTop ? surface_.FixedRows() : last, 0, last, count - 1); // and stays so, as wanted
+        StylePatch style = groupStyle();
+        style.fontName.reset(); // the typeface stays, as wanted
+        style.strikethru = state_.GroupedFontStrikethru;
+        surface_.applyStyle(surface_.selection(), style);
+    }
+    surface_.setFillStyle(0);
+    surface_.setMergeCells(1);
+    for (int c = 0; c < surface_.Cols(); ++c)
+        surface_.setMergeCol(c, c < count);
+    surface_.Refresh();
+}
+
+} // namespace zkp

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "core/cell_fonts.h"
+#include "core/events.h"
+#include "core/report_state.h"
+#include "core/row_marking.h"
+#include "host/host.h"
+#include "menu/menu_bar.h"
+#include "surface/grid_surface.h"
+
+#include <vector>
+
+namespace zkp {
+
+/// Paints the report's sections: heading, group factor cells, detail rows, subtotals and totals take
+/// the colours and fonts that the control stores for them.
+class InterfaceDrawing {
+public:
+    InterfaceDrawing(ReportState& state, GridSurface& surface, Events& events, FontWriter& fonts,
+                     RowMarking& marking, MenuBar& menu, Host& host)
+        : state_(state)
+        , surface_(surface)
+        , events_(events)
+        , fonts_(fonts)
+        , marking_(marking)
+        , menu_(menu)
+        , host_(host) {}
+
+    /// Paints the rows that show, whatever the report's length. A failure shows the error box. Called
+    /// again by one of its own handlers, it does nothing.
+    void DrawInterface();
+    /// Repaints the heading row, and unless `what` is 0 all group, subtotal and totals cells.
+    void RefreshInterface(int what);
+    /// Repaints the group factor cells of all rows, or of the last row alone. They stay selected.
+    void PaintGroupBlock(bool fromTop);
+
+private:
+    void paintSections();
+    void paintFonts();
+    void paintGroupCells(const CellRange& page);
+    void paintRows(const CellRange& page);
+    void markBlankFactors(const CellRange& page, const std::vector<int>& kinds);
+    void paintDetailRows(const CellRange& page, const std::vector<int>& kinds);
+    void paintSumRows(const CellRange& page, const std::vector<int>& kinds);
+    void refreshTotals();
+    void markRow(int row, Color back, Color fore, const FontMarks& font);
+    int groupColumns() const;
+    StylePatch groupStyle() const;
+
+    ReportState& state_;
+    GridSurface& surface_;
+    Events& events_;
+    FontWriter& fonts_;
+    RowMarking& marking_;
+    MenuBar& menu_;
+    Host& host_;
+    bool drawing_ = false;
+};
+
+} // namespace zkp

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "core/column_properties.h"
+#include "core/events.h"
+#include "core/report_state.h"
+#include "host/host.h"
+#include "interaction/column_commands.h"
+#include "interaction/menu_state.h"
+#include "interaction/section_styles.h"
+#include "load/sorting.h"
+#include "menu/menu_bar.h"
+#include "surface/grid_surface.h"
+
+#include <functional>
+#include <memory>
+
+namespace zkp {
+
+/// Runs the command of a tool that the user has clicked, and brings the menus up to date behind it. What
+/// fails in a command is thrown to whoever clicked.
+class MenuCommands {
+public:
+    /// What the control does for these commands.
+    struct Steps {
+        std::function<void()> refresh;
+        std::function<void(bool)> setRefreshOnChange; ///< the control's own setters
+        std::function<void(const QString&)> setPrintCaption;
+    };
+
+    MenuCommands(ReportState& state, const ColumnList& columns, ColumnProperties& properties,
+                 GridSurface& surface, Events& events, RowSorting& sorting, ColumnCommands& columnCommands,
+                 SectionStyles& styles, MenuState& menus, Host& host, Steps steps)
+        : state_(state)
+        , columns_(columns)
+        , properties_(properties)
+        , surface_(surface)
+        , events_(events)
+        , sorting_(sorting)
+        , columnCommands_(columnCommands)
+        , styles_(styles)
+        , menus_(menus)
+        , host_(host)
+        , steps_(std::move(steps)) {}
+
+    /// Takes the bar's clicks. `owner` keeps everything here alive while a command runs, since a handler
+    /// may destroy the control.
+    void connect(MenuBar& menu, const std::weak_ptr<void>& owner);
+
+private:
+    struct Table;
+
+    void clicked(const Tool& tool);
+    void run(const Tool& tool);
+
+    void refresh();
+    void sort(bool descending);
+    void align(int alignment);
+    void askForTitle();
+    void sayMissing(const Tool& tool);
+    void raise(void (Events::*event)()) { Q_EMIT(events_.*event)(); }
+    void changeColumns(void (ColumnCommands::*command)()) { (columnCommands_.*command)(); }
+    void style(int section, int what) { styles_.ChooseSectionStyle(section, what); }
+    void font(int section) { styles_.ChooseSectionFont(section); }
+
+    ReportState& state_;
+    const ColumnList& columns_;
+    ColumnProperties& properties_;
+    GridSurface& surface_;
+    Events& events_;
+    RowSorting& sorting_;
+    ColumnCommands& columnCommands_;
+    SectionStyles& styles_;
+    MenuState& menus_;
+    Host& host_;
+    Steps steps_;
+};
+
+} // namespace zkp

@@ -1,0 +1,110 @@
+#include "interaction/surface_events.h"
+
+#include "base/error_in_flight.h"
+#include "base/number.h"
+#include "base/texts.h"
+#include "host/error_box.h"
+#include "interaction/menu_table.h"
+#include "interaction/owner_guard.h"
+
+namespace zkp {
+
+namespace {
+
+constexpr int kEndKey = 35;
+constexpr int kRightButton = 2;
+constexpr int kCtrl = 2;
+
+} // namespace
+
+void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
+    const auto guarded = [&](auto handler) { return guardedBy(owner, state_, handler); };
+    SurfaceNotifications& on = surface_.notifications;
+    on.mouseDown = guarded([this](const SurfaceMouse& mouse) { reporting([&] { mouseDown(mouse); }); });
+    on.mouseMove =
+        guarded([this](const SurfaceMouse& mouse) { reporting([&] { drag_.showPointer(mouse); }); });
+    on.click = guarded([this] { click(); });
+    on.dblClick = guarded([this] { Q_EMIT events_.DblClick(); });
+    on.keyDown = guarded([this](int& code, int shift) { reporting([&] { keyDown(code, shift); }); });
+    on.headingDropped = [drop = guarded([this](int from, int to) { drag_.drop(from, to); })](int from,
+                                                                                             int to) {
+        drop(from, to);
+        return false; // what was to be moved has been moved
+    };
+    on.columnResized = guarded([this](int col) { columnResized(col); });
+    on.currentCellChanged = guarded([this] { selection_.currentCellChanged(); });
+    on.selectionChanged = guarded([this] { selection_.selectionChanged(); });
+    on.selectedAgain = guarded([this] { selection_.selectedAgain(); });
+    on.scrolled = guarded([this] { selection_.scrolled(); });
+    on.visibleRowsGrew = guarded([this] { selection_.visibleRowsGrew(); });
+}
+
+template <class Handler>
+void SurfaceEvents::reporting(Handler handler) {
+    try {
+        handler();
+    } catch (const ControlDestroyed&) {
+        throw;
+    } catch (...) {
+        const Error error = errorInFlight();
+        state_.throwIfDestroyed();
+        ShowError(host_, error);
+    }
+}
+
+void SurfaceEvents::mouseDown(const SurfaceMouse& mouse) {
+    if (mouse.col >= 0) {
+        state_.LastClickedCol = mouse.col;
+        surface_.setCol(mouse.col);
+        state_.throwIfDestroyed();
+    }
+    if (!isPressTold(mouse))
+        return;
+    state_.throwIfDestroyed();
+    MouseArgs args{toInt16(mouse.button), toInt16(mouse.shift), mouse.x, mouse.y};
+    Q_EMIT events_.MouseDown(args);
+}
+
+/// Whether the host is to hear of the press, after it has opened the menu or prepared a drag.
+bool SurfaceEvents::isPressTold(const SurfaceMouse& mouse) {
+    if ((mouse.button & kRightButton) != 0) {
+        menuState_.MenuRefresh();
+        menu_.popup(QStringView(bands::kContext));
+        return true;
+    }
+    if (!state_.MenusLocked)
+        return drag_.prepare();
+    state_.MousePointer = kPointerNoDrop;
+    return true;
+}
+
+/// The first click on a control that has loaded nothing shows the report's shape. The chart follows a
+/// click on a group factor, or on the first column after them.
+void SurfaceEvents::click() {
+    if (!dictionary_.isOpen())
+        reporting([this] { emptyReport_.prepare(); });
+    state_.throwIfDestroyed();
+    const int col = surface_.Col();
+    if (col < 0)
+        return;
+    state_.LastClickedCol = col;
+    if (state_.GraphVisible && col <= state_.GroupFactorCount && showChart_)
+        showChart_();
+    state_.throwIfDestroyed();
+    Q_EMIT events_.Click();
+}
+
+/// There is no continuation of a load: Ctrl with End only says so.
+void SurfaceEvents::keyDown(int code, int shift) {
+    if (code == kEndKey && (shift & kCtrl) != 0)
+        host_.msgBox(texts::hitBottom());
+}
+
+void SurfaceEvents::columnResized(int col) {
+    if (col < 0)
+        drag_.saveWidths();
+    else if (drag_.exists(col))
+        properties_.setColWidth(col, surface_.ColWidth(col));
+}
+
+} // namespace zkp

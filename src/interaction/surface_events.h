@@ -1,0 +1,70 @@
+#pragma once
+
+#include "core/column_properties.h"
+#include "core/events.h"
+#include "core/report_state.h"
+#include "host/host.h"
+#include "interaction/heading_drag.h"
+#include "interaction/menu_state.h"
+#include "interaction/selection_events.h"
+#include "load/empty_report.h"
+#include "menu/menu_bar.h"
+#include "sql/dictionary.h"
+#include "surface/grid_surface.h"
+
+#include <functional>
+#include <memory>
+
+namespace zkp {
+
+/// What the control does with the mouse and keys of the visible surface; takes all its notifications.
+class SurfaceEvents {
+public:
+    /// `showChart` draws the chart anew.
+    SurfaceEvents(ReportState& state, ColumnProperties& properties, GridSurface& surface, MenuBar& menu,
+                  Events& events, const Dictionary& dictionary, EmptyReport& emptyReport,
+                  MenuState& menuState, HeadingDrag& drag, SelectionEvents& selection, Host& host,
+                  std::function<void()> showChart)
+        : state_(state)
+        , properties_(properties)
+        , surface_(surface)
+        , menu_(menu)
+        , events_(events)
+        , dictionary_(dictionary)
+        , emptyReport_(emptyReport)
+        , menuState_(menuState)
+        , drag_(drag)
+        , selection_(selection)
+        , host_(host)
+        , showChart_(std::move(showChart)) {}
+
+    /// Takes the surface's notifications. `owner` keeps everything here alive while one of them runs,
+    /// since a handler may destroy the control.
+    void connect(const std::weak_ptr<void>& owner);
+
+private:
+    /// Runs a handler of the mouse; a failure shows the error box.
+    template <class Handler>
+    void reporting(Handler handler);
+    void mouseDown(const SurfaceMouse& mouse);
+    bool isPressTold(const SurfaceMouse& mouse);
+    void showShape();
+    void columnResized(int col);
+    void click();
+    void keyDown(int code, int shift);
+
+    ReportState& state_;
+    ColumnProperties& properties_;
+    GridSurface& surface_;
+    MenuBar& menu_;
+    Events& events_;
+    const Dictionary& dictionary_;
+    EmptyReport& emptyReport_;
+    MenuState& menuState_;
+    HeadingDrag& drag_;
+    SelectionEvents& selection_;
+    Host& host_;
+    std::function<void()> showChart_;
+};
+
+} // namespace zkp
