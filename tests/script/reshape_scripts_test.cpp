@@ -8,7 +8,7 @@
 namespace {
 
 QString folder() {
-    return QStringLiteral(ZKP_SOURCE_DIR "/tests/zkpreport/scripts/reshape");
+    return QStringLiteral(ZKP_SOURCE_DIR "/tests/script/scripts/reshape");
 }
 
 std::vector<std::string> cases() {
