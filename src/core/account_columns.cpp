@@ -1,6 +1,7 @@
 #include "core/account_columns.h"
 
 #include "base/number.h"
+#include "core/section_style.h"
 
 #include <algorithm>
 
@@ -59,9 +60,7 @@ void AccountColumns::writeLastRow(const std::vector<double>& sums) {
     }
     if (cols > 0) {
         surface_.setTextMatrix(last, 0, QStringLiteral("###"));
-        StylePatch totals;
-        totals.backColor = state_.TotalsBackcolor;
-        totals.foreColor = state_.TotalsForeColor;
+        const StylePatch totals = coloursOf(styleOf(Section::Totals, state_, surface_));
         surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, totals);
     }
     if (state_.BalanceColumn > -1) {

@@ -1,24 +1,24 @@
 #include "core/cell_fonts.h"
 
 #include "core/paint_scopes.h"
+#include "core/section_style.h"
 
 #include <algorithm>
 
 namespace zkp {
 
-void FontWriter::SetCellFonts(int row, const CellFont& font, const Block& block) {
+void FontWriter::SetCellFonts(int row, const StylePatch& font, const Block& block) {
     if (row < 0 || row >= surface_.Rows() || surface_.Cols() == 0)
         return;
     const int last = surface_.Cols() - 1;
     const int left = block.col.value_or(row > 0 ? state_.GroupFactorCount : 0);
     if (!block.col && left > last)
         return; // all columns are group factors
-    StylePatch patch;
-    patch.fontName = font.name;
-    patch.fontSize = font.size;
-    patch.bold = font.bold;
-    patch.italic = font.italic;
-    patch.underline = font.underline;
+    const StylePatch patch{.fontName = font.fontName,
+                           .fontSize = font.fontSize,
+                           .bold = font.bold,
+                           .italic = font.italic,
+                           .underline = font.underline};
 
     const RedrawOff still(surface_);
     const SelectionQuiet quiet(state_);
@@ -29,12 +29,11 @@ void FontWriter::SetCellFonts(int row, const CellFont& font, const Block& block)
 void FontWriter::paintHeading() {
     if (surface_.FixedRows() == 0)
         return;
-    const CellFont font{state_.FixedFontName, state_.FixedFontSize, state_.FixedFontBold,
-                        state_.FixedFontItalic, state_.FixedFontUnderline};
-    SetCellFonts(0, font, {0, surface_.FixedRows() - 1, {}});
+    const StylePatch font = fontOf(styleOf(Section::Heading, state_, surface_));
+    SetCellFonts(0, font, {.col = 0, .rowEnd = surface_.FixedRows() - 1, .colEnd = {}});
 }
 
-void FontWriter::FontsRow(int row, const FontMarks& marks) {
+void FontWriter::FontsRow(int row, const StylePatch& marks) {
     const SelectionQuiet quiet(state_);
     const int last = surface_.Cols() - 1;
     if (last >= 0)
@@ -44,21 +43,20 @@ void FontWriter::FontsRow(int row, const FontMarks& marks) {
     report(QStringLiteral("Col"));
 }
 
-void FontWriter::CellFonts(int row, int col, const FontMarks& marks) {
+void FontWriter::CellFonts(int row, int col, const StylePatch& marks) {
     const SelectionQuiet quiet(state_);
     mark({row, col, row, col}, marks);
     report(QStringLiteral("Row"));
     report(QStringLiteral("Col"));
 }
 
-void FontWriter::mark(const CellRange& cells, const FontMarks& marks) {
+void FontWriter::mark(const CellRange& cells, const StylePatch& marks) {
     const RedrawOff still(surface_);
-    StylePatch patch;
-    patch.fontSize = marks.size.value_or(surface_.FontSize());
-    patch.underline = marks.underline.value_or(surface_.FontUnderline());
-    patch.bold = marks.bold.value_or(surface_.FontBold());
-    patch.italic = marks.italic.value_or(surface_.FontItalic());
-    patch.strikethru = marks.strikethru.value_or(surface_.FontStrikethru());
+    const StylePatch patch{.fontSize = marks.fontSize.value_or(surface_.FontSize()),
+                           .bold = marks.bold.value_or(surface_.FontBold()),
+                           .italic = marks.italic.value_or(surface_.FontItalic()),
+                           .underline = marks.underline.value_or(surface_.FontUnderline()),
+                           .strikethru = marks.strikethru.value_or(surface_.FontStrikethru())};
     surface_.applyStyle(cells, patch);
     selectCurrentCell(surface_);
 }

@@ -8,26 +8,8 @@
 
 namespace zkp {
 
-/// A font as `SetCellFonts` gives it to cells.
-struct CellFont {
-    QString name;
-    double size = 8; ///< points
-    bool bold = false;
-    bool italic = false;
-    bool underline = false;
-};
-
-/// Size and style as `FontsRow` and `CellFonts` give them; what is left out is the surface's own. There
-/// is no name: these two can't change the typeface, as wanted.
-struct FontMarks {
-    std::optional<double> size; ///< points
-    std::optional<bool> bold;
-    std::optional<bool> underline;
-    std::optional<bool> italic;
-    std::optional<bool> strikethru;
-};
-
 /// Gives fonts to blocks, rows and cells of the surface. The selection is the current cell afterwards.
+/// Fonts are patches; colours in them are passed over.
 ///
 /// Every font here has its Greek letters; there is no character set to choose.
 class FontWriter {
@@ -43,17 +25,18 @@ public:
         std::optional<int> rowEnd; ///< the row itself
         std::optional<int> colEnd; ///< the last column
     };
-    /// Nothing for a row that the surface lacks. A block of the whole body is one write.
-    void SetCellFonts(int row, const CellFont& font, const Block& block = {});
+    /// Nothing for a row that the surface lacks. A block of the whole body is one write. The strikeout stays.
+    void SetCellFonts(int row, const StylePatch& font, const Block& block = {});
     /// The heading takes the fixed font.
     void paintHeading();
 
-    /// From `FixedCols` on. Reports the keys "Row" and "Col", as `CellFonts` does.
-    void FontsRow(int row, const FontMarks& marks);
-    void CellFonts(int row, int col, const FontMarks& marks);
+    /// From `FixedCols` on. What is left out is the surface's own, and the typeface can't be changed here, as
+    /// wanted. Reports the keys "Row" and "Col". So does `CellFonts`.
+    void FontsRow(int row, const StylePatch& marks);
+    void CellFonts(int row, int col, const StylePatch& marks);
 
 private:
-    void mark(const CellRange& cells, const FontMarks& marks);
+    void mark(const CellRange& cells, const StylePatch& marks);
     void report(const QString& key);
 
     ReportState& state_;

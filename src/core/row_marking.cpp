@@ -104,10 +104,7 @@ void RowMarking::paint(const CellRange& cells, const Colours& colours) {
 }
 
 StylePatch RowMarking::patchOf(const Colours& colours) {
-    StylePatch patch;
-    patch.backColor = colours.back;
-    patch.foreColor = colours.fore;
-    return patch;
+    return {.backColor = colours.back, .foreColor = colours.fore};
 }
 
 } // namespace zkp

@@ -21,10 +21,15 @@ std::optional<T> given(const QVariant& argument) {
     return argument.value<T>();
 }
 
-FontMarks fontMarks(const QVariant& size, const QVariant& bold, const QVariant& underline,
-                    const QVariant& italic, const QVariant& strike) {
-    return {given<double>(size), given<bool>(bold), given<bool>(underline), given<bool>(italic),
-            given<bool>(strike)};
+StylePatch fontMarks(const QVariant& size, const QVariant& bold, const QVariant& underline,
+                     const QVariant& italic, const QVariant& strike) {
+    StylePatch marks; // checked in the order of the arguments
+    marks.fontSize = given<double>(size);
+    marks.bold = given<bool>(bold);
+    marks.underline = given<bool>(underline);
+    marks.italic = given<bool>(italic);
+    marks.strikethru = given<bool>(strike);
+    return marks;
 }
 
 } // namespace
@@ -86,8 +91,10 @@ void ZkpGrid::FontsRow(int mrw, const QVariant& /*mFontname*/, const QVariant& m
 void ZkpGrid::SetCellFonts(int row, const QString& name, double size, bool bold, bool italic, bool underline,
                            const QVariant& col, const QVariant& rowEnd, const QVariant& colEnd) {
     run([&](Parts& p) {
-        p.fonts.SetCellFonts(row, {name, size, bold, italic, underline},
-                             {given<int>(col), given<int>(rowEnd), given<int>(colEnd)});
+        const StylePatch font{
+            .fontName = name, .fontSize = size, .bold = bold, .italic = italic, .underline = underline};
+        p.fonts.SetCellFonts(
+            row, font, {.col = given<int>(col), .rowEnd = given<int>(rowEnd), .colEnd = given<int>(colEnd)});
     });
 }
 

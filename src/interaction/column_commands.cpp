@@ -5,6 +5,7 @@
 #include "base/scope_guard.h"
 #include "base/text.h"
 #include "base/texts.h"
+#include "core/section_style.h"
 #include "host/error_box.h"
 #include "interaction/questions.h"
 
@@ -56,10 +57,11 @@ bool ColumnCommands::makeFactor(int position) {
     if (surface_.Cols() == before)
         return false;
     properties_.setColForTot(position, true);
-    if (surface_.Rows() > 0)
-        fonts_.CellFonts(0, position,
-                         {state_.FixedFontSize, state_.FixedFontBold, state_.FixedFontUnderline,
-                          state_.FixedFontItalic, std::nullopt});
+    if (surface_.Rows() > 0) {
+        StylePatch font = fontMarksOf(styleOf(Section::Heading, state_, surface_));
+        font.strikethru.reset(); // the surface's own
+        fonts_.CellFonts(0, position, font);
+    }
     checkGroupBy();
     steps_.setRefreshOnChange(false);
     surface_.setRedraw(true);

@@ -4,8 +4,8 @@
 #include "base/scope_guard.h"
 #include "base/text.h"
 #include "base/texts.h"
-#include "core/enums.h"
 #include "core/paint_scopes.h"
+#include "core/section_style.h"
 #include "host/error_box.h"
 
 #include <algorithm>
@@ -13,11 +13,6 @@
 namespace zkp {
 
 namespace {
-
-/// The colours and font of a section: one write for a block of cells.
-StylePatch sectionStyle(Color back, Color fore, const CellFont& font) {
-    return {back, fore, font.name, font.size, font.bold, font.italic, font.underline, {}};
-}
 
 /// What `DrawInterface` puts back: the other corner of the selection, `FillStyle` and `TopRow`.
 struct SavedView {
@@ -43,10 +38,6 @@ struct SavedView {
     int fillStyle;
     int topRow;
 };
-
-bool isSumRow(int kind) {
-    return kind == ZKPSubTotals || kind == ZKPTotals;
-}
 
 } // namespace
 
@@ -92,11 +83,10 @@ void InterfaceDrawing::paintSections() {
 }
 
 void InterfaceDrawing::paintFonts() {
-    const CellFont font{surface_.FontName(), surface_.FontSize(), surface_.FontBold(), surface_.FontItalic(),
-                        surface_.FontUnderline()};
     const int first = surface_.FixedRows();
     const int firstCol = std::min(surface_.FixedCols(), surface_.Cols() - 1);
-    fonts_.SetCellFonts(first, font, {firstCol, surface_.Rows() - 1, {}});
+    fonts_.SetCellFonts(first, fontOf(look(Section::Details)),
+                        {.col = firstCol, .rowEnd = surface_.Rows() - 1, .colEnd = {}});
     fonts_.paintHeading();
 }
 
@@ -104,15 +94,14 @@ int InterfaceDrawing::groupColumns() const {
     return std::min<int>(state_.GroupFactorCount, surface_.Cols());
 }
 
-StylePatch InterfaceDrawing::groupStyle() const {
-    return sectionStyle(state_.GroupedBackColor, state_.GroupedForecolor,
-                        {state_.GroupedFontName, state_.GroupedFontSize, state_.GroupedFontBold,
-                         state_.GroupedFontItalic, state_.GroupedFontUnderline});
+CellStyle InterfaceDrawing::look(Section section) const {
+    return styleOf(section, state_, surface_);
 }
 
 void InterfaceDrawing::paintGroupCells(const CellRange& page) {
     if (groupColumns() > 0)
-        surface_.applyStyle({page.top, 0, page.bottom, groupColumns() - 1}, groupStyle());
+        surface_.applyStyle({page.top, 0, page.bottom, groupColumns() - 1},
+                            coloursAndFontOf(look(Section::GroupFactors)));
 }
 
 void InterfaceDrawing::paintRows(const CellRange& page) {
@@ -140,9 +129,7 @@ void InterfaceDrawing::markBlankFactors(const CellRange& page, const std::vector
 
 /// Rows that stand together are one write; the sums among them are painted over it afterwards.
 void InterfaceDrawing::paintDetailRows(const CellRange& page, const std::vector<int>& kinds) {
-    StylePatch colours;
-    colours.backColor = surface_.BackColor();
-    colours.foreColor = surface_.ForeColor();
+    const StylePatch colours = coloursOf(look(Section::Details));
     int first = page.top;
     for (int row = page.top; row <= page.bottom + 1; ++row) {
         const int kind = row <= page.bottom ? kinds[static_cast<std::size_t>(row - page.top)] : 0;
@@ -155,14 +142,8 @@ void InterfaceDrawing::paintDetailRows(const CellRange& page, const std::vector<
 }
 
 void InterfaceDrawing::paintSumRows(const CellRange& page, const std::vector<int>& kinds) {
-    const StylePatch subTotals =
-        sectionStyle(state_.SubTotalsBackColor, state_.SubTotalsForeColor,
-                     {state_.SubTotalsFontName, state_.SubTotalsFontSize, state_.SubTotalsFontBold,
-                      state_.SubTotalsFontItalic, state_.SubTotalsFontUnderline});
-    const StylePatch totals =
-        sectionStyle(state_.TotalsBackcolor, state_.TotalsForeColor,
-                     {state_.TotalsFontName, state_.TotalsFontSize, state_.TotalsFontBold,
-                      state_.TotalsFontItalic, state_.TotalsFontUnderline});
+    const StylePatch subTotals = coloursAndFontOf(look(Section::SubTotals));
+    const StylePatch totals = coloursAndFontOf(look(Section::Totals));
     for (int row = page.top; row <= page.bottom; ++row)
         if (const int kind = kinds[static_cast<std::size_t>(row - page.top)]; isSumRow(kind))
             surface_.applyStyle({row, 0, row, page.right}, kind == ZKPTotals ? totals : subTotals);
@@ -174,8 +155,7 @@ void InterfaceDrawing::RefreshInterface(int what) {
     const ScopeGuard restore([&] { host_.setPointer(pointer); });
     host_.setPointer(kPointerHourglass);
     if (surface_.FixedRows() > 0)
-        fonts_.FontsRow(0, {state_.FixedFontSize, state_.FixedFontBold, state_.FixedFontUnderline,
-                            state_.FixedFontItalic, state_.FixedFontStrikethru});
+        fonts_.FontsRow(0, fontMarksOf(look(Section::Heading)));
     if (what == 0)
         return;
     PaintGroupBlock(true);
@@ -184,23 +164,20 @@ void InterfaceDrawing::RefreshInterface(int what) {
 }
 
 void InterfaceDrawing::refreshTotals() {
-    const FontMarks subtotals{state_.SubTotalsFontSize, state_.SubTotalsFontBold,
-                              state_.SubTotalsFontUnderline, state_.SubTotalsFontItalic,
-                              state_.SubTotalsFontStrikethru};
-    const FontMarks totals{state_.TotalsFontSize, state_.TotalsFontBold, state_.TotalsFontUnderline,
-                           state_.TotalsFontItalic, state_.TotalsFontStrikethru};
+    const StylePatch subTotalsFont = fontMarksOf(look(Section::SubTotals));
+    const StylePatch totalsFont = fontMarksOf(look(Section::Totals));
     for (int row = surface_.FixedRows(); row < surface_.Rows(); ++row) {
         const int kind = surface_.RowData(row);
         if (kind == ZKPSubTotals)
-            markRow(row, state_.SubTotalsBackColor, state_.SubTotalsForeColor, subtotals);
+            markRow(row, look(Section::SubTotals), subTotalsFont);
         else if (kind == ZKPTotals)
-            markRow(row, state_.TotalsBackcolor, state_.TotalsForeColor, totals);
+            markRow(row, look(Section::Totals), totalsFont);
     }
 }
 
 /// Marking the current row raises `Selecting`, whose handler may take rows away.
-void InterfaceDrawing::markRow(int row, Color back, Color fore, const FontMarks& font) {
-    marking_.reversecolor(row, back, fore);
+void InterfaceDrawing::markRow(int row, const CellStyle& colours, const StylePatch& font) {
+    marking_.reversecolor(row, colours.backColor, colours.foreColor);
     if (row < surface_.Rows())
         fonts_.FontsRow(row, font);
 }
@@ -217,10 +194,11 @@ void InterfaceDrawing::PaintGroupBlock(bool fromTop) {
     if (surface_.Rows() > surface_.FixedRows() && count > 0) {
         const int last = surface_.Rows() - 1;
         surface_.Select(fromTop ? surface_.FixedRows() : last, 0, last, count - 1); // and stays so, as wanted
-        StylePatch style = groupStyle();
-        style.fontName.reset(); // the typeface stays, as wanted
-        style.strikethru = state_.GroupedFontStrikethru;
-        surface_.applyStyle(surface_.selection(), style);
+        const CellStyle style = look(Section::GroupFactors);
+        StylePatch patch = fontMarksOf(style); // the typeface stays, as wanted
+        patch.backColor = style.backColor;
+        patch.foreColor = style.foreColor;
+        surface_.applyStyle(surface_.selection(), patch);
     }
     surface_.setFillStyle(0);
     surface_.setMergeCells(1);

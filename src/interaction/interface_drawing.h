@@ -4,6 +4,7 @@
 #include "core/events.h"
 #include "core/report_state.h"
 #include "core/row_marking.h"
+#include "core/section_style.h"
 #include "host/host.h"
 #include "menu/menu_bar.h"
 #include "surface/grid_surface.h"
@@ -43,9 +44,9 @@ private:
     void paintDetailRows(const CellRange& page, const std::vector<int>& kinds);
     void paintSumRows(const CellRange& page, const std::vector<int>& kinds);
     void refreshTotals();
-    void markRow(int row, Color back, Color fore, const FontMarks& font);
+    void markRow(int row, const CellStyle& colours, const StylePatch& font);
     int groupColumns() const;
-    StylePatch groupStyle() const;
+    CellStyle look(Section section) const;
 
     ReportState& state_;
     GridSurface& surface_;

@@ -31,8 +31,7 @@ void Lifecycle::initProperties() {
     surface.setFontStrikethru(false);
     state_.PreBackColor = surface.BackColor();
     state_.PreForeColor = surface.ForeColor();
-    StylePatch heading;
-    heading.bold = state_.FixedFontBold;
+    const StylePatch heading{.bold = state_.FixedFontBold};
     surface.applyStyle({0, 0, surface.FixedRows() - 1, surface.Cols() - 1}, heading);
 }
 

@@ -6,25 +6,25 @@ namespace zkp {
 
 namespace {
 
-/// The names of a section's properties; empty where it has none. A font's five begin alike.
-struct Section {
-    const char16_t* back;
-    const char16_t* fore;
+/// The names of a section's properties; null where it has none. A font's five begin alike.
+struct SectionProperties {
+    const char16_t* back = nullptr;
+    const char16_t* fore = nullptr;
     const char16_t* font = nullptr;
 };
 
 /// Title and company block have no number in ZKPSections, and no font to choose here.
-constexpr std::array<Section, 7> kSections{{
-    {u"BackColorFixed", u"ForeColorFixed", u"FixedFont"},
-    {u"GroupedBackColor", u"GroupedForecolor", u"GroupedFont"},
-    {u"BackColor", u"ForeColor", u"Font"},
-    {u"SubTotalsBackColor", u"SubTotalsForeColor", u"SubTotalsFont"},
-    {u"TotalsBackcolor", u"TotalsForeColor", u"TotalsFont"},
-    {u"TitleBackColor", u"TitleForecolor"},
-    {nullptr, u"StoixeiaForecolor"},
+constexpr std::array<SectionProperties, 7> kSections{{
+    {.back = u"BackColorFixed", .fore = u"ForeColorFixed", .font = u"FixedFont"},
+    {.back = u"GroupedBackColor", .fore = u"GroupedForecolor", .font = u"GroupedFont"},
+    {.back = u"BackColor", .fore = u"ForeColor", .font = u"Font"},
+    {.back = u"SubTotalsBackColor", .fore = u"SubTotalsForeColor", .font = u"SubTotalsFont"},
+    {.back = u"TotalsBackcolor", .fore = u"TotalsForeColor", .font = u"TotalsFont"},
+    {.back = u"TitleBackColor", .fore = u"TitleForecolor"},
+    {.fore = u"StoixeiaForecolor"},
 }};
 
-const Section* sectionAt(int number) {
+const SectionProperties* sectionAt(int number) {
     const bool stands = number >= 0 && number < static_cast<int>(kSections.size());
     return stands ? &kSections[static_cast<std::size_t>(number)] : nullptr;
 }
@@ -32,7 +32,7 @@ const Section* sectionAt(int number) {
 } // namespace
 
 void SectionStyles::ChooseSectionStyle(int number, int what) {
-    const Section* section = sectionAt(number);
+    const SectionProperties* section = sectionAt(number);
     const char16_t* property = !section    ? nullptr
                                : what == 0 ? section->back
                                : what == 1 ? section->fore
@@ -49,7 +49,7 @@ void SectionStyles::ChooseSectionStyle(int number, int what) {
 }
 
 void SectionStyles::ChooseSectionFont(int number) {
-    const Section* section = sectionAt(number);
+    const SectionProperties* section = sectionAt(number);
     if (!section || !section->font)
         return;
     const QString font = QString::fromUtf16(section->font);

@@ -3,7 +3,7 @@
 #include "base/format.h"
 #include "base/number.h"
 #include "base/scope_guard.h"
-#include "core/enums.h"
+#include "core/section_style.h"
 
 #include <algorithm>
 
@@ -54,17 +54,12 @@ void TotalsRows::PaintTotalsRows() {
     surface_.setRedraw(false);
     const int lastCol = surface_.Cols() - 1;
 
-    const StylePatch subtotals{state_.SubTotalsBackColor,     state_.SubTotalsForeColor,
-                               state_.SubTotalsFontName,      state_.SubTotalsFontSize,
-                               state_.SubTotalsFontBold,      state_.SubTotalsFontItalic,
-                               state_.SubTotalsFontUnderline, {}};
+    const StylePatch subtotals = coloursAndFontOf(styleOf(Section::SubTotals, state_, surface_));
     if (lastCol >= 1) // column 0 keeps the look of its group
         for (int row = surface_.Rows() - 1; row >= surface_.FixedRows(); --row)
             if (surface_.RowData(row) == ZKPSubTotals)
                 surface_.applyStyle({row, 1, row, lastCol}, subtotals);
-    const StylePatch totals{
-        state_.TotalsBackcolor, state_.TotalsForeColor,  state_.TotalsFontName,      state_.TotalsFontSize,
-        state_.TotalsFontBold,  state_.TotalsFontItalic, state_.TotalsFontUnderline, {}};
+    const StylePatch totals = coloursAndFontOf(styleOf(Section::Totals, state_, surface_));
     surface_.applyStyle({surface_.Rows() - 1, 0, surface_.Rows() - 1, lastCol}, totals);
     seekContent();
 }
@@ -80,10 +75,8 @@ void TotalsRows::seekContent() {
 void TotalsRows::AppendTotalsRow() {
     surface_.AddItem({});
     const int last = surface_.Rows() - 1;
-    StylePatch look;
-    look.backColor = state_.TotalsBackcolor;
-    look.foreColor = state_.TotalsForeColor;
-    surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, look);
+    const StylePatch colours = coloursOf(styleOf(Section::Totals, state_, surface_));
+    surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, colours);
     surface_.setRowData(last, kAppendedTotals);
 }
 

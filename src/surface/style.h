@@ -10,14 +10,14 @@ namespace zkp {
 
 /// The attributes of cells. One write may carry any of them; what it leaves out stays as it was.
 struct StylePatch {
-    std::optional<Color> backColor;
-    std::optional<Color> foreColor;
-    std::optional<QString> fontName;
-    std::optional<double> fontSize; ///< points
-    std::optional<bool> bold;
-    std::optional<bool> italic;
-    std::optional<bool> underline;
-    std::optional<bool> strikethru;
+    std::optional<Color> backColor{};
+    std::optional<Color> foreColor{};
+    std::optional<QString> fontName{};
+    std::optional<double> fontSize{}; ///< points
+    std::optional<bool> bold{};
+    std::optional<bool> italic{};
+    std::optional<bool> underline{};
+    std::optional<bool> strikethru{};
     bool operator==(const StylePatch&) const = default;
 };
 

@@ -1,0 +1,87 @@
+#include "core/section_style.h"
+
+namespace zkp {
+
+namespace {
+
+CellStyle detailStyle(const GridSurface& surface) {
+    return {.backColor = surface.BackColor(),
+            .foreColor = surface.ForeColor(),
+            .fontName = surface.FontName(),
+            .fontSize = surface.FontSize(),
+            .bold = surface.FontBold(),
+            .italic = surface.FontItalic(),
+            .underline = surface.FontUnderline(),
+            .strikethru = surface.FontStrikethru()};
+}
+
+} // namespace
+
+#define ZKP_SECTION_FONT(Prefix)                                                                             \
+    .fontName = state.Prefix##Name, .fontSize = state.Prefix##Size, .bold = state.Prefix##Bold,              \
+    .italic = state.Prefix##Italic, .underline = state.Prefix##Underline
+
+CellStyle styleOf(Section section, const ReportState& state, const GridSurface& surface) {
+    switch (section) {
+    case Section::Heading:
+        return {.backColor = surface.BackColorFixed(),
+                .foreColor = surface.ForeColorFixed(),
+                ZKP_SECTION_FONT(FixedFont),
+                .strikethru = state.FixedFontStrikethru};
+    case Section::GroupFactors:
+        return {.backColor = state.GroupedBackColor,
+                .foreColor = state.GroupedForecolor,
+                ZKP_SECTION_FONT(GroupedFont),
+                .strikethru = state.GroupedFontStrikethru};
+    case Section::Details:
+        return detailStyle(surface);
+    case Section::SubTotals:
+        return {.backColor = state.SubTotalsBackColor,
+                .foreColor = state.SubTotalsForeColor,
+                ZKP_SECTION_FONT(SubTotalsFont),
+                .strikethru = state.SubTotalsFontStrikethru};
+    case Section::Totals:
+        return {.backColor = state.TotalsBackcolor,
+                .foreColor = state.TotalsForeColor,
+                ZKP_SECTION_FONT(TotalsFont),
+                .strikethru = state.TotalsFontStrikethru};
+    case Section::Title:
+        return {.backColor = state.TitleBackColor,
+                .foreColor = state.TitleForecolor,
+                ZKP_SECTION_FONT(TitleFont)};
+    case Section::CompanyBlock:
+        return {.foreColor = state.StoixeiaForecolor, ZKP_SECTION_FONT(StoixeiaFont)};
+    }
+    return {};
+}
+
+#undef ZKP_SECTION_FONT
+
+StylePatch coloursOf(const CellStyle& style) {
+    return {.backColor = style.backColor, .foreColor = style.foreColor};
+}
+
+StylePatch fontOf(const CellStyle& style) {
+    return {.fontName = style.fontName,
+            .fontSize = style.fontSize,
+            .bold = style.bold,
+            .italic = style.italic,
+            .underline = style.underline};
+}
+
+StylePatch coloursAndFontOf(const CellStyle& style) {
+    StylePatch patch = fontOf(style);
+    patch.backColor = style.backColor;
+    patch.foreColor = style.foreColor;
+    return patch;
+}
+
+StylePatch fontMarksOf(const CellStyle& style) {
+    return {.fontSize = style.fontSize,
+            .bold = style.bold,
+            .italic = style.italic,
+            .underline = style.underline,
+            .strikethru = style.strikethru};
+}
+
+} // namespace zkp
