@@ -121,6 +121,10 @@ QString Connection::LastStatementSent() const {
     return d->provider ? d->provider->lastStatementSent() : QString();
 }
 
+std::uint64_t Connection::StatementsSent() const {
+    return d->provider ? d->provider->statementsSent() : 0;
+}
+
 const std::shared_ptr<Provider>& Connection::provider() const {
     if (!d->provider)
         throw noConnection();

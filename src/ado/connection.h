@@ -73,6 +73,8 @@ public:
 
     /// The statement as the database received it last, after the dialect step.
     QString LastStatementSent() const;
+    /// How many it has received since Open.
+    std::uint64_t StatementsSent() const;
 
     /// For the parts of data access only; Error when closed. Whoever keeps it keeps the session.
     const std::shared_ptr<Provider>& provider() const;

@@ -77,6 +77,8 @@ public:
     virtual std::unique_ptr<ResultStream> start(const QString& statement, const RunOptions& options) = 0;
     /// The text that the database received last.
     virtual QString lastStatementSent() const = 0;
+    /// How many texts the database has received. Questions of the catalogue don't count.
+    virtual std::uint64_t statementsSent() const = 0;
     /// True once the database has gone away; nothing but closing works then.
     virtual bool isLost() const { return false; }
 

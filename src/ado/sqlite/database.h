@@ -7,6 +7,7 @@
 
 #include <sqlite3.h>
 
+#include <cstdint>
 #include <memory>
 #include <mutex>
 
@@ -30,8 +31,13 @@ public:
     /// Runs a text without results.
     void execute(const char* sql);
 
-    void setLastStatement(const QString& text) { lastStatement_ = text; }
+    /// The database is about to receive a statement.
+    void setLastStatement(const QString& text) {
+        lastStatement_ = text;
+        ++statementsSent_;
+    }
     const QString& lastStatement() const { return lastStatement_; }
+    std::uint64_t statementsSent() const { return statementsSent_; }
 
 private:
     friend class Turn;
@@ -41,6 +47,7 @@ private:
     sqlite3* handle_ = nullptr;
     bool readOnly_;
     QString lastStatement_;
+    std::uint64_t statementsSent_ = 0;
     std::recursive_mutex turns_;
     std::unique_ptr<Interrupter> interrupter_;
 };

@@ -49,6 +49,9 @@ std::unique_ptr<ResultStream> SqliteProvider::start(const QString& statement, co
 QString SqliteProvider::lastStatementSent() const {
     return database_->lastStatement();
 }
+std::uint64_t SqliteProvider::statementsSent() const {
+    return database_->statementsSent();
+}
 
 void SqliteProvider::begin() {
     database_->execute("BEGIN");

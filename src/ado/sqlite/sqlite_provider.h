@@ -13,6 +13,7 @@ public:
     dialect::Dialect dialect() const override { return dialect::Dialect::Sqlite; }
     std::unique_ptr<ResultStream> start(const QString& statement, const RunOptions& options) override;
     QString lastStatementSent() const override;
+    std::uint64_t statementsSent() const override;
     void begin() override;
     void commit() override;
     void rollback() override;

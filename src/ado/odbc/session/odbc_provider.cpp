@@ -74,6 +74,9 @@ std::unique_ptr<ResultStream> OdbcProvider::start(const QString& statement, cons
 QString OdbcProvider::lastStatementSent() const {
     return session_->lastStatement();
 }
+std::uint64_t OdbcProvider::statementsSent() const {
+    return session_->statementsSent();
+}
 bool OdbcProvider::isLost() const {
     return session_->isLost();
 }

@@ -13,6 +13,7 @@ public:
     Dialect dialect() const override { return session_->dialect(); }
     std::unique_ptr<ResultStream> start(const QString& statement, const RunOptions& options) override;
     QString lastStatementSent() const override;
+    std::uint64_t statementsSent() const override;
     bool isLost() const override;
     void begin() override;
     void commit() override;

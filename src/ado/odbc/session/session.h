@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -53,8 +54,13 @@ public:
     void rollback();
     bool isInTransaction() const { return inTransaction_; }
 
-    void setLastStatement(const QString& text) { lastStatement_ = text; }
+    /// The database is about to receive a statement.
+    void setLastStatement(const QString& text) {
+        lastStatement_ = text;
+        ++statementsSent_;
+    }
     const QString& lastStatement() const { return lastStatement_; }
+    std::uint64_t statementsSent() const { return statementsSent_; }
 
     /// Names as the server's catalogue spells them, read when first asked for.
     const dialect::Catalogue& catalogue();
@@ -86,6 +92,7 @@ private:
     bool lost_ = false;
     QString serverName_ = QStringLiteral("ODBC");
     QString lastStatement_;
+    std::uint64_t statementsSent_ = 0;
     std::optional<dialect::Catalogue> catalogue_;
     std::optional<QString> collation_;
     bool triedCollation_ = false;
