@@ -1,5 +1,6 @@
 #include "sql/field_expressions.h"
 
+#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "sql/statement_text.h"
@@ -34,6 +35,7 @@ QString FieldExpressions::makefldSql(const QString& FieldName, QString& Tables, 
             item += QStringLiteral(" AS [") + upper(FieldName) + u']';
         addTable(read(row, u"SourceTableName"), Tables);
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::fieldItemFailed(), kMsgBoxCritical);
     }
     return item;
@@ -52,22 +54,22 @@ QString FieldExpressions::itemOf(ado::Recordset& row) const {
            trimmed(field).toString() + u']';
 }
 
-/// Looks the field up among the source's columns. Whether it is there changes nothing, as wanted; only
-/// a failure of the look-up itself counts. The catalogue's name is a fixed one.
-bool FieldExpressions::canReadSourceColumns(ado::Recordset& row) const {
+/// Asks for the source's columns. Whether the field is among them changes nothing, as wanted; only a
+/// failure counts, so that one answer does for all fields of a load. The catalogue's name is a fixed one.
+bool FieldExpressions::canReadSourceColumns(ado::Recordset& row) {
     const ReportState& state = inputs_.state;
     try {
         const QString source = inputs_.sourceText();
         if (state.SourceType != ZKP_Table_QUERY || isBlank(source))
             return true;
-        const QString field = nameKey(textOrEmpty(read(row, u"SOURCEFIELDNAME")));
-        if (field.isEmpty())
+        if (nameKey(textOrEmpty(read(row, u"SOURCEFIELDNAME"))).isEmpty())
+            return true;
+        if (readSource_ && readSource_->text == source && readSource_->connection.lock() == state.Cn)
             return true;
         const ado::RecordsetPtr schema = state.Cn->OpenSchema(
             ado::adSchemaColumns, {QStringLiteral("OrtolFunds"), QStringLiteral("dbo"), source});
-        while (!schema->Eof() && upper(textOrEmpty(read(*schema, u"COLUMN_NAME"))) != field)
-            schema->MoveNext();
         schema->Close();
+        readSource_ = {state.Cn, source};
         return true;
     } catch (const std::exception&) {
         return false;
