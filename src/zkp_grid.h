@@ -3,12 +3,14 @@
 #include "ado/recordset.h"
 #include "bag/property_bag.h"
 #include "base/error.h"
+#include "base/listeners.h"
 #include "core/child_controls.h"
 #include "core/column_list.h"
 #include "core/enums.h"
 #include "core/events.h"
 #include "core/properties.def"
 #include "host/host.h"
+#include "load/load_outcome.h"
 
 #include <QLocale>
 #include <QObject>
@@ -122,6 +124,12 @@ public:
     Q_INVOKABLE void refresh();
     /// The load itself. A failure shows the error box; nothing is thrown.
     Q_INVOKABLE void FillGrid();
+    /// True from the start of a load until it has ended, boxes and pending events on the way included.
+    Q_INVOKABLE bool isLoading() const;
+    /// How the last load ended: loaded, failed or refused, its statement, records, times and failure.
+    Q_INVOKABLE zkp::LoadOutcome lastLoad() const;
+    /// Tells of every load, whoever starts it, for as long as the result lives; any number may listen.
+    [[nodiscard]] Listening listenToLoads(LoadListener listener);
     /// Shows the report's shape without rows. Does nothing without `clmns` or `Cn`.
     Q_INVOKABLE void PrepareEmptyGrid();
 

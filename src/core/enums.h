@@ -19,6 +19,15 @@ enum ZKPSections {
 /// What a record source is.
 enum RecordSourceType { ZKP_SQLStatement = 0, ZKP_Table_QUERY = 1, ZKP_RecordSet = 2, ZKP_Command = 3 };
 
+/// How a load ended.
+enum ZKPLoadResult {
+    ZKPLoadNone = 0, ///< there was none yet
+    ZKPLoaded = 1,
+    ZKPLoadFailed = 2,  ///< something failed on the way, whether the load went on after its box or not
+    ZKPLoadRefused = 3, ///< the checks of `refresh` failed, or a load was running already
+    ZKPLoadKeptRows = 4 ///< the rows stayed: `RefreshOnChange` is False, or a command gave no records
+};
+
 /// Every enumeration name with its value, for scripts.
 #define ZKP_ENUM_VALUES(X)                                                                                   \
     X(ZKPSingleRow)                                                                                          \
@@ -35,6 +44,11 @@ enum RecordSourceType { ZKP_SQLStatement = 0, ZKP_Table_QUERY = 1, ZKP_RecordSet
     X(ZKP_SQLStatement)                                                                                      \
     X(ZKP_Table_QUERY)                                                                                       \
     X(ZKP_RecordSet)                                                                                         \
-    X(ZKP_Command)
+    X(ZKP_Command)                                                                                           \
+    X(ZKPLoadNone)                                                                                           \
+    X(ZKPLoaded)                                                                                             \
+    X(ZKPLoadFailed)                                                                                         \
+    X(ZKPLoadRefused)                                                                                        \
+    X(ZKPLoadKeptRows)
 
 } // namespace zkp

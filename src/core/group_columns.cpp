@@ -18,6 +18,7 @@ void GroupColumns::InsertColumn(int whereisit) {
     } catch (...) {
         const Error error = errorInFlight();
         state_.throwIfDestroyed();
+        notes_.failed(error);
         ShowError(host_, error);
         return;
     }

@@ -2,6 +2,7 @@
 
 #include "core/column_properties.h"
 #include "core/group_factors.h"
+#include "core/load_notes.h"
 #include "core/report_state.h"
 #include "host/host.h"
 #include "surface/grid_surface.h"
@@ -15,13 +16,15 @@ class GroupColumns {
 public:
     /// `setCols` is the control's `Cols` setter.
     GroupColumns(ReportState& state, ColumnList& columns, ColumnProperties& properties,
-                 GroupFactorFlags& flags, GridSurface& surface, Host& host, std::function<void(int)> setCols)
+                 GroupFactorFlags& flags, GridSurface& surface, Host& host, LoadNotes& notes,
+                 std::function<void(int)> setCols)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
         , flags_(flags)
         , surface_(surface)
         , host_(host)
+        , notes_(notes)
         , setCols_(std::move(setCols)) {}
 
     /// Makes an empty column at a position (from 0). A failure shows the error box.
@@ -44,6 +47,7 @@ private:
     GroupFactorFlags& flags_;
     GridSurface& surface_;
     Host& host_;
+    LoadNotes& notes_;
     std::function<void(int)> setCols_;
 };
 

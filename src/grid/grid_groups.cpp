@@ -38,15 +38,15 @@ int ZkpGrid::FindTotalsRow() const {
 
 void ZkpGrid::PercentOfParent(const QString& field, int r, const QVariant& level, QString& result) {
     result = run([&](Parts& p) {
-        p.percentShares.tellFailuresAgain();
-        return p.percentShares.PercentOfParent(
+        p.percentages.tellFailuresAgain();
+        return p.percentages.PercentOfParent(
             field, r, level.isValid() ? std::optional<int>(toInt16(level)) : std::nullopt);
     });
 }
 double ZkpGrid::GroupValueSum(int level, const QString& name, int r) {
     return run([&](Parts& p) {
-        p.percentShares.tellFailuresAgain();
-        return p.percentShares.GroupValueSum(level, name, r);
+        p.percentages.tellFailuresAgain();
+        return p.percentages.GroupValueSum(level, name, r);
     });
 }
 

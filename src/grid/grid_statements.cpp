@@ -23,7 +23,7 @@ QString ZkpGrid::RunTimeStatsSQL() {
     return run([&](Parts& p) { return p.statistics.RunTimeStatsSQL(); });
 }
 QString ZkpGrid::RunTimePosSql() {
-    return run([&](Parts& p) { return p.percentages.RunTimePosSql(); });
+    return run([&](Parts& p) { return p.percentageStatement.RunTimePosSql(); });
 }
 QString ZkpGrid::DetailStatement() {
     return run([&](Parts& p) { return p.dispatch.DetailStatement(); });

@@ -6,6 +6,7 @@
 #include "core/column_properties.h"
 #include "core/group_factors.h"
 #include "core/key_column.h"
+#include "core/load_notes.h"
 #include "core/record_source.h"
 #include "core/report_state.h"
 #include "core/row_marking.h"
@@ -47,6 +48,7 @@ struct ZkpGrid::Parts {
     Events events;
     ChildControls children;
     LoadHooks hooks;
+    LoadNotes notes;
     std::function<void(const Error&)> errorSink;
 
     GridSurface& surface;
@@ -71,10 +73,10 @@ struct ZkpGrid::Parts {
     NormalStatement normal;
     GroupedStatement grouped;
     StatisticsStatement statistics;
-    PercentageStatement percentages;
+    PercentageStatement percentageStatement;
     StatementDispatch dispatch;
 
-    Percentages percentShares;
+    Percentages percentages;
     GroupRows groupRows;
     TotalsRows totalsRows;
     SummaryColumns summaryColumns;

@@ -24,7 +24,7 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , columnProperties(columns, surface, events)
     , groupFactors(state, columns, events)
     , accountColumns(state, columns, surface, roughTextWidth)
-    , groupColumns(state, columns, columnProperties, groupFactors, surface, *host,
+    , groupColumns(state, columns, columnProperties, groupFactors, surface, *host, notes,
                    [this](int count) { setCols(count); })
     , keyColumn(state, columns, surface)
     , fonts(state, surface, events)
@@ -32,7 +32,7 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , source(state)
     , dictionary(state)
     , settings(state.Cn)
-    , inputs(state, columns, surface, events)
+    , inputs(state, columns, surface, events, notes)
     , hierarchy(inputs)
     , fields(inputs, *host)
     , masterTable(inputs, *host)
@@ -42,18 +42,19 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , normal(inputs, hierarchy, *host)
     , grouped(inputs, dictionary, hierarchy)
     , statistics(inputs, dictionary, fields, joins, translation, hierarchy, *host)
-    , percentages(inputs, masterTable, fields, joins, hierarchy, *host)
+    , percentageStatement(inputs, masterTable, fields, joins, hierarchy, *host)
     , dispatch(inputs, groupColumns, settings, normal, runTime, grouped, statistics)
-    , percentShares(state, columns, surface, *host)
-    , groupRows(state, columns, surface, percentShares)
+    , percentages(state, columns, surface, *host, notes)
+    , groupRows(state, columns, surface, percentages)
     , totalsRows(state, columns, surface, groupRows.sums(), hooks)
     , summaryColumns(state, columns, surface)
-    , reader(state, columnProperties, columns, surface, events, *host, groupRows, totalsRows, percentShares)
-    , driver(state, surface, children.Picture1, dictionary, reader, *host, hooks)
+    , reader(state, columnProperties, columns, surface, events, *host, groupRows, totalsRows, percentages,
+             notes)
+    , driver(state, surface, children.Picture1, dictionary, fields, reader, notes, *host, hooks)
     , emptyReport(state, columnProperties, surface, children.Picture1, dictionary, *host, hooks)
     , sorting(inputs, fields, columnProperties, surface, events, *host, hooks,
               {[this](int row) { setRow(row); }, [this] { driver.FillGrid(); }})
-    , drawing(state, surface, events, fonts, marking, children.Picture1, *host)
+    , drawing(state, surface, events, fonts, marking, children.Picture1, *host, notes)
     , lifecycle(state, children, events, [this] { drawing.DrawInterface(); })
     , savedProperties(state, columns, columnProperties, children, *host,
                       {[this] { lifecycle.resize(); }, [this] { drawing.DrawInterface(); }})
@@ -212,6 +213,18 @@ void ZkpGrid::refresh() {
 
 void ZkpGrid::FillGrid() {
     run([](Parts& p) { p.driver.FillGrid(); });
+}
+
+bool ZkpGrid::isLoading() const {
+    return parts_->driver.isLoading();
+}
+
+LoadOutcome ZkpGrid::lastLoad() const {
+    return parts_->driver.lastLoad();
+}
+
+Listening ZkpGrid::listenToLoads(LoadListener listener) {
+    return parts_->driver.listeners().add(std::move(listener));
 }
 
 void ZkpGrid::PrepareEmptyGrid() {

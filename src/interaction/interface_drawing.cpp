@@ -57,6 +57,7 @@ void InterfaceDrawing::DrawInterface() {
     } catch (...) {
         const Error error = errorInFlight();
         state_.throwIfDestroyed();
+        notes_.failed(error);
         ShowError(host_, error);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "core/cell_fonts.h"
 #include "core/events.h"
+#include "core/load_notes.h"
 #include "core/report_state.h"
 #include "core/row_marking.h"
 #include "core/section_style.h"
@@ -18,14 +19,15 @@ namespace zkp {
 class InterfaceDrawing {
 public:
     InterfaceDrawing(ReportState& state, GridSurface& surface, Events& events, FontWriter& fonts,
-                     RowMarking& marking, MenuBar& menu, Host& host)
+                     RowMarking& marking, MenuBar& menu, Host& host, LoadNotes& notes)
         : state_(state)
         , surface_(surface)
         , events_(events)
         , fonts_(fonts)
         , marking_(marking)
         , menu_(menu)
-        , host_(host) {}
+        , host_(host)
+        , notes_(notes) {}
 
     /// Paints the rows that show, whatever the report's length. A failure shows the error box. Called
     /// again by one of its own handlers, it does nothing.
@@ -55,6 +57,7 @@ private:
     RowMarking& marking_;
     MenuBar& menu_;
     Host& host_;
+    LoadNotes& notes_;
     bool drawing_ = false;
 };
 

@@ -15,6 +15,8 @@ namespace zkp {
 
 namespace {
 
+constexpr double kNanosecondsPerMs = 1e6;
+
 Error objectNotSet(const QString& source) {
     return Error(kErrObjectNotSet, QStringLiteral("Object variable not set"), source);
 }
@@ -28,6 +30,8 @@ void LoadDriver::refresh(ErrorSink sink) {
         state_.MousePointer = kPointerDefault;
     });
     const std::vector<Error> failed = failedSourceChecks(state_);
+    if (!failed.empty())
+        refuse(failed.front());
     for (const Error& error : failed)
         if (sink)
             sink(error);
@@ -38,30 +42,85 @@ void LoadDriver::refresh(ErrorSink sink) {
 
 void LoadDriver::FillGrid() {
     if (loading_) {
-        if (std::exchange(toldOnce_, true))
-            return;
-        ShowError(host_, Error(kErrIllegalOperation, QStringLiteral("A load is running already.")));
+        const Error error(kErrIllegalOperation, QStringLiteral("A load is running already."));
+        if (!std::exchange(toldOnce_, true))
+            ShowError(host_, error);
+        refuse(error);
         return;
     }
+    load();
+    tell(outcome());
+}
+
+void LoadDriver::refuse(const Error& error) {
+    LoadOutcome outcome;
+    outcome.result = ZKPLoadRefused;
+    outcome.failure = error;
+    tell(outcome);
+}
+
+/// Whoever listens finds a control that can be loaded again.
+void LoadDriver::tell(const LoadOutcome& outcome) {
+    state_.throwIfDestroyed();
+    last_ = outcome;
+    try {
+        listeners_.tell([&](const LoadListener& listener) {
+            if (listener.ended && !state_.destroyed)
+                listener.ended(outcome);
+        });
+    } catch (...) {
+        const Error error = errorInFlight();
+        state_.throwIfDestroyed();
+        ShowError(host_, error);
+    }
+    state_.throwIfDestroyed();
+}
+
+LoadOutcome LoadDriver::outcome() const {
+    LoadOutcome outcome = underWay_;
+    outcome.built = notes_.built();
+    outcome.sent = notes_.sent();
+    outcome.failure = notes_.failure();
+    if (outcome.failure)
+        outcome.result = ZKPLoadFailed;
+    return outcome;
+}
+
+double LoadDriver::elapsedMs() const {
+    return clock_.isValid() ? static_cast<double>(clock_.nsecsElapsed()) / kNanosecondsPerMs : 0;
+}
+
+void LoadDriver::load() {
     loading_ = true;
     toldOnce_ = false;
+    notes_.begin();
+    underWay_ = {};
+    underWay_.result = ZKPLoadKeptRows;
+    clock_.start();
     const ScopeGuard restore([this] {
         loading_ = false;
         surface_.setRedraw(true);
         host_.setPointer(kPointerDefault);
     });
     try {
-        load();
+        listeners_.tell([&](const LoadListener& listener) {
+            if (listener.begins && !state_.destroyed)
+                listener.begins();
+        });
+        state_.throwIfDestroyed();
+        loadRecords();
     } catch (const ControlDestroyed&) {
         throw;
     } catch (...) {
         const Error error = errorInFlight();
         state_.throwIfDestroyed();
+        notes_.failed(error);
         ShowError(host_, error);
     }
 }
 
-void LoadDriver::load() {
+void LoadDriver::loadRecords() {
+    fields_.forgetSource();
     surface_.setRedraw(true);
     LoadDictionary();
     if (!state_.RefreshOnChange)
@@ -72,6 +131,8 @@ void LoadDriver::load() {
     if (!MakeRecordset())
         return;
     const std::int64_t records = recordCount();
+    underWay_.records = records;
+    underWay_.lastRecordMs = underWay_.firstRecordMs;
     host_.setPointer(kPointerHourglass);
     sizeSurface(toInt32(static_cast<double>(records)));
     if (records > 0)
@@ -79,6 +140,7 @@ void LoadDriver::load() {
     host_.setPointer(kPointerDefault);
     selectFirstRow();
     surface_.Refresh();
+    underWay_.result = ZKPLoaded;
 }
 
 void LoadDriver::LoadDictionary() {
@@ -101,6 +163,7 @@ bool LoadDriver::MakeRecordset() {
 
     if (!state_.ReportRecordset)
         return false;
+    underWay_.firstRecordMs = elapsedMs();
     if (state_.ReportRecordset->RecordCount() == 0) {
         host_.setPointer(kPointerDefault);
     } else {
@@ -130,6 +193,7 @@ void LoadDriver::OpenDetailRecordset() {
     } catch (...) {
         const Error error = errorInFlight();
         state_.throwIfDestroyed();
+        notes_.failed(error);
         state_.ReportRecordset.reset();
         host_.msgBox(error.description(), kMsgBoxCritical);
     }
@@ -148,7 +212,7 @@ void LoadDriver::openBySourceType() {
         const QString sort = state_.ReportRecordset->Sort(); // what sorting by a column has just set
         const auto records = isBlank(text) ? openText(detailStatement(), ado::adOpenKeyset)
                                            : openText(text, ado::adOpenStatic);
-        records->Requery();
+        notes_.asking(records->Source(), state_.Cn, [&] { records->Requery(); });
         if (!sort.isEmpty())
             records->setSort(sort);
         break;
@@ -168,7 +232,7 @@ ado::RecordsetPtr LoadDriver::openText(const QString& statement, int cursorType)
         throw objectNotSet(QStringLiteral("RecordSource"));
     if (records->State() == ado::adStateOpen)
         records->Close();
-    records->Open(statement, state_.Cn, cursorType);
+    notes_.asking(statement, state_.Cn, [&] { records->Open(statement, state_.Cn, cursorType); });
     return records;
 }
 
@@ -184,12 +248,14 @@ void LoadDriver::openCommand() {
     if (!command)
         throw objectNotSet(QStringLiteral("RecordSource"));
     command->ActiveConnection = state_.Cn;
-    auto result = std::make_shared<ado::Recordset>();
-    result->Open(command, ado::adOpenStatic);
     ado::RecordsetPtr last;
-    for (; result; result = result->NextRecordset())
-        if (result->State() == ado::adStateOpen)
-            last = result;
+    notes_.asking(command->CommandText, state_.Cn, [&] {
+        auto result = std::make_shared<ado::Recordset>();
+        result->Open(command, ado::adOpenStatic);
+        for (; result; result = result->NextRecordset())
+            if (result->State() == ado::adStateOpen)
+                last = result;
+    });
     state_.ReportRecordset = last;
     if (last && last->RecordCount() > 0) {
         last->MoveFirst();
@@ -223,6 +289,7 @@ void LoadDriver::readRows() {
     menu_.Refresh();
     state_.LoadFinished = false;
     reader_.LoadRows();
+    underWay_.lastRecordMs = elapsedMs();
     LoadHooks::run(hooks_.DrawInterface);
     state_.throwIfDestroyed();
 }

@@ -1,33 +1,43 @@
 #pragma once
 
 #include "base/error.h"
+#include "base/listeners.h"
 #include "core/events.h"
+#include "core/load_notes.h"
 #include "core/record_source.h"
 #include "host/host.h"
 #include "load/load_hooks.h"
+#include "load/load_outcome.h"
 #include "load/row_reader.h"
 #include "menu/menu_bar.h"
 #include "sql/dictionary.h"
+#include "sql/field_expressions.h"
 #include "surface/grid_surface.h"
+
+#include <QElapsedTimer>
 
 #include <functional>
 
 namespace zkp {
 
 /// The road from the host's call to the last painted row: checks the source, loads the dictionary,
-/// opens the records, sizes the surface and hands over to the row reader. One call loads everything.
+/// opens the records, sizes the surface and hands over to the row reader. One call loads everything. How
+/// it went is kept, and told to whoever listens.
 class LoadDriver {
 public:
     using ErrorSink = std::function<void(const Error&)>;
 
     LoadDriver(ReportState& state, GridSurface& surface, MenuBar& menu, Dictionary& dictionary,
-               RowReader& reader, Host& host, const LoadHooks& hooks)
+               FieldExpressions& fields, RowReader& reader, LoadNotes& notes, Host& host,
+               const LoadHooks& hooks)
         : state_(state)
         , source_(state)
         , surface_(surface)
         , menu_(menu)
         , dictionary_(dictionary)
+        , fields_(fields)
         , reader_(reader)
+        , notes_(notes)
         , host_(host)
         , hooks_(hooks) {}
 
@@ -36,6 +46,10 @@ public:
     /// The load itself. A failure ends it with the error box. Called again while it runs (by a handler
     /// or a pending event), it shows one box and does nothing else.
     void FillGrid();
+    bool isLoading() const { return loading_; }
+    /// Of the last load that has ended or was refused.
+    const LoadOutcome& lastLoad() const { return last_; }
+    Listeners<LoadListener>& listeners() { return listeners_; }
 
     /// Opens the report's dictionary rows, or goes back to the first of them. Nothing without `clmns`.
     void LoadDictionary();
@@ -44,7 +58,12 @@ public:
     void OpenDetailRecordset();
 
 private:
+    void refuse(const Error& error);
     void load();
+    void loadRecords();
+    double elapsedMs() const;
+    LoadOutcome outcome() const;
+    void tell(const LoadOutcome& outcome);
     void openBySourceType();
     ado::RecordsetPtr openText(const QString& statement, int cursorType);
     void openCommand();
@@ -59,9 +78,15 @@ private:
     GridSurface& surface_;
     MenuBar& menu_;
     Dictionary& dictionary_;
+    FieldExpressions& fields_;
     RowReader& reader_;
+    LoadNotes& notes_;
     Host& host_;
     const LoadHooks& hooks_;
+    Listeners<LoadListener> listeners_;
+    LoadOutcome last_;
+    LoadOutcome underWay_;
+    QElapsedTimer clock_;
     bool loading_ = false;
     bool toldOnce_ = false; ///< a load asked for meanwhile has been refused with a box
 };

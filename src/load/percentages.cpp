@@ -1,6 +1,6 @@
 #include "load/percentages.h"
 
-#include "base/error.h"
+#include "base/error_in_flight.h"
 #include "base/format.h"
 #include "base/text.h"
 #include "base/texts.h"
@@ -18,6 +18,7 @@ QString Percentages::PercentOfParent(const QString& field, int r, std::optional<
     } catch (const ControlDestroyed&) {
         throw;
     } catch (...) {
+        notes_.failed(errorInFlight());
         host_.msgBox(texts::percentFailed(), kMsgBoxCritical);
     }
     return QStringLiteral("0.00");
@@ -29,6 +30,7 @@ double Percentages::GroupValueSum(int level, const QString& name, int r) {
     } catch (const ControlDestroyed&) {
         throw;
     } catch (...) {
+        notes_.failed(errorInFlight());
         if (!std::exchange(told_, true))
             host_.msgBox(texts::subtotalsFailed(), kMsgBoxCritical);
         return 0;

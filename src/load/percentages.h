@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/column_list.h"
+#include "core/load_notes.h"
 #include "core/report_state.h"
 #include "host/host.h"
 #include "load/group_value_index.h"
@@ -13,11 +14,13 @@ namespace zkp {
 /// The share of a row's group in the group around it, from the records of a totals report.
 class Percentages {
 public:
-    Percentages(ReportState& state, const ColumnList& columns, const GridSurface& surface, Host& host)
+    Percentages(ReportState& state, const ColumnList& columns, const GridSurface& surface, Host& host,
+                LoadNotes& notes)
         : state_(state)
         , columns_(columns)
         , surface_(surface)
-        , host_(host) {}
+        , host_(host)
+        , notes_(notes) {}
 
     /// The share of the group that the keys of row `r` name to level + 1 in the one that they name to
     /// `level`, in "#0.00"; "0.00" with a point in every locale when either sum is 0, as wanted. The
@@ -37,6 +40,7 @@ private:
     const ColumnList& columns_;
     const GridSurface& surface_;
     Host& host_;
+    LoadNotes& notes_;
     GroupValueIndex index_;
     bool told_ = false;
 };

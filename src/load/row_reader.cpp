@@ -1,6 +1,6 @@
 #include "load/row_reader.h"
 
-#include "base/error.h"
+#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/scope_guard.h"
 #include "base/texts.h"
@@ -38,7 +38,9 @@ void RowReader::LoadRows() {
     } catch (const ControlDestroyed&) {
         throw;
     } catch (...) {
+        const Error error = errorInFlight();
         state_.throwIfDestroyed();
+        notes_.failed(error);
         host_.msgBox(texts::readFailed(), kMsgBoxCritical);
     }
     Q_EMIT events_.StopFillIng();

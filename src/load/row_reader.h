@@ -2,6 +2,7 @@
 
 #include "core/column_properties.h"
 #include "core/events.h"
+#include "core/load_notes.h"
 #include "core/report_state.h"
 #include "host/host.h"
 #include "load/cell_plan.h"
@@ -21,7 +22,7 @@ class RowReader {
 public:
     RowReader(ReportState& state, ColumnProperties& properties, const ColumnList& columns,
               GridSurface& surface, Events& events, Host& host, GroupRows& groups, TotalsRows& totals,
-              Percentages& percentages)
+              Percentages& percentages, LoadNotes& notes)
         : state_(state)
         , properties_(properties)
         , columns_(columns)
@@ -30,7 +31,8 @@ public:
         , host_(host)
         , groups_(groups)
         , totals_(totals)
-        , percentages_(percentages) {}
+        , percentages_(percentages)
+        , notes_(notes) {}
 
     /// Any failure but a missing field ends the loop with a box; the rows read so far stay, and
     /// `StopFillIng` is raised all the same.
@@ -57,6 +59,7 @@ private:
     GroupRows& groups_;
     TotalsRows& totals_;
     Percentages& percentages_;
+    LoadNotes& notes_;
     std::optional<CellPlan> plan_; ///< while rows are read
     bool reading_ = false;         ///< a handler may call again; it is refused
     bool hasTotals_ = false;       ///< this load has rows for its totals

@@ -6,6 +6,7 @@
 #include "base/error.h"
 #include "script/ado_objects.h"
 #include "script/bridge.h"
+#include "script/load_objects.h"
 #include "script/template_objects.h"
 
 #include <QDateTime>
@@ -135,6 +136,8 @@ QJSValue ValueConversion::toScript(const QVariant& value) const {
         return bridge_.facade(CommandObject::of(bridge_, value.value<ado::CommandPtr>()));
     if (holds<clsList>(value))
         return bridge_.facade(std::make_shared<TemplateEntryObject>(value.value<clsList>()));
+    if (holds<LoadOutcome>(value))
+        return bridge_.facade(std::make_shared<LoadOutcomeObject>(value.value<LoadOutcome>()));
     return bridge_.engine().toScriptValue(value);
 }
 

@@ -2,6 +2,7 @@
 
 #include "core/column_list.h"
 #include "core/events.h"
+#include "core/load_notes.h"
 #include "core/record_source.h"
 #include "core/report_state.h"
 #include "surface/grid_surface.h"
@@ -11,15 +12,19 @@ namespace zkp {
 /// What every statement builder reads of the report, and the properties that it writes back.
 class BuilderInputs {
 public:
-    BuilderInputs(ReportState& state, const ColumnList& columns, const GridSurface& surface, Events& events)
+    BuilderInputs(ReportState& state, const ColumnList& columns, const GridSurface& surface, Events& events,
+                  LoadNotes& notes)
         : state(state)
         , columns(columns)
+        , notes(notes)
         , surface_(surface)
         , source_(state)
         , events_(events) {}
 
     ReportState& state;
     const ColumnList& columns;
+    /// Takes what fails here behind a box.
+    LoadNotes& notes;
 
     /// The grid's column count.
     int cols() const { return surface_.Cols(); }

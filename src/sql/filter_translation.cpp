@@ -1,5 +1,6 @@
 #include "sql/filter_translation.h"
 
+#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "sql/statement_text.h"
@@ -75,6 +76,7 @@ void FilterTranslation::TranslateFilter(QString& Tables) {
         }
         inputs_.setFilter(filter);
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::filterFailed(), kMsgBoxCritical);
     }
 }

@@ -1,5 +1,6 @@
 #include "sql/joins.h"
 
+#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "sql/statement_text.h"
@@ -25,6 +26,7 @@ QString Joins::MakeFromAndJoins(QString& Tables) {
             from = left + QStringLiteral(" LEFT JOIN [") + table + QStringLiteral("] ON ") + condition;
         }
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::fromFailed(), kMsgBoxCritical);
     }
     return from;
@@ -45,6 +47,7 @@ QString Joins::FindJoinON(const QString& Table) {
         return u'[' + nameKey(state.MasterTable) + QStringLiteral("].[") + masterKey +
                QStringLiteral("] = [") + nameKey(Table) + QStringLiteral("].[") + foreignKey + u']';
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::joinFailed(), kMsgBoxCritical);
         return {};
     }

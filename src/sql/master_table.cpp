@@ -1,5 +1,6 @@
 #include "sql/master_table.h"
 
+#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "sql/statement_text.h"
@@ -24,6 +25,7 @@ void MasterTableLookup::FindMaster() {
         state.RKeyname = textOrEmpty(row.Fields().Item(u"RKeyname").Value());
         state.MasterFilter = textOrEmpty(row.Fields().Item(u"MasterFilter").Value());
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::masterTableFailed(), kMsgBoxCritical);
     }
 }

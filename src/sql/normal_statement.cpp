@@ -1,5 +1,6 @@
 #include "sql/normal_statement.h"
 
+#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "base/texts.h"
@@ -34,6 +35,7 @@ QString NormalStatement::NormalSQL() {
         if (!isBlank(order))
             statement += QStringLiteral(" order by ") + order;
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::normalFailed(), kMsgBoxCritical);
     }
     return statement;

@@ -1,5 +1,6 @@
 #include "sql/percentage_statement.h"
 
+#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "sql/statement_text.h"
@@ -10,6 +11,7 @@ QString PercentageStatement::RunTimePosSql() {
     try {
         return build();
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::percentagesFailed(), kMsgBoxCritical);
         return {};
     }

@@ -1,5 +1,6 @@
 #include "sql/run_time_statement.h"
 
+#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "sql/statement_text.h"
@@ -24,6 +25,7 @@ QString RunTimeStatement::RunTimeSQL() {
         if (!isBlank(order))
             statement += QStringLiteral(" Order By ") + order;
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::runTimeFailed(), kMsgBoxCritical);
     }
     inputs_.state.SQLRun = statement;
@@ -39,6 +41,7 @@ QString RunTimeStatement::RunTimeSQLCounter() {
         return QStringLiteral("SELECT Count(*) As Cnt FROM ") + from + QStringLiteral(" Where ") +
                inputs_.state.Filter;
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::counterFailed(), kMsgBoxCritical);
         return {};
     }

@@ -39,7 +39,8 @@ void StatementDispatch::OpenTotalRecordset() {
     if (!state.Cn)
         throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"), QStringLiteral("Cn"));
     state.Cn->setCommandTimeout(seconds(kTotalsTime));
-    records->Open(statement, state.Cn, ado::adOpenStatic);
+    inputs_.notes.asking(statement, state.Cn,
+                         [&] { records->Open(statement, state.Cn, ado::adOpenStatic); });
     if (composesAtRunTime() && !statement.contains(u"order by", Qt::CaseInsensitive))
         keepGroupsTogether(*records, state.GroupFactors);
     if (state.HasPercentColumns)

@@ -1,5 +1,6 @@
 #include "sql/statistics_statement.h"
 
+#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "sql/grouped_statement.h"
@@ -49,6 +50,7 @@ QString StatisticsStatement::RunTimeStatsSQL() {
             return {}; // `SQLRun` keeps the statement before
         statement = build(tables);
     } catch (const std::exception&) {
+        inputs_.notes.failed(errorInFlight());
         host_.msgBox(texts::statisticsFailed(), kMsgBoxCritical);
     }
     inputs_.state.SQLRun = statement;

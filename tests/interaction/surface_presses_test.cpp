@@ -229,7 +229,8 @@ protected:
     KeyColumn key{state, columns, surface};
     FontWriter fonts{state, surface, events};
     RowMarking marking{state, key, surface, events};
-    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host};
+    LoadNotes notes;
+    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host, notes};
     Dictionary dictionary{state};
     EmptyReport empty{state, properties, surface, children.Picture1, dictionary, host, hooks};
     MenuState menus{state, columns, properties, surface, children.Picture1, dictionary};

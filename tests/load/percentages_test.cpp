@@ -60,7 +60,8 @@ protected:
     ColumnList columns;
     GridSurface surface;
     ScriptedHost host;
-    Percentages percentages{state, columns, surface, host};
+    LoadNotes notes;
+    Percentages percentages{state, columns, surface, host, notes};
 };
 
 } // namespace

@@ -60,10 +60,11 @@ protected:
     ScriptedHost host;
     LoadHooks hooks;
     ColumnProperties properties{columns, surface, events};
-    Percentages percentages{state, columns, surface, host};
+    LoadNotes notes;
+    Percentages percentages{state, columns, surface, host, notes};
     GroupRows groups{state, columns, surface, percentages};
     TotalsRows totals{state, columns, surface, groups.sums(), hooks};
-    RowReader reader{state, properties, columns, surface, events, host, groups, totals, percentages};
+    RowReader reader{state, properties, columns, surface, events, host, groups, totals, percentages, notes};
     QStringList log;
 };
 
