@@ -7,17 +7,30 @@
 
 namespace zkp {
 
+namespace {
+
+/// A published row number, which the step moves down.
+template <class Step>
+void movingRow(double& r, Step step) {
+    const int row = toInt32(r);
+    int moved = row;
+    step(moved);
+    r += moved - row;
+}
+
+} // namespace
+
 void ZkpGrid::InitTotalsGrid() {
     run([](Parts& p) { p.groupRows.InitTotalsGrid(); });
 }
 void ZkpGrid::AccumulateRow(double& r) {
-    run([&](Parts& p) { p.groupRows.AccumulateRow(r); });
+    run([&](Parts& p) { movingRow(r, [&](int& row) { p.groupRows.AccumulateRow(row); }); });
 }
 void ZkpGrid::EmitSubTotalRows(int level, double& r) {
-    run([&](Parts& p) { p.groupRows.EmitSubTotalRows(level, r); });
+    run([&](Parts& p) { movingRow(r, [&](int& row) { p.groupRows.EmitSubTotalRows(level, row); }); });
 }
 void ZkpGrid::ResetGroupLevels(int level, double r) {
-    run([&](Parts& p) { p.groupRows.ResetGroupLevels(level, r); });
+    run([&](Parts& p) { p.groupRows.ResetGroupLevels(level, toInt32(r)); });
 }
 
 void ZkpGrid::FinishTotals() {

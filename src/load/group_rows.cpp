@@ -2,7 +2,6 @@
 
 #include "ado/constants.h"
 #include "base/format.h"
-#include "base/number.h"
 #include "base/text.h"
 #include "core/enums.h"
 #include "load/percentages.h"
@@ -16,20 +15,20 @@ namespace {
 /// A row of the surface, wherever it has moved to.
 class SurfaceRow : public GroupRow {
 public:
-    SurfaceRow(const GridSurface& surface, const double& row)
+    SurfaceRow(const GridSurface& surface, const int& row)
         : surface_(surface)
         , row_(row) {}
-    QString text(int column) const override { return surface_.TextMatrix(toInt32(row_), column); }
+    QString text(int column) const override { return surface_.TextMatrix(row_, column); }
     Decimal number(int column) const override {
-        return surface_.shownNumber(toInt32(row_), column).value_or(Decimal());
+        return surface_.shownNumber(row_, column).value_or(Decimal());
     }
 
 private:
     const GridSurface& surface_;
-    const double& row_;
+    const int& row_;
 };
 
-constexpr double kFirstRow = 1;
+constexpr int kFirstRow = 1;
 
 } // namespace
 
@@ -56,11 +55,11 @@ bool GroupRows::InitTotalsGrid(bool tagIsSeen) {
     return true;
 }
 
-void GroupRows::AccumulateRow(double& r) {
+void GroupRows::AccumulateRow(int& r) {
     takeRecord(SurfaceRow(surface_, r), r);
 }
 
-void GroupRows::takeRecord(const GroupRow& record, double& r) {
+void GroupRows::takeRecord(const GroupRow& record, int& r) {
     sums_.addToGrandSums(record);
     if (!sums_.shape().hasGroups())
         return;
@@ -72,7 +71,7 @@ void GroupRows::takeRecord(const GroupRow& record, double& r) {
 
 /// The outer loop has nothing to do after the first break, since the keys then are those of the record;
 /// it stays for factors that are also summed, whose key cells the sums change.
-void GroupRows::closeGroups(const GroupRow& record, double& r) {
+void GroupRows::closeGroups(const GroupRow& record, int& r) {
     const int last = sums_.shape().lastLevel();
     for (int i = 0; i <= last; ++i)
         for (int level = 0; level <= last; ++level)
@@ -85,20 +84,19 @@ void GroupRows::closeGroups(const GroupRow& record, double& r) {
             }
 }
 
-void GroupRows::ResetGroupLevels(int level, double r) {
+void GroupRows::ResetGroupLevels(int level, int r) {
     sums_.reset(std::clamp(level, 0, sums_.shape().factors), SurfaceRow(surface_, r));
 }
 
 /// Also for the innermost factor of a totals report, which has no sums: that row is blank and goes with
 /// the other blank rows, unless a balance column shows a sum in it, as wanted.
-void GroupRows::EmitSubTotalRows(int level, double& r) {
+void GroupRows::EmitSubTotalRows(int level, int& r) {
     for (int lvl = sums_.shape().factors - 1; lvl >= std::max(level, 0); --lvl) {
-        const int row = toInt32(r);
-        surface_.AddItem({}, row);
+        surface_.AddItem({}, r);
         state_.RowCapacity += 1;
-        writeSubtotalRow(row, lvl);
-        surface_.setRowData(row, ZKPSubTotals);
-        r += 1;
+        writeSubtotalRow(r, lvl);
+        surface_.setRowData(r, ZKPSubTotals);
+        ++r;
     }
 }
 

@@ -24,14 +24,14 @@ public:
     /// left out: it makes rows of all the blank ones before it, and `FinishTotals` removes it.
     bool InitTotalsGrid(bool tagIsSeen = true);
     /// Takes in the record that stands in row `r`; `r` moves down with it past inserted rows.
-    void AccumulateRow(double& r);
+    void AccumulateRow(int& r);
     /// Inserts the subtotal rows of the levels from the innermost out to `level` before row `r`.
-    void EmitSubTotalRows(int level, double& r);
+    void EmitSubTotalRows(int level, int& r);
     /// The record in row `r` opens the groups from `level` inwards.
-    void ResetGroupLevels(int level, double r);
+    void ResetGroupLevels(int level, int r);
 
     /// The same for a record that is not on the surface yet; `r` is where it will stand.
-    void takeRecord(const GroupRow& record, double& r);
+    void takeRecord(const GroupRow& record, int& r);
     GroupSums& sums() { return sums_; }
     const GroupSums& sums() const { return sums_; }
 
@@ -40,7 +40,7 @@ public:
 
 private:
     GroupShape shapeOfReport() const;
-    void closeGroups(const GroupRow& record, double& r);
+    void closeGroups(const GroupRow& record, int& r);
     void writeSubtotalRow(int row, int level);
     void writeSubtotalCell(int row, int level, int c, bool named);
 

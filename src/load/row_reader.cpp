@@ -51,13 +51,14 @@ void RowReader::LoadRows() {
 
 void RowReader::readRecords(const ado::RecordsetPtr& records) {
     records->MoveFirst();
-    double r = surface_.FixedRows() - 1;
+    double r = surface_.FixedRows() - 1; // a handler may leave any number
     makePlan(*records);
     while (!records->Eof()) {
         if (!plan_->isCurrent(*records, columns_, surface_, state_))
             makePlan(*records);
-        if (canBindTheRest(*records, r)) {
-            bindTheRest(*records, r);
+        if (int row = toInt32(r); canBindTheRest(*records, row)) {
+            bindTheRest(*records, row);
+            r = row;
             break;
         }
         r += 1;
@@ -66,7 +67,7 @@ void RowReader::readRecords(const ado::RecordsetPtr& records) {
         records->MoveNext();
     }
     if (hasTotals_)
-        finishTotals(r);
+        finishTotals(toInt32(r));
 }
 
 void RowReader::readRecord(const ado::RecordsetPtr& records, double& r) {
@@ -89,7 +90,10 @@ void RowReader::sumRecord(ado::Recordset& records, double& r) {
         unseen_ = !events_.isRetrieveRowHeard();
         hasTotals_ = groups_.InitTotalsGrid(!unseen_);
     } else if (hasTotals_ && records.AbsolutePosition() <= records.RecordCount()) {
-        groups_.AccumulateRow(r);
+        const int row = toInt32(r);
+        int moved = row;
+        groups_.AccumulateRow(moved);
+        r += moved - row;
     }
 }
 
@@ -99,14 +103,14 @@ void RowReader::makePlan(ado::Recordset& records) {
 }
 
 /// From the row after the first on, when each further row would be written the same way unseen.
-bool RowReader::canBindTheRest(const ado::Recordset& records, double r) const {
+bool RowReader::canBindTheRest(const ado::Recordset& records, int r) const {
     const std::int64_t left = records.RecordCount() - (records.AbsolutePosition() - 1);
     const int spare = hasTotals_ ? 2 : 0; // the rows behind the last record
-    return r >= 1 && left <= surface_.Rows() - 1 - toInt32(r) - spare && plan_->percents().empty() &&
+    return r >= 1 && left <= surface_.Rows() - 1 - r - spare && plan_->percents().empty() &&
            !events_.isRetrieveRowHeard() && !(hasTotals_ && groups_.sums().shape().sumsKeys());
 }
 
-void RowReader::bindTheRest(ado::Recordset& records, double& r) {
+void RowReader::bindTheRest(ado::Recordset& records, int& r) {
     if (hasTotals_)
         sumTheRest(records, r);
     else
@@ -117,7 +121,7 @@ void RowReader::bindTheRest(ado::Recordset& records, double& r) {
 
 /// Run by run of records with the same keys as the record that opened the groups. The record behind a
 /// run counts by itself, since it may break groups.
-void RowReader::sumTheRest(const ado::Recordset& records, double& r) {
+void RowReader::sumTheRest(const ado::Recordset& records, int& r) {
     const RecordRuns runs(records, plan_->cells(), groups_.sums().shape(), surface_.locale());
     const std::int64_t count = records.RecordCount();
     std::int64_t bound = records.AbsolutePosition() - 1;
@@ -129,24 +133,23 @@ void RowReader::sumTheRest(const ado::Recordset& records, double& r) {
         bindRun(records, bound, end, r);
         if (end == count)
             return;
-        double next = r + 1;
+        int next = r + 1;
         groups_.takeRecord(RecordRuns::Record(runs, end), next);
         r = next - 1;
         bound = open = end;
     }
 }
 
-void RowReader::bindRun(const ado::Recordset& records, std::int64_t from, std::int64_t end, double& r) {
+void RowReader::bindRun(const ado::Recordset& records, std::int64_t from, std::int64_t end, int& r) {
     const auto count = static_cast<int>(end - from);
     surface_.bindRows(
-        toInt32(r) + 1, count, plan_->layout(), [&](int i) { return records.tableRow(from + i); },
-        ZKPSingleRow);
+        r + 1, count, plan_->layout(), [&](int i) { return records.tableRow(from + i); }, ZKPSingleRow);
     r += count;
 }
 
 /// The blank row behind the last record forces the last group breaks.
-void RowReader::finishTotals(double r) {
-    r += 1;
+void RowReader::finishTotals(int r) {
+    ++r;
     groups_.AccumulateRow(r);
     totals_.FinishTotals(unseen_);
     state_.LoadFinished = true;

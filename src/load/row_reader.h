@@ -42,12 +42,12 @@ private:
     void readRecords(const ado::RecordsetPtr& records);
     void readRecord(const ado::RecordsetPtr& records, double& r);
     void sumRecord(ado::Recordset& records, double& r);
-    bool canBindTheRest(const ado::Recordset& records, double r) const;
-    void bindTheRest(ado::Recordset& records, double& r);
-    void sumTheRest(const ado::Recordset& records, double& r);
-    void bindRun(const ado::Recordset& records, std::int64_t from, std::int64_t end, double& r);
+    bool canBindTheRest(const ado::Recordset& records, int r) const;
+    void bindTheRest(ado::Recordset& records, int& r);
+    void sumTheRest(const ado::Recordset& records, int& r);
+    void bindRun(const ado::Recordset& records, std::int64_t from, std::int64_t end, int& r);
     void makePlan(ado::Recordset& records);
-    void finishTotals(double r);
+    void finishTotals(int r);
     void removeBlankRows();
 
     ReportState& state_;

@@ -124,6 +124,16 @@ TEST_F(DialectOnSqliteTest, TheStatementSentIsToldAndTheSourceStaysAsGiven) {
     EXPECT_EQ(cn->LastStatementSent(), u("SELECT * FROM NAMES WHERE NAME='smith' COLLATE ZKP_TEXT LIMIT 1"));
 }
 
+TEST_F(DialectOnSqliteTest, StatementsSentAreCountedAndQuestionsOfTheCatalogueAreNot) {
+    const auto before = cn->StatementsSent();
+    open("SELECT TOP 1 * FROM NAMES");
+    open("SELECT TOP 1 * FROM NAMES");
+    EXPECT_EQ(cn->StatementsSent(), before + 2);
+    cn->OpenSchema(adSchemaColumns, {QVariant(), QVariant(), u("NAMES")});
+    EXPECT_EQ(cn->StatementsSent(), before + 2);
+    EXPECT_EQ(std::make_shared<Connection>()->StatementsSent(), 0u);
+}
+
 TEST_F(DialectOnSqliteTest, BareTrueIsTaken) {
     EXPECT_EQ(count(" TRUE "), 6);
 }

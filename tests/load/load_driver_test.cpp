@@ -306,6 +306,20 @@ TEST_F(LoadDriverTest, ARecordsetLoadWithoutAConnectionShowsABoxOfItsOwn) {
     EXPECT_EQ(grid->RecordSource().value<ado::RecordsetPtr>(), nullptr);
 }
 
+TEST_F(LoadDriverTest, ALoadWithTotalsPaintsWhenTheyStandAndOnceMoreAtItsEnd) {
+    columns({u"POLICYID"_s});
+    grid->setColTotals(0, true);
+    const Events& events = grid->events();
+    QObject::connect(&events, &Events::StartFilling, [this] { log << u"filling"_s; });
+    QObject::connect(&events, &Events::StopFillIng, [this] { log << u"filled"_s; });
+    QObject::connect(&events, &Events::StartInterface, [this] { log << u"painting"_s; });
+    QObject::connect(&events, &Events::StopInterface, [this] { log << u"painted"_s; });
+    fill();
+    grid->refresh();
+    EXPECT_EQ(log, (QStringList{u"filling"_s, u"painting"_s, u"painted"_s, u"filled"_s, u"painting"_s,
+                                u"painted"_s}));
+}
+
 TEST_F(LoadDriverTest, ThePointerIsTheHourglassDuringALoadAndTheDefaultAfterIt) {
     QList<int> pointers;
     QObject::connect(&grid->events(), &Events::StartFilling, [&] { pointers << host->pointer(); });
