@@ -19,17 +19,6 @@ const QString kDescending = QStringLiteral(" DESC");
 constexpr double kTwipsPerPixel = 15;
 constexpr double kHeadingEnds = 11; // pixels around the text of a heading
 
-ado::RecordsetPtr recordsOf(const ZkpGrid& grid) {
-    return grid.RecordSource().value<ado::RecordsetPtr>();
-}
-
-/// A failed load of a detail report leaves no recordset that could tell its statement.
-QString builtStatement(ZkpGrid& grid, const ado::RecordsetPtr& records) {
-    if (records)
-        return records->Source();
-    return grid.SqlOnRunTime() ? grid.SQLRun().toString() : grid.NormalSQL();
-}
-
 /// The order of a detail report within its groups: the user's, else the first field that is no factor.
 /// A totals report has none: its groups stand in their order.
 QString orderOf(ZkpGrid& grid, const ColumnSort& sort) {
@@ -57,34 +46,19 @@ double headingWidth(const ZkpGrid& grid, const QString& text) {
 }
 
 template <class Load>
-LoadRecord watchedLoad(ZkpGrid& grid, LoadWatch& watch, const QString& filter, Load load) {
+LoadRecord loadWith(ZkpGrid& grid, const QString& filter, Load load) {
     grid.setFilter(filter);        // the builders write the translated one, with the rights, over it
     grid.setRefreshOnChange(true); // a change of the user's columns may have left it to us
-    watch.begin(grid.Cn());
+    LoadRecord record{filter, {}};
+    const Listening listening = grid.listenToLoads(
+        {.begins = {}, .ended = [&](const LoadOutcome& outcome) { record.outcome = outcome; }});
     load();
-    watch.end();
-
-    LoadRecord record = recordAsItStands(grid, watch.statementSent());
-    record.filter = filter;
-    record.isLoaded = record.isLoaded && !watch.sawBox();
-    record.statementMs = watch.statementMs();
-    record.wholeMs = watch.wholeMs();
-    if (record.isLoaded && grid.TotalForm())
+    if (record.isLoaded() && grid.TotalForm())
         formatFigures(grid);
     return record;
 }
 
 } // namespace
-
-LoadRecord recordAsItStands(ZkpGrid& grid, const QString& sent) {
-    const ado::RecordsetPtr records = recordsOf(grid);
-    LoadRecord record;
-    record.isLoaded = records && records->State() == ado::adStateOpen;
-    record.sent = sent;
-    record.built = builtStatement(grid, records);
-    record.records = record.isLoaded ? static_cast<int>(records->RecordCount()) : 0;
-    return record;
-}
 
 void prepareReport(ZkpGrid& grid, const ado::ConnectionPtr& connection, const ReportEntry& report,
                    const QString& userId) {
@@ -105,7 +79,9 @@ void layReport(ZkpGrid& grid, const std::vector<DictionaryField>& fields,
 
 ColumnSort sortOf(ZkpGrid& grid) {
     const QString order = grid.OrderBy();
-    for (int c = 0; c < grid.Cols() && !grid.TotalForm(); ++c) {
+    if (grid.TotalForm() || !(order.endsWith(kAscending) || order.endsWith(kDescending)))
+        return {};
+    for (int c = 0; c < grid.Cols(); ++c) {
         QString tables;
         const QString expression =
             grid.ColForTot(c) ? QString() : grid.makefldSql(grid.ColDataField(c), tables, false);
@@ -115,15 +91,15 @@ ColumnSort sortOf(ZkpGrid& grid) {
     return {};
 }
 
-LoadRecord loadReport(ZkpGrid& grid, LoadWatch& watch, const QString& filter) {
-    return watchedLoad(grid, watch, filter, [&] { grid.refresh(); });
+LoadRecord loadReport(ZkpGrid& grid, const QString& filter) {
+    return loadWith(grid, filter, [&] { grid.refresh(); });
 }
 
-LoadRecord sortReport(ZkpGrid& grid, LoadWatch& watch, const QString& filter, ColumnSort& sort) {
+LoadRecord sortReport(ZkpGrid& grid, const QString& filter, ColumnSort& sort) {
     const QString order = grid.OrderBy();
     const QString previous = order.endsWith(kAscending) ? order.chopped(kAscending.size()) : QString();
     const QString field = grid.ColDataField(grid.MSFlexGrid1().Col());
-    const LoadRecord record = watchedLoad(grid, watch, filter, [&] { grid.SortByColumn(previous); });
+    const LoadRecord record = loadWith(grid, filter, [&] { grid.SortByColumn(previous); });
     sort = {field, grid.OrderBy().endsWith(kDescending, Qt::CaseInsensitive)};
     return record;
 }

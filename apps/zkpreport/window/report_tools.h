@@ -36,7 +36,7 @@ public:
     /// A control that will load; its loads show how they go on.
     void watch(ZkpGridWidget& report);
     void watch(ado::Connection& connection);
-    /// A load of the window's own begins.
+    /// A load begins.
     void loadBegins() { progress_.begin(); }
     /// The control that the window shows, after each load of the window's own.
     void showReport(ZkpGridWidget* report);

@@ -41,7 +41,7 @@ public:
 } // namespace
 
 ReportWindow::ReportWindow(std::shared_ptr<Host> host)
-    : host_(std::make_shared<LoadWatch>(host ? std::move(host) : std::make_shared<WindowHost>(this)))
+    : host_(host ? std::move(host) : std::make_shared<WindowHost>(this))
     , reports_(new ReportListModel(this))
     , reportList_(new QListView)
     , userList_(new ShrinkingList(kUserWidth))
@@ -56,8 +56,7 @@ ReportWindow::ReportWindow(std::shared_ptr<Host> host)
     , message_(new MessageStrip)
     , place_(new QVBoxLayout)
     , panel_(new StatementPanel)
-    , tools_(new ReportTools(*this, *host_,
-                             {[this] { return host_->isLettingEventsIn(); }, [this] { reloadReshaped(); }})) {
+    , tools_(new ReportTools(*this, *host_, {[this] { return isLoading(); }, [this] { reloadReshaped(); }})) {
     setWindowTitle(QStringLiteral("zkpreport"));
     colours_ = palette();
     buildWidgets();
@@ -82,7 +81,6 @@ void ReportWindow::connectWidgets() {
     });
     connect(sortAction_, &QAction::triggered, this, &ReportWindow::sortByCurrentColumn);
     connect(panelToggle_, &QAction::toggled, panel_, &QWidget::setVisible);
-    host_->began = [this] { tools_->loadBegins(); };
     connect(tools_, &ReportTools::settled, this, &ReportWindow::followControl);
     message_->mayGo = [this] { return isLoaded_; };
     connectTemplates();
@@ -229,13 +227,13 @@ bool ReportWindow::openReport(const QString& filter) {
 bool ReportWindow::load(const ReportEntry& report, const QString& filter) {
     if (isLoaded_)
         return reload(report, filter);
-    return rebuild(report) && tell(loadReport(grid(), *host_, filter));
+    return rebuild(report) && tell(loadReport(grid(), filter));
 }
 
 bool ReportWindow::reload(const ReportEntry& report, const QString& filter) {
     keepShape(); // before a failure leaves its marks
-    const LoadRecord record = loadReport(grid(), *host_, filter);
-    if (!record.isLoaded) {
+    const LoadRecord record = loadReport(grid(), filter);
+    if (!record.isLoaded()) {
         isLoaded_ = false;
         rebuild(report);
     }
@@ -283,8 +281,8 @@ bool ReportWindow::readReport(const ReportEntry& report, const QString& user) {
 }
 
 bool ReportWindow::tell(const LoadRecord& record) {
-    panel_->setRecord(record);
-    isLoaded_ = record.isLoaded;
+    panel_->setOutcome(record.outcome);
+    isLoaded_ = record.isLoaded();
     if (!isLoaded_)
         setMessage(texts::loadFailed());
     else if (database_.isMissing())
@@ -320,7 +318,7 @@ void ReportWindow::sortByCurrentColumn() {
     guarded([&] {
         reconnectDatabase();
         const UserFilter filter = reportFilter(*report, connection_, filter_->inForce());
-        return tell(sortReport(grid(), *host_, filter.text, sort_));
+        return tell(sortReport(grid(), filter.text, sort_));
     });
 }
 
@@ -341,14 +339,11 @@ ZkpGridWidget* ReportWindow::makeControl() {
     control->grid().setDesignMode(true); // the user's refresh reads a reshaped report
     control->grid().Picture1().Tools(u"mnuExport").Visible = false; // its command is not ours
     tools_->watch(*control);
+    listenToLoads(*control);
     setReportColours(control->grid(), colours_);
     const Events* events = &control->grid().events();
     connect(events, &Events::Click, this, &ReportWindow::sortIfHeading);
     connect(events, &Events::DblClick, this, &ReportWindow::sortIfHeading);
-    connect(events, &Events::StartFilling, this, [this] {
-        hasLoadedItself_ = true; // unless it turns out to be a load of the window's
-        sentByControl_ = connection_ ? connection_->LastStatementSent() : QString();
-    });
     connect(events, &Events::PrintCommand, this, [this, control] {
         host_->msgBox(zkp::texts::notThereYet(control->grid().Picture1().Tools(u"mnuPrint").Caption),
                       kMsgBoxInformation, {});
@@ -364,6 +359,23 @@ ZkpGridWidget* ReportWindow::makeControl() {
     connect(events, &Events::MenuSaveTemplateAs, this, &ReportWindow::saveTemplateAs);
     connect(events, &Events::MenuLoadTemplate, templates_, &TemplatePane::focusList);
     return control;
+}
+
+void ReportWindow::listenToLoads(ZkpGridWidget& control) {
+    const auto listening = std::make_shared<Listening>(control.grid().listenToLoads(
+        {.begins = [this] { tools_->loadBegins(); },
+         .ended =
+             [this](const LoadOutcome& outcome) {
+                 if (outcome.result == ZKPLoaded)
+                     hasLoadedItself_ = true; // unless it turns out to be a load of the window's
+             }}));
+    connect(&control, &QObject::destroyed, this, [listening] {}); // until then it is kept
+}
+
+bool ReportWindow::isLoading() const {
+    const auto controls = findChildren<ZkpGridWidget*>();
+    return std::any_of(controls.begin(), controls.end(),
+                       [](ZkpGridWidget* control) { return control->grid().isLoading(); });
 }
 
 void ReportWindow::changeEvent(QEvent* event) {

@@ -2,7 +2,6 @@
 
 #include "database/database_place.h"
 #include "window/kept_shape.h"
-#include "window/load_watch.h"
 #include "window/report_list.h"
 #include "window/report_loader.h"
 #include "window/user_list.h"
@@ -104,6 +103,9 @@ private:
     /// An empty control: neither rows nor rights of the last one are left.
     void replaceControl();
     ZkpGridWidget* makeControl();
+    void listenToLoads(ZkpGridWidget& control);
+    /// Whether a control is loading: what is done with a report waits then.
+    bool isLoading() const;
 
     // What the user has made of the report, before it goes.
     bool hasChanges() const;
@@ -145,7 +147,7 @@ private:
     template <class F>
     bool guarded(F call);
 
-    std::shared_ptr<LoadWatch> host_;
+    std::shared_ptr<Host> host_;
     ado::ConnectionPtr connection_;
     DatabasePlace database_;
     int user_ = 0; // whose rows show, by the list
@@ -160,7 +162,6 @@ private:
     bool isLoaded_ = false;
     bool carriesChanges_ = false;  // the control's shape has unsaved changes from the control before
     bool hasLoadedItself_ = false; // the control, by a command of its menus
-    QString sentByControl_;        // the statement of that load
 
     ReportListModel* reports_;
     QListView* reportList_;

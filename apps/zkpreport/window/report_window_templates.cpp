@@ -40,10 +40,10 @@ QString typedFilter(const ZkpGrid& grid) {
 }
 
 /// Loads, whatever the template says about the user's own changes.
-LoadRecord loadOpened(ZkpGrid& grid, LoadWatch& watch, const QString& filter) {
+LoadRecord loadOpened(ZkpGrid& grid, const QString& filter) {
     const bool refreshes = grid.RefreshOnChange();
     grid.setRefreshOnChange(true);
-    const LoadRecord record = loadReport(grid, watch, filter);
+    const LoadRecord record = loadReport(grid, filter);
     grid.setRefreshOnChange(refreshes);
     return record;
 }
@@ -115,7 +115,7 @@ void ReportWindow::openTemplate(QString name) {
     setMessage({});
     const bool isDone = guardedTemplate(texts::templateNotOpened(name), [&] {
         OpenedTemplate opened = readTemplateInto(std::unique_ptr<ZkpGridWidget>(makeControl()), name);
-        if (opened.record.isLoaded)
+        if (opened.record.isLoaded())
             showTemplate(std::move(opened), name);
         else // the control has told why
             setMessage(texts::templateNotOpened(name));
@@ -140,9 +140,9 @@ ReportWindow::OpenedTemplate ReportWindow::readTemplateInto(std::unique_ptr<ZkpG
     opened.fields = fieldsOf(report, user);
 
     prepareReport(grid, connection_, report, user);
-    host_->begin(connection_);
+    grid.setclmns({}); // the template's own, one of the last that is read of what must be read
     takeShape(grid, colours_, opened.fields, [&] { grid.opentemplate(connection_, {}, name); });
-    if (host_->sawBox())
+    if (isBlank(grid.clmns()))
         return opened;
     if (const QStringList denied = deniedFields(grid, opened.fields); !user.isEmpty() && !denied.isEmpty())
         throw Error(kErrItemNotFound, texts::templateDenied(denied.join(QStringLiteral(", "))));
@@ -150,7 +150,7 @@ ReportWindow::OpenedTemplate ReportWindow::readTemplateInto(std::unique_ptr<ZkpG
     const UserFilter filter = reportFilter(report, connection_, opened.filter);
     if (!filter.isAccepted())
         throw Error(kErrInvalidCall, texts::templateFilterRefused(opened.filter, filter.failure));
-    opened.record = loadOpened(grid, *host_, filter.text);
+    opened.record = loadOpened(grid, filter.text);
     return opened;
 }
 

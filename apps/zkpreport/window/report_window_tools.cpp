@@ -15,7 +15,7 @@ void ReportWindow::reloadReshaped() {
     setMessage({});
     reconnectDatabase();
     sort_ = sortOf(grid());
-    tell(loadReport(grid(), *host_, loadFilter_));
+    tell(loadReport(grid(), loadFilter_));
 }
 
 void ReportWindow::followControl() {
@@ -46,7 +46,7 @@ void ReportWindow::followChanges() {
     sort_ = sortOf(grid());
     if (!grid().TotalForm())
         showSort(grid(), sort_);
-    panel_->setRecord(recordAsItStands(grid(), sentByControl_));
+    panel_->setOutcome(grid().lastLoad());
 }
 
 } // namespace zkp::app

@@ -58,17 +58,13 @@ StatementPanel::StatementPanel(QWidget* parent)
     layout->setColumnStretch(1, 1);
 }
 
-void StatementPanel::setRecord(const LoadRecord& record) {
+void StatementPanel::setOutcome(const LoadOutcome& outcome) {
     const QLocale greek(QLocale::Greek, QLocale::Greece);
-    built_->setPlainText(record.built);
-    sent_->setPlainText(record.sent);
-    if (record.wholeMs == 0) {
-        figures_->setText(texts::recordsOnly(greek.toString(record.records)));
-        return;
-    }
-    figures_->setText(texts::loadFigures(greek.toString(record.records),
-                                         greek.toString(record.statementMs, 'f', 1),
-                                         greek.toString(record.wholeMs, 'f', 1)));
+    built_->setPlainText(outcome.built);
+    sent_->setPlainText(outcome.sent);
+    figures_->setText(texts::loadFigures(greek.toString(static_cast<qlonglong>(outcome.records)),
+                                         greek.toString(outcome.firstRecordMs, 'f', 1),
+                                         greek.toString(outcome.lastRecordMs, 'f', 1)));
 }
 
 void StatementPanel::clear() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/report_loader.h"
+#include "load/load_outcome.h"
 
 #include <QWidget>
 
@@ -17,7 +17,7 @@ class StatementPanel : public QWidget {
 public:
     explicit StatementPanel(QWidget* parent = nullptr);
 
-    void setRecord(const LoadRecord& record);
+    void setOutcome(const LoadOutcome& outcome);
     void clear();
 
     QString built() const;

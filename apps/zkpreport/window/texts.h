@@ -256,10 +256,6 @@ inline QString rowsReadAtRate(const QString& rows, const QString& perSecond) {
 inline QString layingOut(const QString& rows) {
     return QStringLiteral("Τοποθετούνται %1 γραμμές").arg(rows);
 }
-inline QString recordsOnly(const QString& records) {
-    return QStringLiteral("%1 εγγραφές").arg(records);
-}
-
 // Messages in place of a report.
 inline QString noFile(const QString& file) {
     return QStringLiteral("Το αρχείο %1 δεν υπάρχει.").arg(file);
