@@ -89,11 +89,11 @@ void GridView::layOutNow() {
     const int room = std::max(0, page_.size.height() - page_.bottom());
     roomForRows_ = std::max(1, page_.shownRows() + (room + rowHeight - 1) / rowHeight);
     // More rows are a notification, which must not come in the middle of a paint.
-    const int room = surface_->roomInViews();
-    if (surface_->VisibleRows() != 0 && surface_->VisibleRows() < room)
+    const int most = surface_->roomInViews();
+    if (surface_->VisibleRows() != 0 && surface_->VisibleRows() < most)
         postSync();
     else
-        surface_->setVisibleRows(room);
+        surface_->setVisibleRows(most);
 }
 
 void GridView::syncBars() {
