@@ -48,6 +48,10 @@ bool HeadingDrag::prepare() {
     return true;
 }
 
+bool HeadingDrag::mayDrag(int col) const {
+    return surface_.look().Tag == QString::number(col);
+}
+
 void HeadingDrag::showPointer(const SurfaceMouse& mouse) {
     GridSurface::Look look = surface_.look();
     look.MousePointer = kPointerDefault;

@@ -30,10 +30,13 @@ public:
         , host_(host)
         , control_(std::move(control)) {}
 
-    /// A left press on the column pressed last: the surface's `Tag` takes its number when a drag may start.
-    /// False when the host is not to hear of the press: one on a data row, or in a detail report on the
-    /// heading of a group factor or of the first column after them.
+    /// A left press on the column pressed last: the surface's `Tag` takes its number when a drag may start,
+    /// and a host that hears of the press may write another there. False when the host is not to hear of the
+    /// press: one on a data row, or in a detail report on the heading of a group factor or of the first
+    /// column after them.
     bool prepare();
+    /// Whether a view may let the heading follow the pointer, after the press.
+    bool mayDrag(int col) const;
     /// The pointer over the heading row tells what a drop there would do.
     void showPointer(const SurfaceMouse& mouse);
     /// Moves a column with its data, heading and look; the current cell goes along. For a group factor the

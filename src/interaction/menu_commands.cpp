@@ -87,7 +87,7 @@ struct MenuCommands::Table {
 };
 
 void MenuCommands::connect(MenuBar& menu, const std::weak_ptr<void>& owner) {
-    menu.toolClicked = guardedBy(owner, state_, [this](Tool& tool) { clicked(tool); });
+    clicks_ = menu.toolClicked.add(guardedBy(owner, state_, [this](Tool& tool) { clicked(tool); }));
 }
 
 /// The menus follow a command that failed too.

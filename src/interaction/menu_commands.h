@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/listeners.h"
 #include "core/column_properties.h"
 #include "core/events.h"
 #include "core/report_state.h"
@@ -42,7 +43,7 @@ public:
         , host_(host)
         , steps_(std::move(steps)) {}
 
-    /// Takes the bar's clicks. `owner` keeps everything here alive while a command runs, since a handler
+    /// Listens to the bar's clicks. `owner` keeps everything here alive while a command runs, since a handler
     /// may destroy the control.
     void connect(MenuBar& menu, const std::weak_ptr<void>& owner);
 
@@ -73,6 +74,7 @@ private:
     MenuState& menus_;
     Host& host_;
     Steps steps_;
+    Listening clicks_;
 };
 
 } // namespace zkp

@@ -26,6 +26,10 @@ void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
     on.click = guarded([this] { click(); });
     on.dblClick = guarded([this] { Q_EMIT events_.DblClick(); });
     on.keyDown = guarded([this](int& code, int shift) { reporting([&] { keyDown(code, shift); }); });
+    on.mayDragHeading = [owner, this](int col) {
+        const std::shared_ptr<void> alive = owner.lock();
+        return alive && !state_.destroyed && drag_.mayDrag(col);
+    };
     on.headingDropped = [drop = guarded([this](int from, int to) { drag_.drop(from, to); })](int from,
                                                                                              int to) {
         drop(from, to);

@@ -191,7 +191,7 @@ TEST_F(HeadingDragTest, EveryPropertyOfEveryColumnIsReportedInItsOrder) {
 
 TEST_F(HeadingDragTest, TheViewSeesOneChangeAndAPlainColumnIsDrawnAgain) {
     int changes = 0;
-    surface.view.changed = [&] { ++changes; };
+    const Listening view = surface.views.add({.changed = [&] { ++changes; }});
     drag.drop(1, 3);
     EXPECT_EQ(changes, 2) << "the move and the repaint";
     EXPECT_TRUE(surface.Redraw());
