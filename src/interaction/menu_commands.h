@@ -3,7 +3,7 @@
 #include "core/column_properties.h"
 #include "core/events.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "interaction/column_commands.h"
 #include "interaction/menu_state.h"
 #include "interaction/section_styles.h"
@@ -29,7 +29,7 @@ public:
 
     MenuCommands(ReportState& state, const ColumnList& columns, ColumnProperties& properties,
                  GridSurface& surface, Events& events, RowSorting& sorting, ColumnCommands& columnCommands,
-                 SectionStyles& styles, MenuState& menus, Host& host, Steps steps)
+                 SectionStyles& styles, MenuState& menus, MessageBoxes& boxes, Steps steps)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
@@ -39,7 +39,7 @@ public:
         , columnCommands_(columnCommands)
         , styles_(styles)
         , menus_(menus)
-        , host_(host)
+        , boxes_(boxes)
         , steps_(std::move(steps)) {}
 
     /// Takes the bar's clicks. `owner` keeps everything here alive while a command runs, since a handler
@@ -71,7 +71,7 @@ private:
     ColumnCommands& columnCommands_;
     SectionStyles& styles_;
     MenuState& menus_;
-    Host& host_;
+    MessageBoxes& boxes_;
     Steps steps_;
 };
 
