@@ -13,8 +13,8 @@
 namespace zkp {
 
 /// The world around the control, in small services: the engine writes to the user through these and
-/// nothing else. A host gives those that it has; the others answer as their classes say. Which service it
-/// is is asked once, when a control is made, and it must last as long as the host.
+/// nothing else. A host overrides those that it gives. A control asks for them once, when it is made; they
+/// last as long as the host.
 class Host {
 public:
     /// What the host itself doesn't give is that of `others`, if any.
