@@ -8,6 +8,7 @@
 #include "core/key_column.h"
 #include "core/record_source.h"
 #include "core/report_state.h"
+#include "core/reporting.h"
 #include "core/row_marking.h"
 #include "interaction/column_commands.h"
 #include "interaction/field_tools.h"
@@ -42,11 +43,14 @@ struct ZkpGrid::Parts {
     explicit Parts(std::shared_ptr<Host> givenHost);
 
     std::shared_ptr<Host> host;
+    MessageBoxes& boxes;
+    Pointer& pointer;
     ReportState state;
     ColumnList columns;
     Events events;
     ChildControls children;
     LoadHooks hooks;
+    Reporting reporting;
     std::function<void(const Error&)> errorSink;
 
     GridSurface& surface;

@@ -3,7 +3,9 @@
 #include "core/column_properties.h"
 #include "core/group_factors.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/message_boxes.h"
+#include "host/pointer.h"
 #include "surface/grid_surface.h"
 
 #include <functional>
@@ -21,13 +23,16 @@ public:
     };
 
     HeadingDrag(ReportState& state, ColumnList& columns, ColumnProperties& properties,
-                GroupFactorFlags& flags, GridSurface& surface, Host& host, Control control)
+                GroupFactorFlags& flags, GridSurface& surface, MessageBoxes& boxes, Pointer& pointer,
+                const Reporting& reporting, Control control)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
         , flags_(flags)
         , surface_(surface)
-        , host_(host)
+        , boxes_(boxes)
+        , pointer_(pointer)
+        , reporting_(reporting)
         , control_(std::move(control)) {}
 
     /// A left press on the column pressed last: the surface's `Tag` takes its number when a drag may start,
@@ -61,7 +66,9 @@ private:
     ColumnProperties& properties_;
     GroupFactorFlags& flags_;
     GridSurface& surface_;
-    Host& host_;
+    MessageBoxes& boxes_;
+    Pointer& pointer_;
+    Reporting reporting_;
     Control control_;
 };
 

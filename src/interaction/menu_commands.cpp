@@ -139,7 +139,7 @@ void MenuCommands::align(int alignment) {
 /// wanted. The host hears of it by the event.
 void MenuCommands::askForTitle() {
     const QString title =
-        host_.inputBox(texts::titlePrompt(), texts::titleHeading(), state_.PrintCaption).value_or(QString());
+        boxes_.inputBox(texts::titlePrompt(), texts::titleHeading(), state_.PrintCaption).value_or(QString());
     state_.throwIfDestroyed();
     state_.PrintCaption = title;
     if (!isBlank(title))
@@ -149,7 +149,7 @@ void MenuCommands::askForTitle() {
 }
 
 void MenuCommands::sayMissing(const Tool& tool) {
-    host_.msgBox(texts::notThereYet(tool.Caption), kMsgBoxInformation);
+    boxes_.msgBox(texts::notThereYet(tool.Caption), kMsgBoxInformation);
 }
 
 } // namespace zkp

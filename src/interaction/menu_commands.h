@@ -4,7 +4,7 @@
 #include "core/column_properties.h"
 #include "core/events.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "interaction/column_commands.h"
 #include "interaction/menu_state.h"
 #include "interaction/section_styles.h"
@@ -30,7 +30,7 @@ public:
 
     MenuCommands(ReportState& state, const ColumnList& columns, ColumnProperties& properties,
                  GridSurface& surface, Events& events, RowSorting& sorting, ColumnCommands& columnCommands,
-                 SectionStyles& styles, MenuState& menus, Host& host, Steps steps)
+                 SectionStyles& styles, MenuState& menus, MessageBoxes& boxes, Steps steps)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
@@ -40,7 +40,7 @@ public:
         , columnCommands_(columnCommands)
         , styles_(styles)
         , menus_(menus)
-        , host_(host)
+        , boxes_(boxes)
         , steps_(std::move(steps)) {}
 
     /// Listens to the bar's clicks. `owner` keeps everything here alive while a command runs, since a handler
@@ -72,7 +72,7 @@ private:
     ColumnCommands& columnCommands_;
     SectionStyles& styles_;
     MenuState& menus_;
-    Host& host_;
+    MessageBoxes& boxes_;
     Steps steps_;
     Listening clicks_;
 };

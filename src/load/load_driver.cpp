@@ -1,10 +1,8 @@
 #include "load/load_driver.h"
 
-#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
-#include "host/error_box.h"
 #include "load/empty_recordset.h"
 #include "load/field_list.h"
 #include "load/source_check.h"
@@ -22,9 +20,9 @@ Error objectNotSet(const QString& source) {
 } // namespace
 
 void LoadDriver::refresh(ErrorSink sink) {
-    host_.setPointer(kPointerHourglass);
+    pointer_.setPointer(kPointerHourglass);
     const ScopeGuard restore([this] {
-        host_.setPointer(kPointerDefault);
+        pointer_.setPointer(kPointerDefault);
         state_.MousePointer = kPointerDefault;
     });
     const std::vector<Error> failed = failedSourceChecks(state_);
@@ -40,7 +38,7 @@ void LoadDriver::FillGrid() {
     if (loading_) {
         if (std::exchange(toldOnce_, true))
             return;
-        ShowError(host_, Error(kErrIllegalOperation, QStringLiteral("A load is running already.")));
+        reporting_.show(Error(kErrIllegalOperation, QStringLiteral("A load is running already.")));
         return;
     }
     loading_ = true;
@@ -48,17 +46,9 @@ void LoadDriver::FillGrid() {
     const ScopeGuard restore([this] {
         loading_ = false;
         surface_.setRedraw(true);
-        host_.setPointer(kPointerDefault);
+        pointer_.setPointer(kPointerDefault);
     });
-    try {
-        load();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        ShowError(host_, error);
-    }
+    reporting_.run([this] { load(); });
 }
 
 void LoadDriver::load() {
@@ -72,11 +62,11 @@ void LoadDriver::load() {
     if (!MakeRecordset())
         return;
     const std::int64_t records = recordCount();
-    host_.setPointer(kPointerHourglass);
+    pointer_.setPointer(kPointerHourglass);
     sizeSurface(toInt32(static_cast<double>(records)));
     if (records > 0)
         readRows();
-    host_.setPointer(kPointerDefault);
+    pointer_.setPointer(kPointerDefault);
     selectFirstRow();
     surface_.Refresh();
 }
@@ -102,11 +92,11 @@ bool LoadDriver::MakeRecordset() {
     if (!state_.ReportRecordset)
         return false;
     if (state_.ReportRecordset->RecordCount() == 0) {
-        host_.setPointer(kPointerDefault);
+        pointer_.setPointer(kPointerDefault);
     } else {
         surface_.setBackColor(surface_.BackColor());
         surface_.setForeColor(surface_.ForeColor());
-        host_.runPendingEvents();
+        pendingEvents_.runPendingEvents();
         state_.throwIfDestroyed();
     }
     return true;
@@ -114,7 +104,7 @@ bool LoadDriver::MakeRecordset() {
 
 /// A failure here has a box of its own and leaves no record source.
 void LoadDriver::OpenDetailRecordset() {
-    try {
+    const auto open = [this] {
         LoadHooks::run(hooks_.MakeFixedForGroup);
         if (!state_.ReportRecordset)
             state_.ReportRecordset = std::make_shared<ado::Recordset>();
@@ -125,14 +115,11 @@ void LoadDriver::OpenDetailRecordset() {
         const ScopeGuard restore([&] { connection->setCommandTimeout(timeout); });
         connection->setCommandTimeout(state_.CommandTimeout);
         openBySourceType();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
+    };
+    reporting_.run(open, [this](const Error& error) {
         state_.ReportRecordset.reset();
-        host_.msgBox(error.description(), kMsgBoxCritical);
-    }
+        boxes_.msgBox(error.description(), kMsgBoxCritical);
+    });
 }
 
 void LoadDriver::openBySourceType() {
@@ -206,7 +193,7 @@ std::int64_t LoadDriver::recordCount() const {
         return state_.RecCount == -1 ? 0 : records->RecordCount();
     if (!isBlank(state_.RKeyname) && !state_.TotalForm)
         LoadHooks::run(hooks_.RunTimeSQLCounter); // built for its effect on `Filter`; not run, as wanted
-    return RecordsetIsEmpty(records, host_) ? 0 : records->RecordCount();
+    return RecordsetIsEmpty(records, {boxes_, pointer_}) ? 0 : records->RecordCount();
 }
 
 void LoadDriver::sizeSurface(int records) {

@@ -3,7 +3,10 @@
 #include "base/error.h"
 #include "core/events.h"
 #include "core/record_source.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/message_boxes.h"
+#include "host/pending_events.h"
+#include "host/pointer.h"
 #include "load/load_hooks.h"
 #include "load/row_reader.h"
 #include "menu/menu_bar.h"
@@ -21,14 +24,18 @@ public:
     using ErrorSink = std::function<void(const Error&)>;
 
     LoadDriver(ReportState& state, GridSurface& surface, MenuBar& menu, Dictionary& dictionary,
-               RowReader& reader, Host& host, const LoadHooks& hooks)
+               RowReader& reader, MessageBoxes& boxes, Pointer& pointer, PendingEvents& pendingEvents,
+               const Reporting& reporting, const LoadHooks& hooks)
         : state_(state)
         , source_(state)
         , surface_(surface)
         , menu_(menu)
         , dictionary_(dictionary)
         , reader_(reader)
-        , host_(host)
+        , boxes_(boxes)
+        , pointer_(pointer)
+        , pendingEvents_(pendingEvents)
+        , reporting_(reporting)
         , hooks_(hooks) {}
 
     /// The checked entry. Every failed check goes to the sink in order; then the first is thrown.
@@ -60,7 +67,10 @@ private:
     MenuBar& menu_;
     Dictionary& dictionary_;
     RowReader& reader_;
-    Host& host_;
+    MessageBoxes& boxes_;
+    Pointer& pointer_;
+    PendingEvents& pendingEvents_;
+    Reporting reporting_;
     const LoadHooks& hooks_;
     bool loading_ = false;
     bool toldOnce_ = false; ///< a load asked for meanwhile has been refused with a box

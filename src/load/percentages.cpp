@@ -18,7 +18,7 @@ QString Percentages::PercentOfParent(const QString& field, int r, std::optional<
     } catch (const ControlDestroyed&) {
         throw;
     } catch (...) {
-        host_.msgBox(texts::percentFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::percentFailed(), kMsgBoxCritical);
     }
     return QStringLiteral("0.00");
 }
@@ -30,7 +30,7 @@ double Percentages::GroupValueSum(int level, const QString& name, int r) {
         throw;
     } catch (...) {
         if (!std::exchange(told_, true))
-            host_.msgBox(texts::subtotalsFailed(), kMsgBoxCritical);
+            boxes_.msgBox(texts::subtotalsFailed(), kMsgBoxCritical);
         return 0;
     }
 }

@@ -2,7 +2,7 @@
 
 #include "core/column_list.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "load/group_value_index.h"
 #include "surface/grid_surface.h"
 
@@ -13,11 +13,12 @@ namespace zkp {
 /// The share of a row's group in the group around it, from the records of a totals report.
 class Percentages {
 public:
-    Percentages(ReportState& state, const ColumnList& columns, const GridSurface& surface, Host& host)
+    Percentages(ReportState& state, const ColumnList& columns, const GridSurface& surface,
+                MessageBoxes& boxes)
         : state_(state)
         , columns_(columns)
         , surface_(surface)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// The share of the group that the keys of row `r` name to level + 1 in the one that they name to
     /// `level`, in "#0.00"; "0.00" with a point in every locale when either sum is 0, as wanted. The
@@ -36,7 +37,7 @@ private:
     ReportState& state_;
     const ColumnList& columns_;
     const GridSurface& surface_;
-    Host& host_;
+    MessageBoxes& boxes_;
     GroupValueIndex index_;
     bool told_ = false;
 };

@@ -3,7 +3,9 @@
 #include "core/column_properties.h"
 #include "core/events.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/message_boxes.h"
+#include "host/pointer.h"
 #include "load/cell_plan.h"
 #include "load/group_rows.h"
 #include "load/percentages.h"
@@ -20,14 +22,16 @@ namespace zkp {
 class RowReader {
 public:
     RowReader(ReportState& state, ColumnProperties& properties, const ColumnList& columns,
-              GridSurface& surface, Events& events, Host& host, GroupRows& groups, TotalsRows& totals,
-              Percentages& percentages)
+              GridSurface& surface, Events& events, MessageBoxes& boxes, Pointer& pointer,
+              const Reporting& reporting, GroupRows& groups, TotalsRows& totals, Percentages& percentages)
         : state_(state)
         , properties_(properties)
         , columns_(columns)
         , surface_(surface)
         , events_(events)
-        , host_(host)
+        , boxes_(boxes)
+        , pointer_(pointer)
+        , reporting_(reporting)
         , groups_(groups)
         , totals_(totals)
         , percentages_(percentages) {}
@@ -53,7 +57,9 @@ private:
     const ColumnList& columns_;
     GridSurface& surface_;
     Events& events_;
-    Host& host_;
+    MessageBoxes& boxes_;
+    Pointer& pointer_;
+    Reporting reporting_;
     GroupRows& groups_;
     TotalsRows& totals_;
     Percentages& percentages_;

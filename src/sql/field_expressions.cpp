@@ -34,7 +34,7 @@ QString FieldExpressions::makefldSql(const QString& FieldName, QString& Tables, 
             item += QStringLiteral(" AS [") + upper(FieldName) + u']';
         addTable(read(row, u"SourceTableName"), Tables);
     } catch (const std::exception&) {
-        host_.msgBox(texts::fieldItemFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::fieldItemFailed(), kMsgBoxCritical);
     }
     return item;
 }

@@ -75,7 +75,7 @@ void FilterTranslation::TranslateFilter(QString& Tables) {
         }
         inputs_.setFilter(filter);
     } catch (const std::exception&) {
-        host_.msgBox(texts::filterFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::filterFailed(), kMsgBoxCritical);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "sql/builder_inputs.h"
 
 namespace zkp {
@@ -9,9 +9,9 @@ namespace zkp {
 /// each dictionary row; what they don't match passes unchanged.
 class FilterTranslation {
 public:
-    FilterTranslation(BuilderInputs& inputs, Host& host)
+    FilterTranslation(BuilderInputs& inputs, MessageBoxes& boxes)
         : inputs_(inputs)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// Overwrites `Filter`; `Tables` gains the tables that the filter needs. On a failure a box shows
     /// and `Filter` stays.
@@ -21,7 +21,7 @@ private:
     QString startingText() const;
 
     BuilderInputs& inputs_;
-    Host& host_;
+    MessageBoxes& boxes_;
 };
 
 /// One dictionary row's fourteen replacements of a key by its physical text, in their fixed order. False

@@ -25,7 +25,7 @@ QString Joins::MakeFromAndJoins(QString& Tables) {
             from = left + QStringLiteral(" LEFT JOIN [") + table + QStringLiteral("] ON ") + condition;
         }
     } catch (const std::exception&) {
-        host_.msgBox(texts::fromFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::fromFailed(), kMsgBoxCritical);
     }
     return from;
 }
@@ -45,7 +45,7 @@ QString Joins::FindJoinON(const QString& Table) {
         return u'[' + nameKey(state.MasterTable) + QStringLiteral("].[") + masterKey +
                QStringLiteral("] = [") + nameKey(Table) + QStringLiteral("].[") + foreignKey + u']';
     } catch (const std::exception&) {
-        host_.msgBox(texts::joinFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::joinFailed(), kMsgBoxCritical);
         return {};
     }
 }

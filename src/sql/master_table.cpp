@@ -24,7 +24,7 @@ void MasterTableLookup::FindMaster() {
         state.RKeyname = textOrEmpty(row.Fields().Item(u"RKeyname").Value());
         state.MasterFilter = textOrEmpty(row.Fields().Item(u"MasterFilter").Value());
     } catch (const std::exception&) {
-        host_.msgBox(texts::masterTableFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::masterTableFailed(), kMsgBoxCritical);
     }
 }
 

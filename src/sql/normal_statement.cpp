@@ -34,7 +34,7 @@ QString NormalStatement::NormalSQL() {
         if (!isBlank(order))
             statement += QStringLiteral(" order by ") + order;
     } catch (const std::exception&) {
-        host_.msgBox(texts::normalFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::normalFailed(), kMsgBoxCritical);
     }
     return statement;
 }

@@ -10,7 +10,7 @@ QString PercentageStatement::RunTimePosSql() {
     try {
         return build();
     } catch (const std::exception&) {
-        host_.msgBox(texts::percentagesFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::percentagesFailed(), kMsgBoxCritical);
         return {};
     }
 }

@@ -24,7 +24,7 @@ QString RunTimeStatement::RunTimeSQL() {
         if (!isBlank(order))
             statement += QStringLiteral(" Order By ") + order;
     } catch (const std::exception&) {
-        host_.msgBox(texts::runTimeFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::runTimeFailed(), kMsgBoxCritical);
     }
     inputs_.state.SQLRun = statement;
     return statement;
@@ -39,7 +39,7 @@ QString RunTimeStatement::RunTimeSQLCounter() {
         return QStringLiteral("SELECT Count(*) As Cnt FROM ") + from + QStringLiteral(" Where ") +
                inputs_.state.Filter;
     } catch (const std::exception&) {
-        host_.msgBox(texts::counterFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::counterFailed(), kMsgBoxCritical);
         return {};
     }
 }

@@ -49,7 +49,7 @@ QString StatisticsStatement::RunTimeStatsSQL() {
             return {}; // `SQLRun` keeps the statement before
         statement = build(tables);
     } catch (const std::exception&) {
-        host_.msgBox(texts::statisticsFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::statisticsFailed(), kMsgBoxCritical);
     }
     inputs_.state.SQLRun = statement;
     return statement;

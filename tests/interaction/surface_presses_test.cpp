@@ -239,6 +239,7 @@ protected:
     Events events;
     ChildControls children;
     ScriptedHost host;
+    Reporting reporting{state, host};
     LoadHooks hooks;
     GridSurface& surface = children.MSFlexGrid1;
     ColumnProperties properties{columns, surface, events};
@@ -246,16 +247,25 @@ protected:
     KeyColumn key{state, columns, surface};
     FontWriter fonts{state, surface, events};
     RowMarking marking{state, key, surface, events};
-    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host};
+    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host, reporting};
     Dictionary dictionary{state};
     EmptyReport empty{state, properties, surface, children.Picture1, dictionary, host, hooks};
     MenuState menus{state, columns, properties, surface, children.Picture1, dictionary};
     SelectionEvents selection{state, key, surface, events, marking, drawing, menus, host, {}};
-    HeadingDrag drag{state, columns, properties, flags, surface, host, {[] {}, [] {}}};
-    SurfaceEvents events_{
-        state,  properties, surface, children.Picture1,
-        events, dictionary, empty,   menus,
-        drag,   selection,  host,    [this] { log << u"chart of %1"_s.arg(state.LastClickedCol); }};
+    HeadingDrag drag{state, columns, properties, flags, surface, host, host, reporting, {[] {}, [] {}}};
+    SurfaceEvents events_{state,
+                          properties,
+                          surface,
+                          children.Picture1,
+                          events,
+                          dictionary,
+                          empty,
+                          menus,
+                          drag,
+                          selection,
+                          host,
+                          reporting,
+                          [this] { log << u"chart of %1"_s.arg(state.LastClickedCol); }};
 };
 
 TEST_F(ClickTest, AClickUpToTheFirstColumnBehindTheFactorsChartsAgainBeforeItIsRaised) {

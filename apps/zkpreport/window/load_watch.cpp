@@ -37,43 +37,25 @@ void LoadWatch::note() {
 
 int LoadWatch::msgBox(const QString& text, int style, const QString& title) {
     sawBox_ = true;
-    return host_->msgBox(text, style, title);
+    return host_->boxes().msgBox(text, style, title);
 }
 
 std::optional<QString> LoadWatch::inputBox(const QString& prompt, const QString& title, const QString& text) {
-    return host_->inputBox(prompt, title, text);
-}
-
-std::optional<QString> LoadWatch::saveDialog(const QString& title, const QString& filter,
-                                             const QString& fileName) {
-    return host_->saveDialog(title, filter, fileName);
-}
-
-std::optional<std::uint32_t> LoadWatch::colorDialog(std::uint32_t start) {
-    return host_->colorDialog(start);
-}
-
-std::optional<FontChoice> LoadWatch::fontDialog(const FontChoice& start) {
-    return host_->fontDialog(start);
-}
-
-int LoadWatch::shellOpen(const QString& file, const QString& verb, const QString& parameters,
-                         const QString& directory, int windowMode) {
-    return host_->shellOpen(file, verb, parameters, directory, windowMode);
+    return host_->boxes().inputBox(prompt, title, text);
 }
 
 /// An empty report shows itself by the pointer alone.
 void LoadWatch::setPointer(int pointer) {
     if (pointer == kPointerDefault)
         note();
-    host_->setPointer(pointer);
+    host_->screenPointer().setPointer(pointer);
 }
 
 void LoadWatch::runPendingEvents() {
     note();
     const bool before = std::exchange(isLettingEventsIn_, true);
     const ScopeGuard restore([&] { isLettingEventsIn_ = before; });
-    host_->runPendingEvents();
+    host_->pendingEvents().runPendingEvents();
 }
 
 } // namespace zkp::app

@@ -14,10 +14,11 @@ namespace zkp::app {
 /// database received for the records, how long that took, and whether a box was shown. A load sends
 /// further statements after the one that matters, so the note is taken at the control's first sign
 /// after the records are there.
-class LoadWatch : public Host {
+class LoadWatch : public Host, public MessageBoxes, public Pointer, public PendingEvents {
 public:
     explicit LoadWatch(std::shared_ptr<Host> host)
-        : host_(std::move(host)) {}
+        : Host(host)
+        , host_(std::move(host)) {}
 
     /// Told when a load begins.
     std::function<void()> began;
@@ -32,17 +33,14 @@ public:
     /// True while a load lets events in: the report is neither the old one nor the new one.
     bool isLettingEventsIn() const { return isLettingEventsIn_; }
 
+    MessageBoxes& boxes() override { return *this; }
+    Pointer& screenPointer() override { return *this; }
+    PendingEvents& pendingEvents() override { return *this; }
+
     int msgBox(const QString& text, int style, const QString& title) override;
     std::optional<QString> inputBox(const QString& prompt, const QString& title,
                                     const QString& text) override;
-    std::optional<QString> saveDialog(const QString& title, const QString& filter,
-                                      const QString& fileName) override;
-    std::optional<std::uint32_t> colorDialog(std::uint32_t start) override;
-    std::optional<FontChoice> fontDialog(const FontChoice& start) override;
-    void beep() override { host_->beep(); }
-    int shellOpen(const QString& file, const QString& verb, const QString& parameters,
-                  const QString& directory, int windowMode) override;
-    int pointer() const override { return host_->pointer(); }
+    int pointer() const override { return host_->screenPointer().pointer(); }
     void setPointer(int pointer) override;
     void runPendingEvents() override;
 

@@ -102,9 +102,9 @@ void ReportTools::showReport(ZkpGridWidget* report) {
 void ReportTools::copy() {
     if (!report_)
         return;
-    const int pointer = host_.pointer();
-    const ScopeGuard restore([&] { host_.setPointer(pointer); });
-    host_.setPointer(kPointerHourglass);
+    const int pointer = host_.screenPointer().pointer();
+    const ScopeGuard restore([&] { host_.screenPointer().setPointer(pointer); });
+    host_.screenPointer().setPointer(kPointerHourglass);
     ZkpGrid& grid = report_->grid();
     QStringList headings;
     for (int c = 0; c < grid.Cols(); ++c)
