@@ -32,6 +32,7 @@
 #include "sql/percentage_statement.h"
 #include "sql/settings_store.h"
 #include "sql/statement_dispatch.h"
+#include "sql/user_filter.h"
 #include "template/template_store.h"
 #include "zkp_grid.h"
 
@@ -71,6 +72,7 @@ struct ZkpGrid::Parts {
     MasterTableLookup masterTable;
     Joins joins;
     FilterTranslation translation;
+    UserFilter userFilter;
     RunTimeStatement runTime;
     NormalStatement normal;
     GroupedStatement grouped;

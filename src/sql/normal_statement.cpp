@@ -18,6 +18,7 @@ QString bracketed(const QString& name) {
 QString NormalStatement::NormalSQL() {
     QString statement;
     try {
+        inputs_.beginFilter();
         if (isBlank(inputs_.state.Filter))
             inputs_.setFilter(QStringLiteral(" true "));
         const QString fields = selectList();

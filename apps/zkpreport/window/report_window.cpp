@@ -214,10 +214,10 @@ bool ReportWindow::openReport(const QString& filter) {
             return false;
         showTitle();
         reconnectDatabase();
-        const UserFilter checked = reportFilter(*report, connection_, filter);
+        const ReportFilter checked = reportFilter(*report, connection_, filter);
         if (!checked.isAccepted()) {
             filter_->setText(filter);
-            setMessage(checked.failure);
+            setMessage(checked.refusal);
             return false;
         }
         filter_->setInForce(filter);
@@ -319,7 +319,7 @@ void ReportWindow::sortByCurrentColumn() {
     }
     guarded([&] {
         reconnectDatabase();
-        const UserFilter filter = reportFilter(*report, connection_, filter_->inForce());
+        const ReportFilter filter = reportFilter(*report, connection_, filter_->inForce());
         return tell(sortReport(grid(), *host_, filter.text, sort_));
     });
 }

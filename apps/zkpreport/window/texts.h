@@ -335,34 +335,4 @@ inline QString loadFigures(const QString& records, const QString& statementMs, c
     return QStringLiteral("%1 εγγραφές · εντολή %2 ms · φόρτωση %3 ms").arg(records, statementMs, wholeMs);
 }
 
-// Why a filter is refused.
-inline QString commentInFilter() {
-    return QStringLiteral("Το φίλτρο δεν μπορεί να έχει σχόλια (--, /*, */).");
-}
-inline QString statementEndInFilter() {
-    return QStringLiteral("Το φίλτρο δεν μπορεί να έχει ; έξω από εισαγωγικά.");
-}
-inline QString signInFilter(QChar sign) {
-    return sign < u' ' ? QStringLiteral("Το φίλτρο έχει χαρακτήρα ελέγχου.")
-                       : QStringLiteral("Το φίλτρο δεν μπορεί να έχει το σημείο %1 εδώ.").arg(sign);
-}
-inline QString quoteLeftOpen() {
-    return QStringLiteral("Λείπει το εισαγωγικό που κλείνει.");
-}
-inline QString bracketLeftOpen() {
-    return QStringLiteral("Λείπει η παρένθεση που κλείνει.");
-}
-inline QString bracketClosedFirst() {
-    return QStringLiteral("Μια παρένθεση κλείνει χωρίς να έχει ανοίξει.");
-}
-inline QString nameLeftOpen() {
-    return QStringLiteral("Λείπει η αγκύλη που κλείνει.");
-}
-inline QString nameClosedFirst() {
-    return QStringLiteral("Μια αγκύλη κλείνει χωρίς να έχει ανοίξει.");
-}
-inline QString keyInConstant() {
-    return QStringLiteral("Το φίλτρο έχει κλειδί μέσα σε εισαγωγικά ή αγκύλες και δεν μεταφράζεται σωστά.");
-}
-
 } // namespace zkp::app::texts
