@@ -5,8 +5,8 @@
 
 #include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
-#include "window/report_find.h"
-#include "window/selection_status.h"
+#include "widgets/tools/report_find.h"
+#include "widgets/tools/selection_status.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/selection_sums.h"
+#include "widgets/tools/selection_sums.h"
 
 #include <QLabel>
 #include <QPointer>

@@ -1,6 +1,6 @@
-#include "window/find_search.h"
+#include "widgets/tools/find_search.h"
 
-#include "window/selected_block.h"
+#include "widgets/tools/selected_block.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "window/find_search.h"
+#include "widgets/tools/find_search.h"
 
 #include "print_qt.h"
 

@@ -1,6 +1,6 @@
-#include "window/find_line.h"
+#include "widgets/tools/find_line.h"
 
-#include "window/texts.h"
+#include "base/texts_tools.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
-#include "window/reshape_history.h"
+#include "widgets/tools/reshape_history.h"
 
-#include "window/reshape_step.h"
+#include "widgets/tools/reshape_step.h"
 
 #include <utility>
 

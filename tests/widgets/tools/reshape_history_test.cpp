@@ -1,4 +1,4 @@
-#include "window/reshape_history.h"
+#include "widgets/tools/reshape_history.h"
 
 #include "grid_fixture.h"
 

@@ -1,4 +1,4 @@
-#include "window/find_marks.h"
+#include "widgets/tools/find_marks.h"
 
 #include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/reshape_snapshot.h"
+#include "widgets/tools/reshape_snapshot.h"
 
 #include <deque>
 

@@ -1,9 +1,9 @@
-#include "window/selection_sums.h"
+#include "widgets/tools/selection_sums.h"
 
+#include "base/texts_tools.h"
 #include "core/enums.h"
 #include "print_qt.h"
-#include "window/selected_block.h"
-#include "window/texts.h"
+#include "widgets/tools/selected_block.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "window/selected_block.h"
+#include "widgets/tools/selected_block.h"
 
 #include "widgets/grid/surface_selection.h"
 

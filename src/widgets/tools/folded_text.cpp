@@ -1,4 +1,4 @@
-#include "window/folded_text.h"
+#include "widgets/tools/folded_text.h"
 
 #include <array>
 #include <memory>

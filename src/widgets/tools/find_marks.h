@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/find_search.h"
+#include "widgets/tools/find_search.h"
 
 #include <QWidget>
 

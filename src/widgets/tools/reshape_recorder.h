@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/reshape_history.h"
+#include "widgets/tools/reshape_history.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,14 +1,13 @@
-#include "window/load_progress.h"
+#include "widgets/tools/load_progress.h"
 
+#include "base/texts_tools.h"
 #include "print_qt.h"
-#include "window/texts.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using zkp::app::FetchFigures;
-namespace texts = zkp::app::texts;
 
 TEST(FetchFigures, TheRateIsThatSinceTheFirstReport) {
     FetchFigures figures;

@@ -1,9 +1,9 @@
-#include "window/selection_status.h"
+#include "widgets/tools/selection_status.h"
 
+#include "base/texts_tools.h"
 #include "widgets/grid/grid_view.h"
+#include "widgets/tools/selected_block.h"
 #include "widgets/zkp_grid_widget.h"
-#include "window/selected_block.h"
-#include "window/texts.h"
 
 #include <QElapsedTimer>
 

@@ -1,6 +1,6 @@
-#include "window/load_progress.h"
+#include "widgets/tools/load_progress.h"
 
-#include "window/texts.h"
+#include "base/texts_tools.h"
 
 #include <QLocale>
 #include <QTimer>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "surface/grid_surface.h"
-#include "window/folded_text.h"
+#include "widgets/tools/folded_text.h"
 
 #include <vector>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "window/find_line.h"
-#include "window/find_marks.h"
-#include "window/find_search.h"
+#include "widgets/tools/find_line.h"
+#include "widgets/tools/find_marks.h"
+#include "widgets/tools/find_search.h"
 
 #include <QPointer>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "window/reshape_recorder.h"
+#include "widgets/tools/reshape_recorder.h"
 
 #include "base/scope_guard.h"
 #include "widgets/grid/grid_view.h"

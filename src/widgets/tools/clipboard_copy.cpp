@@ -1,7 +1,7 @@
-#include "window/clipboard_copy.h"
+#include "widgets/tools/clipboard_copy.h"
 
 #include "core/enums.h"
-#include "window/selected_block.h"
+#include "widgets/tools/selected_block.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "window/reshape_snapshot.h"
+#include "widgets/tools/reshape_snapshot.h"
 
 #include <array>
 

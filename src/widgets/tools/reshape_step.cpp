@@ -1,6 +1,6 @@
-#include "window/reshape_step.h"
+#include "widgets/tools/reshape_step.h"
 
-#include "window/texts.h"
+#include "base/texts_tools.h"
 
 #include <QStringList>
 

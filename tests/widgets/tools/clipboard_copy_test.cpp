@@ -1,4 +1,4 @@
-#include "window/clipboard_copy.h"
+#include "widgets/tools/clipboard_copy.h"
 
 #include "core/enums.h"
 #include "print_qt.h"

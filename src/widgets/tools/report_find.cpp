@@ -1,9 +1,9 @@
-#include "window/report_find.h"
+#include "widgets/tools/report_find.h"
 
 #include "base/error.h"
+#include "base/texts_tools.h"
 #include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
-#include "window/texts.h"
 
 #include <QElapsedTimer>
 
