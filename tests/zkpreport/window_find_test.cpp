@@ -10,14 +10,12 @@
 namespace {
 
 using namespace zkp;
-using zkp::app::FindMarks;
-using zkp::app::FoundCell;
 
 class WindowFind : public WindowTest {
 protected:
     QLineEdit& edit() { return part<QLineEdit>("findText"); }
     QString note() { return part<QLabel>("findNote").text(); }
-    app::FindLine& line() { return *window->findChild<app::FindLine*>(); }
+    FindLine& line() { return *window->findChild<FindLine*>(); }
     FindMarks* marks() { return window->findChild<FindMarks*>(); }
 
     void openFind() {

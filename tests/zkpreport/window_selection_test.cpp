@@ -1,5 +1,4 @@
 #include "base/texts_tools.h"
-#include "widgets/tools/selected_block.h"
 #include "window_fixture.h"
 
 #include <QAction>

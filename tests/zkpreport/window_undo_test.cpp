@@ -12,7 +12,6 @@
 namespace {
 
 using namespace zkp;
-using zkp::app::ReshapeSnapshot;
 namespace texts = zkp::app::texts;
 
 const QString kPremium = QStringLiteral("PREMIUM");

@@ -1,7 +1,7 @@
 #include "widgets/tools/clipboard_copy.h"
 
 #include "core/enums.h"
-#include "widgets/tools/selected_block.h"
+#include "widgets/grid/surface_selection.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -9,7 +9,7 @@
 
 #include <algorithm>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -138,4 +138,4 @@ void putOnClipboard(const CopiedCells& cells) {
     QGuiApplication::clipboard()->setMimeData(data);
 }
 
-} // namespace zkp::app
+} // namespace zkp

@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-namespace zkp::app {
+namespace zkp {
 
 /// Cells of a report as other programs take them.
 struct CopiedCells {
@@ -23,4 +23,4 @@ CopiedCells copySelection(const GridSurface& surface, const QStringList& heading
 /// Puts them on the clipboard; nothing when there are none.
 void putOnClipboard(const CopiedCells& cells);
 
-} // namespace zkp::app
+} // namespace zkp

@@ -9,7 +9,7 @@
 #include <QStyle>
 #include <QToolButton>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -102,4 +102,4 @@ void FindLine::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-} // namespace zkp::app
+} // namespace zkp

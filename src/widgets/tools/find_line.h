@@ -5,7 +5,7 @@
 class QLabel;
 class QLineEdit;
 
-namespace zkp::app {
+namespace zkp {
 
 /// The line at the bottom in which a text to look for is typed. Enter, F3 and the arrows go to the next
 /// hit, with Shift to the one before; Escape closes it.
@@ -35,4 +35,4 @@ private:
     QLabel* note_;
 };
 
-} // namespace zkp::app
+} // namespace zkp

@@ -7,7 +7,7 @@
 #include <QPainter>
 #include <QScrollBar>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -109,4 +109,4 @@ void FindMarks::paintEvent(QPaintEvent*) {
     painter.drawRect(found.adjusted(1, 1, -kEdge, -kEdge));
 }
 
-} // namespace zkp::app
+} // namespace zkp

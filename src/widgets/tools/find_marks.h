@@ -5,10 +5,8 @@
 #include <QWidget>
 
 namespace zkp {
-class ZkpGridWidget;
-}
 
-namespace zkp::app {
+class ZkpGridWidget;
 
 /// Shows the hits of a search on the rows that stand on screen, the found one stronger: a clear sheet
 /// over the report. It writes no style, so that nothing has to be put back.
@@ -37,4 +35,4 @@ private:
     FoundCell found_;
 };
 
-} // namespace zkp::app
+} // namespace zkp

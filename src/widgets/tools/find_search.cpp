@@ -1,10 +1,10 @@
 #include "widgets/tools/find_search.h"
 
-#include "widgets/tools/selected_block.h"
+#include "widgets/grid/surface_selection.h"
 
 #include <algorithm>
 
-namespace zkp::app {
+namespace zkp {
 
 void FindSearch::start(const FoldedNeedle& needle, FoundCell from, bool forward, bool withFirst) {
     needle_ = needle;
@@ -77,4 +77,4 @@ int FindSearch::percent() const {
     return total_ == 0 ? 100 : static_cast<int>((total_ - left_) * 100 / total_);
 }
 
-} // namespace zkp::app
+} // namespace zkp

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace zkp::app {
+namespace zkp {
 
 /// A cell by row and column of the surface.
 struct FoundCell {
@@ -58,4 +58,4 @@ private:
     FoundCell found_;
 };
 
-} // namespace zkp::app
+} // namespace zkp

@@ -3,7 +3,7 @@
 #include <array>
 #include <memory>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -63,4 +63,4 @@ bool FoldedNeedle::isIn(QStringView text) const {
     return text_.contains(needle_);
 }
 
-} // namespace zkp::app
+} // namespace zkp

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace zkp::app {
+namespace zkp {
 
 /// A character as a search compares it: a capital, without accents, breathings and dialytika; 0 for a
 /// mark that stands by itself. All sigmas are one, and all blanks.
@@ -23,4 +23,4 @@ private:
     mutable QString text_; // kept for its room
 };
 
-} // namespace zkp::app
+} // namespace zkp

@@ -5,7 +5,7 @@
 #include <QLocale>
 #include <QTimer>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -75,4 +75,4 @@ void LoadProgress::show(const QString& text) {
     label_->repaint();
 }
 
-} // namespace zkp::app
+} // namespace zkp

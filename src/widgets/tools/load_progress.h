@@ -7,7 +7,7 @@
 
 #include <cstdint>
 
-namespace zkp::app {
+namespace zkp {
 
 /// The figures of a fetch that goes on: rows read so far, and how many a second.
 class FetchFigures {
@@ -49,4 +49,4 @@ private:
     FetchFigures figures_;
 };
 
-} // namespace zkp::app
+} // namespace zkp

@@ -7,7 +7,7 @@
 
 #include <QElapsedTimer>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -170,4 +170,4 @@ void ReportFind::showFound(FoundCell cell) {
         marks_->setFound(cell);
 }
 
-} // namespace zkp::app
+} // namespace zkp

@@ -10,7 +10,7 @@
 #include <functional>
 #include <optional>
 
-namespace zkp::app {
+namespace zkp {
 
 /// Finding in a report: the line, the search that goes on in slices of a few milliseconds, and the
 /// marks. Typing on begins anew from the cell where the line was opened.
@@ -52,4 +52,4 @@ private:
     QTimer timer_;
 };
 
-} // namespace zkp::app
+} // namespace zkp

@@ -4,7 +4,7 @@
 
 #include <utility>
 
-namespace zkp::app {
+namespace zkp {
 
 void ReshapeHistory::begin(ReshapeSnapshot now) {
     now_ = std::move(now);
@@ -60,4 +60,4 @@ const ReshapeSnapshot& ReshapeHistory::redo() {
     return now_;
 }
 
-} // namespace zkp::app
+} // namespace zkp

@@ -4,7 +4,7 @@
 
 #include <deque>
 
-namespace zkp::app {
+namespace zkp {
 
 /// The shapes that a report has had, for undo and redo: those before where it stands, and those that were
 /// undone. It holds values only and changes no report.
@@ -43,4 +43,4 @@ private:
     int typedCaption_ = -1; // the column whose caption the last step has typed
 };
 
-} // namespace zkp::app
+} // namespace zkp

@@ -6,7 +6,7 @@
 
 #include <QApplication>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -134,4 +134,4 @@ void ReshapeRecorder::drawAgain(ZkpGrid& grid) {
     grid.MenuRefresh();
 }
 
-} // namespace zkp::app
+} // namespace zkp

@@ -9,10 +9,8 @@
 #include <functional>
 
 namespace zkp {
-class ZkpGridWidget;
-}
 
-namespace zkp::app {
+class ZkpGridWidget;
 
 /// Watches a control for steps of reshaping and takes them back. The control tells of changes one by
 /// one; all that happen until events are let in again are one step. A box or dialog that stands open
@@ -63,4 +61,4 @@ private:
     bool isBringingBack_ = false;
 };
 
-} // namespace zkp::app
+} // namespace zkp

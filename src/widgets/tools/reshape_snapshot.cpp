@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -132,7 +132,7 @@ void restoreColumn(ZkpGrid& grid, int c, const ColumnSnapshot& column) {
 
 ReshapeSnapshot ReshapeSnapshot::of(ZkpGrid& grid) {
     ReshapeSnapshot snapshot;
-    for (const Property& property : zkp::app::properties())
+    for (const Property& property : zkp::properties())
         snapshot.properties.push_back(property.read(grid));
     snapshot.columns = columnsOf(grid);
     snapshot.refreshesOnChange = grid.RefreshOnChange();
@@ -140,7 +140,7 @@ ReshapeSnapshot ReshapeSnapshot::of(ZkpGrid& grid) {
 }
 
 void ReshapeSnapshot::restore(ZkpGrid& grid) const {
-    const auto& all = zkp::app::properties();
+    const auto& all = zkp::properties();
     for (std::size_t i = 0; i < all.size(); ++i)
         if (all[i].read(grid) != properties[i])
             all[i].write(grid, properties[i]);
@@ -183,4 +183,4 @@ int ReshapeSnapshot::onlyCaptionOf(const ReshapeSnapshot& other) const {
     return found;
 }
 
-} // namespace zkp::app
+} // namespace zkp

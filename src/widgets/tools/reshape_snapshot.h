@@ -6,7 +6,7 @@
 
 #include <vector>
 
-namespace zkp::app {
+namespace zkp {
 
 /// One column: its record, and what the surface has of it.
 struct ColumnSnapshot {
@@ -38,4 +38,4 @@ struct ReshapeSnapshot {
     int onlyCaptionOf(const ReshapeSnapshot& other) const;
 };
 
-} // namespace zkp::app
+} // namespace zkp

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -48,4 +48,4 @@ QString stepName(const ReshapeSnapshot& before, const ReshapeSnapshot& after) {
     return before.hasSameRows(after) ? stepOfColumns(before, after) : texts::stepRows();
 }
 
-} // namespace zkp::app
+} // namespace zkp

@@ -2,9 +2,9 @@
 
 #include "widgets/tools/reshape_snapshot.h"
 
-namespace zkp::app {
+namespace zkp {
 
 /// What a step of reshaping was, in a few words for a menu.
 QString stepName(const ReshapeSnapshot& before, const ReshapeSnapshot& after);
 
-} // namespace zkp::app
+} // namespace zkp

@@ -2,12 +2,12 @@
 
 #include "base/texts_tools.h"
 #include "widgets/grid/grid_view.h"
-#include "widgets/tools/selected_block.h"
+#include "widgets/grid/surface_selection.h"
 #include "widgets/zkp_grid_widget.h"
 
 #include <QElapsedTimer>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -83,4 +83,4 @@ void SelectionStatus::slice() {
     label_.setText(sums_->text());
 }
 
-} // namespace zkp::app
+} // namespace zkp

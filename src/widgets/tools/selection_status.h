@@ -10,10 +10,8 @@
 #include <optional>
 
 namespace zkp {
-class ZkpGridWidget;
-}
 
-namespace zkp::app {
+class ZkpGridWidget;
 
 /// Sum, count and average of the selected cells on a label, worked out in slices of a few milliseconds.
 /// One cell alone has none.
@@ -40,4 +38,4 @@ private:
     QTimer timer_;
 };
 
-} // namespace zkp::app
+} // namespace zkp

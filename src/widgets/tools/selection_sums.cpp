@@ -3,11 +3,11 @@
 #include "base/format.h"
 #include "base/texts_tools.h"
 #include "core/enums.h"
-#include "widgets/tools/selected_block.h"
+#include "widgets/grid/surface_selection.h"
 
 #include <QLocale>
 
-namespace zkp::app {
+namespace zkp {
 
 namespace {
 
@@ -114,4 +114,4 @@ QString SelectionSums::text() const {
     return leavesOut ? texts::withoutSummaries(text) : text;
 }
 
-} // namespace zkp::app
+} // namespace zkp

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace zkp::app {
+namespace zkp {
 
 /// Adds up the numbers that a block of cells shows, a few cells at a time. Rows of subtotals and totals
 /// count in a block of nothing else: beside the rows that they sum they would count these twice. Hidden
@@ -50,4 +50,4 @@ QString exactText(const Decimal& number, const ReportLocale& locale);
 /// A sum divided by a count, rounded half away from zero to the sum's decimals, two at least.
 QString averageText(const Decimal& sum, std::int64_t count, const ReportLocale& locale);
 
-} // namespace zkp::app
+} // namespace zkp

@@ -8,7 +8,6 @@
 namespace {
 
 using namespace zkp;
-using namespace zkp::app;
 
 const QStringList kHeadings{QStringLiteral("Πόλη"), QStringLiteral("Ποσό"), QStringLiteral("Σημείωση")};
 

@@ -7,7 +7,6 @@
 namespace {
 
 using namespace zkp;
-using namespace zkp::app;
 using State = FindSearch::State;
 
 bool isFound(const char* needle, const char* text) {

@@ -7,7 +7,7 @@
 
 namespace {
 
-using zkp::app::FetchFigures;
+using zkp::FetchFigures;
 
 TEST(FetchFigures, TheRateIsThatSinceTheFirstReport) {
     FetchFigures figures;

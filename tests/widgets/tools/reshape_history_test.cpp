@@ -7,7 +7,6 @@
 namespace {
 
 using namespace zkp;
-using namespace zkp::app;
 
 /// A control of three columns, the first of them a group factor; no data.
 class ReshapeTest : public GridTest {

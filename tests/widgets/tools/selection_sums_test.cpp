@@ -3,14 +3,13 @@
 #include "base/texts_tools.h"
 #include "core/enums.h"
 #include "print_qt.h"
-#include "widgets/tools/selected_block.h"
+#include "widgets/grid/surface_selection.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
 using namespace zkp;
-using namespace zkp::app;
 
 class SelectionSumsTest : public testing::Test {
 protected:
