@@ -8,6 +8,7 @@
 namespace {
 
 using zkp::FetchFigures;
+namespace texts = zkp::texts;
 
 TEST(FetchFigures, TheRateIsThatSinceTheFirstReport) {
     FetchFigures figures;
