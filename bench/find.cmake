@@ -1,4 +1,4 @@
-if(TARGET zkpreport_lib)
+if(TARGET zkpgrid-widgets)
   add_executable(find_bench ${PROJECT_SOURCE_DIR}/bench/find_bench.cpp ${PROJECT_SOURCE_DIR}/bench/paint_data.h)
-  target_link_libraries(find_bench PRIVATE zkpreport_lib)
+  target_link_libraries(find_bench PRIVATE ZkpGrid::Widgets)
 endif()

@@ -1,12 +1,12 @@
-// Finding and summing in the window of zkpreport: how long until the end, against a plain loop over the
+// Finding and summing in a report: how long until the end, against a plain loop over the
 // same cells, and how long events wait meanwhile.
 
 #include "paint_data.h"
 
 #include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
-#include "window/report_find.h"
-#include "window/selection_status.h"
+#include "widgets/tools/report_find.h"
+#include "widgets/tools/selection_status.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -54,8 +54,8 @@ void tell(const char* what, double start, const Waited& waited, double raw) {
 
 void measureFind(ZkpGridWidget& report, int rows) {
     GridSurface& surface = report.grid().MSFlexGrid1();
-    app::FindLine line;
-    app::ReportFind find(line, [] { return false; });
+    FindLine line;
+    ReportFind find(line, [] { return false; });
     line.show();
     find.setReport(&report);
     find.open();
@@ -86,7 +86,7 @@ void measureFind(ZkpGridWidget& report, int rows) {
 void measureSums(ZkpGridWidget& report, int rows) {
     GridSurface& surface = report.grid().MSFlexGrid1();
     QLabel label;
-    app::SelectionStatus status(label, [] { return false; });
+    SelectionStatus status(label, [] { return false; });
     status.setReport(&report);
     constexpr int kAmounts = 6; // the first column of amounts
     Decimal sum;

@@ -1,5 +1,6 @@
 # Install rules: the libraries, the headers that a host includes, the program, and a package so that
-# find_package(ZkpGrid) gives ZkpGrid::Engine and, where the face was built, ZkpGrid::Widgets.
+# find_package(ZkpGrid) gives ZkpGrid::Engine and, where the face was built, ZkpGrid::Widgets;
+# find_package(ZkpGrid COMPONENTS Script) gives ZkpGrid::Script too.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -7,17 +8,37 @@ set(source_dir ${PROJECT_SOURCE_DIR}/src)
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ZkpGrid)
 
 # What a host includes; the headers that these include are installed with them.
-set(public_headers zkp_grid.h ado/connection.h ado/command.h ado/field.h base/texts.h base/value.h
-    host/scripted_host.h)
+set(public_headers
+  zkp_grid.h
+  ado/connection.h ado/command.h ado/constants.h ado/field.h ado/recordset.h
+  bag/property_bag.h bag/property_bag_text.h
+  base/currency.h base/error.h base/format.h base/number.h base/scope_guard.h base/text.h base/texts.h
+  base/value.h
+  host/error_box.h host/scripted_host.h
+  sql/query_exists.h
+  template/template_name.h template/template_rows.h)
 set(libraries zkpgrid)
 set(qt_components Core)
 set_target_properties(zkpgrid PROPERTIES EXPORT_NAME Engine)
 target_compile_features(zkpgrid PUBLIC cxx_std_20)
 if(TARGET zkpgrid-widgets)
-  list(APPEND public_headers widgets/zkp_grid_widget.h widgets/qt_host.h)
+  list(APPEND public_headers
+    widgets/qt_host.h
+    widgets/zkp_grid_widget.h
+    widgets/band/band_bar.h
+    widgets/grid/grid_view.h widgets/grid/palette_colors.h
+    widgets/tools/clipboard_copy.h
+    widgets/tools/load_progress.h
+    widgets/tools/report_find.h
+    widgets/tools/reshape_recorder.h
+    widgets/tools/selection_status.h)
   list(APPEND libraries zkpgrid-widgets)
   list(APPEND qt_components Svg Widgets)
   set_target_properties(zkpgrid-widgets PROPERTIES EXPORT_NAME Widgets)
+endif()
+if(TARGET zkpgrid-script)
+  list(APPEND public_headers script/script_runner.h)
+  set_target_properties(zkpgrid-script PROPERTIES EXPORT_NAME Script)
 endif()
 
 # Installs a header in its folder, and those that it includes, each once.
@@ -36,9 +57,15 @@ while(public_headers)
   list(APPEND public_headers ${includes})
 endwhile()
 
-install(TARGETS ${libraries} EXPORT ZkpGridTargets ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-        LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zkpgrid)
-install(EXPORT ZkpGridTargets NAMESPACE ZkpGrid:: DESTINATION ${package_dir})
+function(zkp_install_libraries export)
+  install(TARGETS ${ARGN} EXPORT ${export} ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+          LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zkpgrid)
+  install(EXPORT ${export} NAMESPACE ZkpGrid:: DESTINATION ${package_dir})
+endfunction()
+zkp_install_libraries(ZkpGridTargets ${libraries})
+if(TARGET zkpgrid-script)
+  zkp_install_libraries(ZkpGridScriptTargets zkpgrid-script)
+endif()
 list(JOIN qt_components " " qt_components)
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ZkpGridConfig.cmake.in
   ${PROJECT_BINARY_DIR}/ZkpGridConfig.cmake INSTALL_DESTINATION ${package_dir})

@@ -1,28 +1,16 @@
 #include "core/group_columns.h"
 
-#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/text.h"
-#include "host/error_box.h"
 
 #include <algorithm>
 
 namespace zkp {
 
 void GroupColumns::InsertColumn(int whereisit) {
-    host_.setPointer(kPointerHourglass);
-    try {
-        insertEmptyColumn(whereisit);
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        notes_.failed(error);
-        ShowError(host_, error);
-        return;
-    }
-    host_.setPointer(kPointerDefault);
+    pointer_.setPointer(kPointerHourglass);
+    if (reporting_.run([&] { insertEmptyColumn(whereisit); }))
+        pointer_.setPointer(kPointerDefault);
 }
 
 void GroupColumns::insertEmptyColumn(int position) {

@@ -2,9 +2,9 @@
 
 #include "core/column_properties.h"
 #include "core/group_factors.h"
-#include "core/load_notes.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/pointer.h"
 #include "surface/grid_surface.h"
 
 #include <functional>
@@ -16,15 +16,15 @@ class GroupColumns {
 public:
     /// `setCols` is the control's `Cols` setter.
     GroupColumns(ReportState& state, ColumnList& columns, ColumnProperties& properties,
-                 GroupFactorFlags& flags, GridSurface& surface, Host& host, LoadNotes& notes,
+                 GroupFactorFlags& flags, GridSurface& surface, Pointer& pointer, const Reporting& reporting,
                  std::function<void(int)> setCols)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
         , flags_(flags)
         , surface_(surface)
-        , host_(host)
-        , notes_(notes)
+        , pointer_(pointer)
+        , reporting_(reporting)
         , setCols_(std::move(setCols)) {}
 
     /// Makes an empty column at a position (from 0). A failure shows the error box.
@@ -46,8 +46,8 @@ private:
     ColumnProperties& properties_;
     GroupFactorFlags& flags_;
     GridSurface& surface_;
-    Host& host_;
-    LoadNotes& notes_;
+    Pointer& pointer_;
+    Reporting reporting_;
     std::function<void(int)> setCols_;
 };
 

@@ -45,6 +45,9 @@ QString ZkpGrid::MakeFromAndJoins(QString& Tables) {
 QString ZkpGrid::FindJoinON(const QString& Table) {
     return run([&](Parts& p) { return p.joins.FindJoinON(Table); });
 }
+QString ZkpGrid::setUserFilter(const QString& text) {
+    return run([&](Parts& p) { return p.userFilter.set(text); });
+}
 void ZkpGrid::TranslateFilter(QString& Tables) {
     run([&](Parts& p) { p.translation.TranslateFilter(Tables); });
 }

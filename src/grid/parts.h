@@ -9,6 +9,7 @@
 #include "core/load_notes.h"
 #include "core/record_source.h"
 #include "core/report_state.h"
+#include "core/reporting.h"
 #include "core/row_marking.h"
 #include "interaction/column_commands.h"
 #include "interaction/field_tools.h"
@@ -32,6 +33,7 @@
 #include "sql/percentage_statement.h"
 #include "sql/settings_store.h"
 #include "sql/statement_dispatch.h"
+#include "sql/user_filter.h"
 #include "template/template_store.h"
 #include "zkp_grid.h"
 
@@ -43,12 +45,15 @@ struct ZkpGrid::Parts {
     explicit Parts(std::shared_ptr<Host> givenHost);
 
     std::shared_ptr<Host> host;
+    MessageBoxes& boxes;
+    Pointer& pointer;
     ReportState state;
     ColumnList columns;
     Events events;
     ChildControls children;
     LoadHooks hooks;
     LoadNotes notes;
+    Reporting reporting;
     std::function<void(const Error&)> errorSink;
 
     GridSurface& surface;
@@ -69,6 +74,7 @@ struct ZkpGrid::Parts {
     MasterTableLookup masterTable;
     Joins joins;
     FilterTranslation translation;
+    UserFilter userFilter;
     RunTimeStatement runTime;
     NormalStatement normal;
     GroupedStatement grouped;

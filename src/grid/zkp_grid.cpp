@@ -20,11 +20,14 @@ double roughTextWidth(const QString& text) {
 
 ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     : host(givenHost ? std::move(givenHost) : std::make_shared<ScriptedHost>())
+    , boxes(host->boxes())
+    , pointer(host->screenPointer())
+    , reporting(state, {boxes, pointer}, &notes)
     , surface(children.MSFlexGrid1)
     , columnProperties(columns, surface, events)
     , groupFactors(state, columns, events)
     , accountColumns(state, columns, surface, roughTextWidth)
-    , groupColumns(state, columns, columnProperties, groupFactors, surface, *host, notes,
+    , groupColumns(state, columns, columnProperties, groupFactors, surface, pointer, reporting,
                    [this](int count) { setCols(count); })
     , keyColumn(state, columns, surface)
     , fonts(state, surface, events)
@@ -34,48 +37,50 @@ ZkpGrid::Parts::Parts(std::shared_ptr<Host> givenHost)
     , settings(state.Cn)
     , inputs(state, columns, surface, events, notes)
     , hierarchy(inputs)
-    , fields(inputs, *host)
-    , masterTable(inputs, *host)
-    , joins(inputs, *host)
-    , translation(inputs, *host)
-    , runTime(inputs, fields, joins, translation, hierarchy, *host)
-    , normal(inputs, hierarchy, *host)
+    , fields(inputs, boxes)
+    , masterTable(inputs, boxes)
+    , joins(inputs, boxes)
+    , translation(inputs, boxes)
+    , userFilter(inputs)
+    , runTime(inputs, fields, joins, translation, hierarchy, boxes)
+    , normal(inputs, hierarchy, boxes)
     , grouped(inputs, dictionary, hierarchy)
-    , statistics(inputs, dictionary, fields, joins, translation, hierarchy, *host)
-    , percentageStatement(inputs, masterTable, fields, joins, hierarchy, *host)
+    , statistics(inputs, dictionary, fields, joins, translation, hierarchy, boxes)
+    , percentageStatement(inputs, masterTable, fields, joins, hierarchy, boxes)
     , dispatch(inputs, groupColumns, settings, normal, runTime, grouped, statistics)
-    , percentages(state, columns, surface, *host, notes)
+    , percentages(state, columns, surface, boxes, notes)
     , groupRows(state, columns, surface, percentages)
     , totalsRows(state, columns, surface, groupRows.sums(), hooks)
     , summaryColumns(state, columns, surface)
-    , reader(state, columnProperties, columns, surface, events, *host, groupRows, totalsRows, percentages,
-             notes)
-    , driver(state, surface, children.Picture1, dictionary, fields, reader, notes, *host, hooks)
-    , emptyReport(state, columnProperties, surface, children.Picture1, dictionary, *host, hooks)
-    , sorting(inputs, fields, columnProperties, surface, events, *host, hooks,
+    , reader(state, columnProperties, columns, surface, events, boxes, pointer, reporting, groupRows,
+             totalsRows, percentages)
+    , driver(state, surface, children.Picture1, dictionary, fields, reader, notes, boxes, pointer,
+             host->pendingEvents(), reporting, hooks)
+    , emptyReport(state, columnProperties, surface, children.Picture1, dictionary, pointer, hooks)
+    , sorting(inputs, fields, columnProperties, surface, events, pointer, reporting, hooks,
               {[this](int row) { setRow(row); }, [this] { driver.FillGrid(); }})
-    , drawing(state, surface, events, fonts, marking, children.Picture1, *host, notes)
+    , drawing(state, surface, events, fonts, marking, children.Picture1, pointer, reporting)
     , lifecycle(state, children, events, [this] { drawing.DrawInterface(); })
-    , savedProperties(state, columns, columnProperties, children, *host,
+    , savedProperties(state, columns, columnProperties, children, reporting,
                       {[this] { lifecycle.resize(); }, [this] { drawing.DrawInterface(); }})
-    , templates(state, savedProperties, *host, applicationFolder)
+    , templates(state, savedProperties, boxes, applicationFolder)
     , columnCommands(state, columns, columnProperties, groupFactors, groupColumns, surface, fonts, events,
-                     *host,
+                     boxes, pointer, reporting,
                      {[this](int count) { setCols(count); }, [this](bool on) { setRefreshOnChange(on); },
                       [this] { driver.FillGrid(); }})
-    , headingDrag(state, columns, columnProperties, groupFactors, surface, *host,
+    , headingDrag(state, columns, columnProperties, groupFactors, surface, boxes, pointer, reporting,
                   {[this] { driver.refresh(errorSink); }, [this] { menuState.MenuRefresh(); }})
     , fieldTools(state, columns, columnProperties, groupColumns, surface, children.Picture1,
                  [this] { driver.FillGrid(); })
     , menuState(state, columns, columnProperties, surface, children.Picture1, dictionary)
-    , sectionStyles(state, drawing, *host)
+    , sectionStyles(state, drawing, host->styleDialogs())
     , menuCommands(state, columns, columnProperties, surface, events, sorting, columnCommands, sectionStyles,
-                   menuState, *host,
+                   menuState, boxes,
                    {[this] { driver.refresh(errorSink); }, [this](bool on) { setRefreshOnChange(on); },
                     [this](const QString& title) { setPrintCaption(title); }})
-    , selectionEvents(state, keyColumn, surface, events, marking, drawing, menuState, *host, {})
+    , selectionEvents(state, keyColumn, surface, events, marking, drawing, menuState, pointer, {})
     , surfaceEvents(state, columnProperties, surface, children.Picture1, events, dictionary, emptyReport,
-                    menuState, headingDrag, selectionEvents, *host, {}) {
+                    menuState, headingDrag, selectionEvents, boxes, reporting, {}) {
     buildMenuBands(children.Picture1);
     columnProperties.placeInitial(surface.Cols());
     connectHooks();

@@ -5,13 +5,13 @@
 
 namespace zkp {
 
-void ShowError(Host& host, const Error& error) {
+void ErrorBox::show(const Error& error) const {
     const bool badStatement = error.number() == kErrBadStatement;
     const QString text = badStatement ? texts::columnExists() : nameKey(error.description());
     const QString gap = QStringLiteral("\r\r");
-    host.setPointer(kPointerDefault);
-    host.msgBox(texts::errorPrefix() + gap + text + gap, badStatement ? kMsgBoxExclamation : kMsgBoxCritical,
-                texts::errorTitle());
+    pointer_.setPointer(kPointerDefault);
+    boxes_.msgBox(texts::errorPrefix() + gap + text + gap,
+                  badStatement ? kMsgBoxExclamation : kMsgBoxCritical, texts::errorTitle());
 }
 
 } // namespace zkp

@@ -1,51 +1,50 @@
 #pragma once
 
-#include <QString>
+#include "host/bell.h"
+#include "host/dialogs.h"
+#include "host/message_boxes.h"
+#include "host/pending_events.h"
+#include "host/pointer.h"
+#include "host/printer.h"
+#include "host/shell.h"
 
-#include <cstdint>
-#include <optional>
+#include <memory>
 
 namespace zkp {
 
-/// Icons and buttons of a message box, as hosts know them.
-enum MsgBoxStyle { kMsgBoxPlain = 0, kMsgBoxCritical = 16, kMsgBoxQuestion = 32, kMsgBoxExclamation = 48, kMsgBoxInformation = 64 };
-enum MsgBoxAnswer { kAnswerOk = 1, kAnswerCancel = 2, kAnswerYes = 6, kAnswerNo = 7 };
-enum MousePointer { kPointerDefault = 0, kPointerHourglass = 11, kPointerNoDrop = 12, kPointerCustom = 99 };
-
-struct FontChoice {
-    QString FontName;
-    double FontSize = 8; ///< points
-    bool FontBold = false;
-    bool FontItalic = false;
-    bool FontUnderline = false;
-};
-
-/// Everything that the control asks of the world around it: boxes, dialogs, pointer, shell. The
-/// engine writes to the user through this and nothing else. One for windows (widgets/), one for
-/// scripts and tests (ScriptedHost).
+/// The world around the control, in small services: the engine writes to the user through these and
+/// nothing else. A host overrides those that it gives. A control asks for them once, when it is made; they
+/// last as long as the host.
 class Host {
 public:
+    /// What the host itself doesn't give is that of `others`, if any.
+    explicit Host(std::shared_ptr<Host> others = {})
+        : others_(std::move(others)) {}
     virtual ~Host() = default;
+    Host(const Host&) = delete;
+    Host& operator=(const Host&) = delete;
 
-    /// Shows a box and waits for its answer (MsgBoxAnswer). An empty title is a box without one.
-    virtual int msgBox(const QString& text, int style = kMsgBoxPlain, const QString& title = {}) = 0;
-    /// Nothing when cancelled.
-    virtual std::optional<QString> inputBox(const QString& prompt, const QString& title, const QString& text) = 0;
-    /// A path, or nothing when cancelled.
-    virtual std::optional<QString> saveDialog(const QString& title, const QString& filter, const QString& fileName) = 0;
-    /// A 32-bit colour, blue in the high byte of the three; nothing when cancelled.
-    virtual std::optional<std::uint32_t> colorDialog(std::uint32_t start) = 0;
-    virtual std::optional<FontChoice> fontDialog(const FontChoice& start) = 0;
+    virtual MessageBoxes& boxes() { return others_ ? others_->boxes() : boxes_; }
+    virtual StyleDialogs& styleDialogs() { return others_ ? others_->styleDialogs() : styleDialogs_; }
+    virtual FileDialogs& fileDialogs() { return others_ ? others_->fileDialogs() : fileDialogs_; }
+    virtual OwnDialogs& ownDialogs() { return others_ ? others_->ownDialogs() : ownDialogs_; }
+    virtual Printer& printer() { return others_ ? others_->printer() : printer_; }
+    virtual Shell& shell() { return others_ ? others_->shell() : shell_; }
+    virtual Pointer& screenPointer() { return others_ ? others_->screenPointer() : pointer_; }
+    virtual Bell& bell() { return others_ ? others_->bell() : bell_; }
+    virtual PendingEvents& pendingEvents() { return others_ ? others_->pendingEvents() : pendingEvents_; }
 
-    virtual void beep() = 0;
-    /// Hands a file to the system's shell; the result is above 32 on success, the shell's code otherwise.
-    virtual int shellOpen(const QString& file, const QString& verb, const QString& parameters,
-                          const QString& directory, int windowMode) = 0;
-    /// The screen's mouse pointer (MousePointer).
-    virtual int pointer() const = 0;
-    virtual void setPointer(int pointer) = 0;
-    /// Lets pending events run once.
-    virtual void runPendingEvents() = 0;
+private:
+    std::shared_ptr<Host> others_;
+    MessageBoxes boxes_;
+    StyleDialogs styleDialogs_;
+    FileDialogs fileDialogs_;
+    OwnDialogs ownDialogs_;
+    Printer printer_;
+    Shell shell_;
+    Pointer pointer_;
+    Bell bell_;
+    PendingEvents pendingEvents_;
 };
 
 } // namespace zkp

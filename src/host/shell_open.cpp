@@ -63,12 +63,12 @@ std::vector<Failure> failures() {
 }
 
 /// A host that fails by an error has answered 0.
-int askShell(Host& host, const QString& file, int windowMode, const QString& parameters,
+int askShell(Shell& shell, const QString& file, int windowMode, const QString& parameters,
              const QString& directory, const QString& verb) {
     try {
         if (parameters.isEmpty() && directory.isEmpty())
-            return host.shellOpen(file, verb, {}, {}, kNormalWindow);
-        return host.shellOpen(file, verb, parameters, directory, windowMode);
+            return shell.shellOpen(file, verb, {}, {}, kNormalWindow);
+        return shell.shellOpen(file, verb, parameters, directory, windowMode);
     } catch (const Error&) {
         return 0;
     }
@@ -95,7 +95,7 @@ bool ShellOpen(Host& host, const QString& file, int windowMode, const QString& p
                const QString& directory, const QString& verb) {
     if (upper(file).contains(QLatin1String(".EXE")))
         windowMode = kProgramWindow;
-    const int answer = askShell(host, file, windowMode, parameters, directory, verb);
+    const int answer = askShell(host.shell(), file, windowMode, parameters, directory, verb);
     if (answer > kLastFailure)
         return true;
     try {

@@ -1,20 +1,18 @@
 #include "interaction/column_commands.h"
 
-#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "core/section_style.h"
-#include "host/error_box.h"
 #include "interaction/questions.h"
 
 namespace zkp {
 
 void ColumnCommands::addColumn() {
     {
-        host_.setPointer(kPointerHourglass);
-        const ScopeGuard restore([this] { host_.setPointer(kPointerDefault); });
+        pointer_.setPointer(kPointerHourglass);
+        const ScopeGuard restore([this] { pointer_.setPointer(kPointerDefault); });
         steps_.setCols(surface_.Cols() + 1);
         properties_.setColForTot(surface_.Cols() - 1, false);
         steps_.setRefreshOnChange(false);
@@ -70,11 +68,11 @@ bool ColumnCommands::makeFactor(int position) {
 
 void ColumnCommands::deleteCurrent() {
     if (shownColumns() == 1) {
-        host_.msgBox(texts::onlyColumn(), kMsgBoxCritical);
+        boxes_.msgBox(texts::onlyColumn(), kMsgBoxCritical);
         return;
     }
     if (isLastFactor()) {
-        host_.msgBox(texts::lastFactor(), kMsgBoxCritical);
+        boxes_.msgBox(texts::lastFactor(), kMsgBoxCritical);
         return;
     }
     int position = surface_.Col();
@@ -97,19 +95,13 @@ bool ColumnCommands::isLastFactor() const {
 }
 
 void ColumnCommands::deletecolumn(int& position) {
-    try {
+    reporting_.run([&] {
         askForRefresh();
         removeColumn(position);
         checkGroupBy();
         steps_.fillGrid();
         state_.throwIfDestroyed();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        ShowError(host_, error);
-    }
+    });
 }
 
 /// The current column is asked about, not the one that goes; wanted.
@@ -117,7 +109,7 @@ void ColumnCommands::askForRefresh() {
     const int current = surface_.Col();
     bool again = false;
     if (!isBlank(properties_.ColDataField(current)) && properties_.ColForTot(current)) {
-        again = host_.msgBox(texts::refreshNow(), kAskYesNo) == kAnswerYes;
+        again = boxes_.msgBox(texts::refreshNow(), kAskYesNo) == kAnswerYes;
         state_.throwIfDestroyed();
     }
     steps_.setRefreshOnChange(again);

@@ -5,7 +5,9 @@
 #include "core/events.h"
 #include "core/group_columns.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/message_boxes.h"
+#include "host/pointer.h"
 #include "surface/grid_surface.h"
 
 #include <functional>
@@ -25,7 +27,8 @@ public:
 
     ColumnCommands(ReportState& state, ColumnList& columns, ColumnProperties& properties,
                    GroupFactorFlags& flags, GroupColumns& groups, GridSurface& surface, FontWriter& fonts,
-                   Events& events, Host& host, Steps steps)
+                   Events& events, MessageBoxes& boxes, Pointer& pointer, const Reporting& reporting,
+                   Steps steps)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
@@ -34,7 +37,9 @@ public:
         , surface_(surface)
         , fonts_(fonts)
         , events_(events)
-        , host_(host)
+        , boxes_(boxes)
+        , pointer_(pointer)
+        , reporting_(reporting)
         , steps_(std::move(steps)) {}
 
     /// `mnuAddColumn_Click`: a plain column at the end, which becomes the current one.
@@ -74,7 +79,9 @@ private:
     GridSurface& surface_;
     FontWriter& fonts_;
     Events& events_;
-    Host& host_;
+    MessageBoxes& boxes_;
+    Pointer& pointer_;
+    Reporting reporting_;
     Steps steps_;
 };
 

@@ -9,14 +9,14 @@
 namespace zkp {
 
 void FieldTools::connect(const std::weak_ptr<void>& owner) {
-    menu_.listChanged = guardedBy(owner, state_, [this](const Tool& tool) {
+    lists_ = menu_.listChanged.add(guardedBy(owner, state_, [this](const Tool& tool) {
         if (sameName(tool.Name, u"mnuField"))
             fieldChosen(tool);
-    });
-    menu_.textChanged = guardedBy(owner, state_, [this](const Tool& tool) {
+    }));
+    texts_ = menu_.textChanged.add(guardedBy(owner, state_, [this](const Tool& tool) {
         if (sameName(tool.Name, u"mnuCaption"))
             captionTyped(tool);
-    });
+    }));
 }
 
 bool FieldTools::exists(int col) const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/listeners.h"
 #include "core/column_properties.h"
 #include "core/group_columns.h"
 #include "core/report_state.h"
@@ -25,7 +26,7 @@ public:
         , menu_(menu)
         , fillGrid_(std::move(fillGrid)) {}
 
-    /// Takes what the user does with lists and texts of the bar. `owner` keeps everything here alive
+    /// Listens to what the user does with lists and texts of the bar. `owner` keeps everything here alive
     /// meanwhile.
     void connect(const std::weak_ptr<void>& owner);
 
@@ -48,6 +49,8 @@ private:
     GridSurface& surface_;
     MenuBar& menu_;
     std::function<void()> fillGrid_;
+    Listening lists_;
+    Listening texts_;
 };
 
 } // namespace zkp

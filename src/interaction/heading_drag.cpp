@@ -1,10 +1,8 @@
 #include "interaction/heading_drag.h"
 
-#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "core/paint_scopes.h"
-#include "host/error_box.h"
 #include "interaction/questions.h"
 
 #include <algorithm>
@@ -48,6 +46,10 @@ bool HeadingDrag::prepare() {
     return true;
 }
 
+bool HeadingDrag::mayDrag(int col) const {
+    return surface_.look().Tag == QString::number(col);
+}
+
 void HeadingDrag::showPointer(const SurfaceMouse& mouse) {
     GridSurface::Look look = surface_.look();
     look.MousePointer = kPointerDefault;
@@ -79,9 +81,9 @@ void HeadingDrag::saveWidths() {
 void HeadingDrag::drop(int from, int to) {
     if (state_.ExportRunning)
         return;
-    try {
+    reporting_.run([&] {
         state_.MousePointer = kPointerDefault;
-        host_.setPointer(kPointerDefault);
+        pointer_.setPointer(kPointerDefault);
         saveWidths();
         if (state_.MenusLocked)
             return;
@@ -95,13 +97,7 @@ void HeadingDrag::drop(int from, int to) {
             askForRefresh();
         else
             surface_.Refresh();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        ShowError(host_, error);
-    }
+    });
 }
 
 /// The surface's column moves before the properties are written by position, and before anybody is asked:
@@ -147,7 +143,7 @@ void HeadingDrag::writeBack(int col) {
 }
 
 void HeadingDrag::askForRefresh() {
-    const int answer = host_.msgBox(texts::moveFactors(), kAskYesNoCancel);
+    const int answer = boxes_.msgBox(texts::moveFactors(), kAskYesNoCancel);
     state_.throwIfDestroyed();
     if (answer != kAnswerYes)
         return;

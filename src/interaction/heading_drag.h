@@ -3,7 +3,9 @@
 #include "core/column_properties.h"
 #include "core/group_factors.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/message_boxes.h"
+#include "host/pointer.h"
 #include "surface/grid_surface.h"
 
 #include <functional>
@@ -21,19 +23,25 @@ public:
     };
 
     HeadingDrag(ReportState& state, ColumnList& columns, ColumnProperties& properties,
-                GroupFactorFlags& flags, GridSurface& surface, Host& host, Control control)
+                GroupFactorFlags& flags, GridSurface& surface, MessageBoxes& boxes, Pointer& pointer,
+                const Reporting& reporting, Control control)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
         , flags_(flags)
         , surface_(surface)
-        , host_(host)
+        , boxes_(boxes)
+        , pointer_(pointer)
+        , reporting_(reporting)
         , control_(std::move(control)) {}
 
-    /// A left press on the column pressed last: the surface's `Tag` takes its number when a drag may start.
-    /// False when the host is not to hear of the press: one on a data row, or in a detail report on the
-    /// heading of a group factor or of the first column after them.
+    /// A left press on the column pressed last: the surface's `Tag` takes its number when a drag may start,
+    /// and a host that hears of the press may write another there. False when the host is not to hear of the
+    /// press: one on a data row, or in a detail report on the heading of a group factor or of the first
+    /// column after them.
     bool prepare();
+    /// Whether a view may let the heading follow the pointer, after the press.
+    bool mayDrag(int col) const;
     /// The pointer over the heading row tells what a drop there would do.
     void showPointer(const SurfaceMouse& mouse);
     /// Moves a column with its data, heading and look; the current cell goes along. For a group factor the
@@ -58,7 +66,9 @@ private:
     ColumnProperties& properties_;
     GroupFactorFlags& flags_;
     GridSurface& surface_;
-    Host& host_;
+    MessageBoxes& boxes_;
+    Pointer& pointer_;
+    Reporting reporting_;
     Control control_;
 };
 

@@ -1,12 +1,10 @@
 #include "interaction/interface_drawing.h"
 
-#include "base/error_in_flight.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
 #include "base/texts.h"
 #include "core/paint_scopes.h"
 #include "core/section_style.h"
-#include "host/error_box.h"
 
 #include <algorithm>
 
@@ -47,19 +45,12 @@ void InterfaceDrawing::DrawInterface() {
     drawing_ = true;
     const ScopeGuard done([this] { drawing_ = false; });
     const RedrawOff still(surface_);
-    try {
+    reporting_.run([&] {
         if (state_.ReportRecordset)
             paintSections();
         Q_EMIT events_.StopInterface(); // alone when there is no record source, as wanted
         state_.throwIfDestroyed();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        notes_.failed(error);
-        ShowError(host_, error);
-    }
+    });
 }
 
 void InterfaceDrawing::paintSections() {
@@ -152,9 +143,9 @@ void InterfaceDrawing::paintSumRows(const CellRange& page, const std::vector<int
 
 void InterfaceDrawing::RefreshInterface(int what) {
     const RedrawOff still(surface_);
-    const int pointer = host_.pointer();
-    const ScopeGuard restore([&] { host_.setPointer(pointer); });
-    host_.setPointer(kPointerHourglass);
+    const int shown = pointer_.pointer();
+    const ScopeGuard restore([&] { pointer_.setPointer(shown); });
+    pointer_.setPointer(kPointerHourglass);
     if (surface_.FixedRows() > 0)
         fonts_.FontsRow(0, fontMarksOf(look(Section::Heading)));
     if (what == 0)

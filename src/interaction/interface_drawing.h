@@ -2,11 +2,11 @@
 
 #include "core/cell_fonts.h"
 #include "core/events.h"
-#include "core/load_notes.h"
 #include "core/report_state.h"
+#include "core/reporting.h"
 #include "core/row_marking.h"
 #include "core/section_style.h"
-#include "host/host.h"
+#include "host/pointer.h"
 #include "menu/menu_bar.h"
 #include "surface/grid_surface.h"
 
@@ -19,15 +19,15 @@ namespace zkp {
 class InterfaceDrawing {
 public:
     InterfaceDrawing(ReportState& state, GridSurface& surface, Events& events, FontWriter& fonts,
-                     RowMarking& marking, MenuBar& menu, Host& host, LoadNotes& notes)
+                     RowMarking& marking, MenuBar& menu, Pointer& pointer, const Reporting& reporting)
         : state_(state)
         , surface_(surface)
         , events_(events)
         , fonts_(fonts)
         , marking_(marking)
         , menu_(menu)
-        , host_(host)
-        , notes_(notes) {}
+        , pointer_(pointer)
+        , reporting_(reporting) {}
 
     /// Paints the rows that show, whatever the report's length. A failure shows the error box. Called
     /// again by one of its own handlers, it does nothing.
@@ -56,8 +56,8 @@ private:
     FontWriter& fonts_;
     RowMarking& marking_;
     MenuBar& menu_;
-    Host& host_;
-    LoadNotes& notes_;
+    Pointer& pointer_;
+    Reporting reporting_;
     bool drawing_ = false;
 };
 

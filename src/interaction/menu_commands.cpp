@@ -87,7 +87,7 @@ struct MenuCommands::Table {
 };
 
 void MenuCommands::connect(MenuBar& menu, const std::weak_ptr<void>& owner) {
-    menu.toolClicked = guardedBy(owner, state_, [this](Tool& tool) { clicked(tool); });
+    clicks_ = menu.toolClicked.add(guardedBy(owner, state_, [this](Tool& tool) { clicked(tool); }));
 }
 
 /// The menus follow a command that failed too.
@@ -139,7 +139,7 @@ void MenuCommands::align(int alignment) {
 /// wanted. The host hears of it by the event.
 void MenuCommands::askForTitle() {
     const QString title =
-        host_.inputBox(texts::titlePrompt(), texts::titleHeading(), state_.PrintCaption).value_or(QString());
+        boxes_.inputBox(texts::titlePrompt(), texts::titleHeading(), state_.PrintCaption).value_or(QString());
     state_.throwIfDestroyed();
     state_.PrintCaption = title;
     if (!isBlank(title))
@@ -149,7 +149,7 @@ void MenuCommands::askForTitle() {
 }
 
 void MenuCommands::sayMissing(const Tool& tool) {
-    host_.msgBox(texts::notThereYet(tool.Caption), kMsgBoxInformation);
+    boxes_.msgBox(texts::notThereYet(tool.Caption), kMsgBoxInformation);
 }
 
 } // namespace zkp

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "base/listeners.h"
 #include "core/column_properties.h"
 #include "core/events.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "interaction/column_commands.h"
 #include "interaction/menu_state.h"
 #include "interaction/section_styles.h"
@@ -29,7 +30,7 @@ public:
 
     MenuCommands(ReportState& state, const ColumnList& columns, ColumnProperties& properties,
                  GridSurface& surface, Events& events, RowSorting& sorting, ColumnCommands& columnCommands,
-                 SectionStyles& styles, MenuState& menus, Host& host, Steps steps)
+                 SectionStyles& styles, MenuState& menus, MessageBoxes& boxes, Steps steps)
         : state_(state)
         , columns_(columns)
         , properties_(properties)
@@ -39,10 +40,10 @@ public:
         , columnCommands_(columnCommands)
         , styles_(styles)
         , menus_(menus)
-        , host_(host)
+        , boxes_(boxes)
         , steps_(std::move(steps)) {}
 
-    /// Takes the bar's clicks. `owner` keeps everything here alive while a command runs, since a handler
+    /// Listens to the bar's clicks. `owner` keeps everything here alive while a command runs, since a handler
     /// may destroy the control.
     void connect(MenuBar& menu, const std::weak_ptr<void>& owner);
 
@@ -71,8 +72,9 @@ private:
     ColumnCommands& columnCommands_;
     SectionStyles& styles_;
     MenuState& menus_;
-    Host& host_;
+    MessageBoxes& boxes_;
     Steps steps_;
+    Listening clicks_;
 };
 
 } // namespace zkp

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host.h"
+#include "host/message_boxes.h"
 
 namespace zkp {
 

@@ -40,7 +40,7 @@ void SectionStyles::ChooseSectionStyle(int number, int what) {
     if (!property)
         return;
     const QString name = QString::fromUtf16(property);
-    const auto chosen = host_.colorDialog(properties_.read(name).toUInt());
+    const auto chosen = dialogs_.colorDialog(properties_.read(name).toUInt());
     state_.throwIfDestroyed();
     if (!chosen)
         return;
@@ -55,8 +55,8 @@ void SectionStyles::ChooseSectionFont(int number) {
     const QString font = QString::fromUtf16(section->font);
     const auto value = [&](const char* part) { return properties_.read(font + QLatin1String(part)); };
     const auto chosen =
-        host_.fontDialog({value("Name").toString(), value("Size").toDouble(), value("Bold").toBool(),
-                          value("Italic").toBool(), value("Underline").toBool()});
+        dialogs_.fontDialog({value("Name").toString(), value("Size").toDouble(), value("Bold").toBool(),
+                             value("Italic").toBool(), value("Underline").toBool()});
     state_.throwIfDestroyed();
     if (!chosen)
         return;

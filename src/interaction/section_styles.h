@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/report_state.h"
-#include "host/host.h"
+#include "host/dialogs.h"
 #include "interaction/interface_drawing.h"
 
 #include <QVariant>
@@ -21,10 +21,10 @@ public:
         std::function<void(const QString&, const QVariant&)> write;
     };
 
-    SectionStyles(const ReportState& state, InterfaceDrawing& drawing, Host& host)
+    SectionStyles(const ReportState& state, InterfaceDrawing& drawing, StyleDialogs& dialogs)
         : state_(state)
         , drawing_(drawing)
-        , host_(host) {}
+        , dialogs_(dialogs) {}
 
     void connect(Properties properties) { properties_ = std::move(properties); }
 
@@ -38,7 +38,7 @@ private:
 
     const ReportState& state_;
     InterfaceDrawing& drawing_;
-    Host& host_;
+    StyleDialogs& dialogs_;
     Properties properties_;
 };
 

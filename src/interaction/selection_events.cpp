@@ -11,7 +11,7 @@ void SelectionEvents::currentCellChanged() {
         key_.takeKey();
     if (state_.PreRow != surface_.Row())
         marking_.Selectrow();
-    host_.setPointer(kPointerDefault);
+    pointer_.setPointer(kPointerDefault);
 }
 
 void SelectionEvents::selectionChanged() {

@@ -4,7 +4,7 @@
 #include "core/key_column.h"
 #include "core/report_state.h"
 #include "core/row_marking.h"
-#include "host/host.h"
+#include "host/pointer.h"
 #include "interaction/interface_drawing.h"
 #include "interaction/menu_state.h"
 #include "surface/grid_surface.h"
@@ -20,7 +20,7 @@ namespace zkp {
 class SelectionEvents {
 public:
     SelectionEvents(ReportState& state, KeyColumn& key, GridSurface& surface, Events& events,
-                    RowMarking& marking, InterfaceDrawing& drawing, MenuState& menus, Host& host,
+                    RowMarking& marking, InterfaceDrawing& drawing, MenuState& menus, Pointer& pointer,
                     std::function<void()> showChart)
         : state_(state)
         , key_(key)
@@ -29,7 +29,7 @@ public:
         , marking_(marking)
         , drawing_(drawing)
         , menus_(menus)
-        , host_(host)
+        , pointer_(pointer)
         , showChart_(std::move(showChart)) {}
 
     void currentCellChanged();
@@ -50,7 +50,7 @@ private:
     RowMarking& marking_;
     InterfaceDrawing& drawing_;
     MenuState& menus_;
-    Host& host_;
+    Pointer& pointer_;
     std::function<void()> showChart_; ///< may be empty
 };
 

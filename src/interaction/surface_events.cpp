@@ -1,9 +1,7 @@
 #include "interaction/surface_events.h"
 
-#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/texts.h"
-#include "host/error_box.h"
 #include "interaction/menu_table.h"
 #include "interaction/owner_guard.h"
 
@@ -20,12 +18,16 @@ constexpr int kCtrl = 2;
 void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
     const auto guarded = [&](auto handler) { return guardedBy(owner, state_, handler); };
     SurfaceNotifications& on = surface_.notifications;
-    on.mouseDown = guarded([this](const SurfaceMouse& mouse) { reporting([&] { mouseDown(mouse); }); });
+    on.mouseDown = guarded([this](const SurfaceMouse& mouse) { reporting_.run([&] { mouseDown(mouse); }); });
     on.mouseMove =
-        guarded([this](const SurfaceMouse& mouse) { reporting([&] { drag_.showPointer(mouse); }); });
+        guarded([this](const SurfaceMouse& mouse) { reporting_.run([&] { drag_.showPointer(mouse); }); });
     on.click = guarded([this] { click(); });
     on.dblClick = guarded([this] { Q_EMIT events_.DblClick(); });
-    on.keyDown = guarded([this](int& code, int shift) { reporting([&] { keyDown(code, shift); }); });
+    on.keyDown = guarded([this](int& code, int shift) { reporting_.run([&] { keyDown(code, shift); }); });
+    on.mayDragHeading = [owner, this](int col) {
+        const std::shared_ptr<void> alive = owner.lock();
+        return alive && !state_.destroyed && drag_.mayDrag(col);
+    };
     on.headingDropped = [drop = guarded([this](int from, int to) { drag_.drop(from, to); })](int from,
                                                                                              int to) {
         drop(from, to);
@@ -37,19 +39,6 @@ void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
     on.selectedAgain = guarded([this] { selection_.selectedAgain(); });
     on.scrolled = guarded([this] { selection_.scrolled(); });
     on.visibleRowsGrew = guarded([this] { selection_.visibleRowsGrew(); });
-}
-
-template <class Handler>
-void SurfaceEvents::reporting(Handler handler) {
-    try {
-        handler();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        ShowError(host_, error);
-    }
 }
 
 void SurfaceEvents::mouseDown(const SurfaceMouse& mouse) {
@@ -82,7 +71,7 @@ bool SurfaceEvents::isPressTold(const SurfaceMouse& mouse) {
 /// click on a group factor, or on the first column after them.
 void SurfaceEvents::click() {
     if (!dictionary_.isOpen())
-        reporting([this] { emptyReport_.prepare(); });
+        reporting_.run([this] { emptyReport_.prepare(); });
     state_.throwIfDestroyed();
     const int col = surface_.Col();
     if (col < 0)
@@ -97,7 +86,7 @@ void SurfaceEvents::click() {
 /// There is no continuation of a load: Ctrl with End only says so.
 void SurfaceEvents::keyDown(int code, int shift) {
     if (code == kEndKey && (shift & kCtrl) != 0)
-        host_.msgBox(texts::hitBottom());
+        boxes_.msgBox(texts::hitBottom());
 }
 
 void SurfaceEvents::columnResized(int col) {

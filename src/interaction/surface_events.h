@@ -3,7 +3,8 @@
 #include "core/column_properties.h"
 #include "core/events.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/message_boxes.h"
 #include "interaction/heading_drag.h"
 #include "interaction/menu_state.h"
 #include "interaction/selection_events.h"
@@ -23,8 +24,8 @@ public:
     /// `showChart` draws the chart anew.
     SurfaceEvents(ReportState& state, ColumnProperties& properties, GridSurface& surface, MenuBar& menu,
                   Events& events, const Dictionary& dictionary, EmptyReport& emptyReport,
-                  MenuState& menuState, HeadingDrag& drag, SelectionEvents& selection, Host& host,
-                  std::function<void()> showChart)
+                  MenuState& menuState, HeadingDrag& drag, SelectionEvents& selection, MessageBoxes& boxes,
+                  const Reporting& reporting, std::function<void()> showChart)
         : state_(state)
         , properties_(properties)
         , surface_(surface)
@@ -35,7 +36,8 @@ public:
         , menuState_(menuState)
         , drag_(drag)
         , selection_(selection)
-        , host_(host)
+        , boxes_(boxes)
+        , reporting_(reporting)
         , showChart_(std::move(showChart)) {}
 
     /// Takes the surface's notifications. `owner` keeps everything here alive while one of them runs,
@@ -43,9 +45,6 @@ public:
     void connect(const std::weak_ptr<void>& owner);
 
 private:
-    /// Runs a handler of the mouse; a failure shows the error box.
-    template <class Handler>
-    void reporting(Handler handler);
     void mouseDown(const SurfaceMouse& mouse);
     bool isPressTold(const SurfaceMouse& mouse);
     void showShape();
@@ -63,7 +62,8 @@ private:
     MenuState& menuState_;
     HeadingDrag& drag_;
     SelectionEvents& selection_;
-    Host& host_;
+    MessageBoxes& boxes_;
+    Reporting reporting_;
     std::function<void()> showChart_;
 };
 

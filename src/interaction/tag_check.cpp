@@ -7,7 +7,7 @@
 
 namespace zkp {
 
-bool CheckByTag(TextBoxModel& box, const ReportLocale& locale, Host& host) {
+bool CheckByTag(TextBoxModel& box, const ReportLocale& locale, Bell& bell) {
     const QString tag = nameKey(box.Tag);
     const bool blank = isBlank(box.Text);
     if (tag.contains(QLatin1String("[PADL]"))) {
@@ -19,7 +19,7 @@ bool CheckByTag(TextBoxModel& box, const ReportLocale& locale, Host& host) {
         if (date)
             box.Text = shortDate(*date, locale);
         else
-            host.beep();
+            bell.beep();
         return date.has_value();
     }
     if (!tag.contains(QLatin1String("[NUM]")))
@@ -30,7 +30,7 @@ bool CheckByTag(TextBoxModel& box, const ReportLocale& locale, Host& host) {
     }
     const bool numeric = toNumber(box.Text, locale).has_value();
     if (!numeric)
-        host.beep();
+        bell.beep();
     return numeric;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/report_locale.h"
-#include "host/host.h"
+#include "host/bell.h"
 #include "interaction/dialog_models.h"
 
 namespace zkp {
@@ -11,6 +11,6 @@ namespace zkp {
 /// "[DATE]" turns a date into the locale's short date; "[NUM]" turns a blank text into 0. What is no
 /// date or number beeps and is refused. The markers are tested in this order, and the first that
 /// decides ends the check; a blank text is left by "[DATE]" to the next one.
-bool CheckByTag(TextBoxModel& box, const ReportLocale& locale, Host& host);
+bool CheckByTag(TextBoxModel& box, const ReportLocale& locale, Bell& bell);
 
 } // namespace zkp

@@ -1,17 +1,16 @@
 #include "load/empty_recordset.h"
 
 #include "base/error_in_flight.h"
-#include "host/error_box.h"
 
 namespace zkp {
 
-bool RecordsetIsEmpty(const ado::RecordsetPtr& recordset, Host& host) {
+bool RecordsetIsEmpty(const ado::RecordsetPtr& recordset, const ErrorBox& errors) {
     try {
         if (!recordset)
             throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"));
         return recordset->Bof() && recordset->Eof();
     } catch (...) {
-        ShowError(host, errorInFlight());
+        errors.show(errorInFlight());
         return false;
     }
 }

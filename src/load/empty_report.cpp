@@ -28,7 +28,7 @@ void EmptyReport::prepare() {
     state_.throwIfDestroyed();
     menu_.Refresh();
     if (!state_.TotalForm)
-        host_.setPointer(kPointerDefault);
+        pointer_.setPointer(kPointerDefault);
 }
 
 /// With `specialinfo` the record source becomes the table or view named by `specialrecordsource`, when

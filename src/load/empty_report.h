@@ -2,7 +2,7 @@
 
 #include "core/column_properties.h"
 #include "core/record_source.h"
-#include "host/host.h"
+#include "host/pointer.h"
 #include "load/load_hooks.h"
 #include "menu/menu_bar.h"
 #include "sql/dictionary.h"
@@ -13,13 +13,13 @@ namespace zkp {
 class EmptyReport {
 public:
     EmptyReport(ReportState& state, ColumnProperties& properties, GridSurface& surface, MenuBar& menu,
-                Dictionary& dictionary, Host& host, const LoadHooks& hooks)
+                Dictionary& dictionary, Pointer& pointer, const LoadHooks& hooks)
         : state_(state)
         , properties_(properties)
         , surface_(surface)
         , menu_(menu)
         , dictionary_(dictionary)
-        , host_(host)
+        , pointer_(pointer)
         , hooks_(hooks) {}
 
     /// `PrepareEmptyGrid`. Does nothing without a dictionary or a connection.
@@ -33,7 +33,7 @@ private:
     GridSurface& surface_;
     MenuBar& menu_;
     Dictionary& dictionary_;
-    Host& host_;
+    Pointer& pointer_;
     const LoadHooks& hooks_;
 };
 

@@ -1,10 +1,8 @@
 #include "load/load_driver.h"
 
-#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
-#include "host/error_box.h"
 #include "load/empty_recordset.h"
 #include "load/field_list.h"
 #include "load/source_check.h"
@@ -24,9 +22,9 @@ Error objectNotSet(const QString& source) {
 } // namespace
 
 void LoadDriver::refresh(ErrorSink sink) {
-    host_.setPointer(kPointerHourglass);
+    pointer_.setPointer(kPointerHourglass);
     const ScopeGuard restore([this] {
-        host_.setPointer(kPointerDefault);
+        pointer_.setPointer(kPointerDefault);
         state_.MousePointer = kPointerDefault;
     });
     const std::vector<Error> failed = failedSourceChecks(state_);
@@ -44,7 +42,7 @@ void LoadDriver::FillGrid() {
     if (loading_) {
         const Error error(kErrIllegalOperation, QStringLiteral("A load is running already."));
         if (!std::exchange(toldOnce_, true))
-            ShowError(host_, error);
+            reporting_.show(error);
         refuse(error);
         return;
     }
@@ -63,16 +61,12 @@ void LoadDriver::refuse(const Error& error) {
 void LoadDriver::tell(const LoadOutcome& outcome) {
     state_.throwIfDestroyed();
     last_ = outcome;
-    try {
+    reporting_.unnoted().run([&] {
         listeners_.tell([&](const LoadListener& listener) {
             if (listener.ended && !state_.destroyed)
                 listener.ended(outcome);
         });
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        ShowError(host_, error);
-    }
+    });
     state_.throwIfDestroyed();
 }
 
@@ -100,23 +94,16 @@ void LoadDriver::load() {
     const ScopeGuard restore([this] {
         loading_ = false;
         surface_.setRedraw(true);
-        host_.setPointer(kPointerDefault);
+        pointer_.setPointer(kPointerDefault);
     });
-    try {
+    reporting_.run([this] {
         listeners_.tell([&](const LoadListener& listener) {
             if (listener.begins && !state_.destroyed)
                 listener.begins();
         });
         state_.throwIfDestroyed();
         loadRecords();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        notes_.failed(error);
-        ShowError(host_, error);
-    }
+    });
 }
 
 void LoadDriver::loadRecords() {
@@ -133,11 +120,11 @@ void LoadDriver::loadRecords() {
     const std::int64_t records = recordCount();
     underWay_.records = records;
     underWay_.lastRecordMs = underWay_.firstRecordMs;
-    host_.setPointer(kPointerHourglass);
+    pointer_.setPointer(kPointerHourglass);
     sizeSurface(toInt32(static_cast<double>(records)));
     if (records > 0)
         readRows();
-    host_.setPointer(kPointerDefault);
+    pointer_.setPointer(kPointerDefault);
     selectFirstRow();
     surface_.Refresh();
     underWay_.result = ZKPLoaded;
@@ -165,11 +152,11 @@ bool LoadDriver::MakeRecordset() {
         return false;
     underWay_.firstRecordMs = elapsedMs();
     if (state_.ReportRecordset->RecordCount() == 0) {
-        host_.setPointer(kPointerDefault);
+        pointer_.setPointer(kPointerDefault);
     } else {
         surface_.setBackColor(surface_.BackColor());
         surface_.setForeColor(surface_.ForeColor());
-        host_.runPendingEvents();
+        pendingEvents_.runPendingEvents();
         state_.throwIfDestroyed();
     }
     return true;
@@ -177,7 +164,7 @@ bool LoadDriver::MakeRecordset() {
 
 /// A failure here has a box of its own and leaves no record source.
 void LoadDriver::OpenDetailRecordset() {
-    try {
+    const auto open = [this] {
         LoadHooks::run(hooks_.MakeFixedForGroup);
         if (!state_.ReportRecordset)
             state_.ReportRecordset = std::make_shared<ado::Recordset>();
@@ -188,15 +175,11 @@ void LoadDriver::OpenDetailRecordset() {
         const ScopeGuard restore([&] { connection->setCommandTimeout(timeout); });
         connection->setCommandTimeout(state_.CommandTimeout);
         openBySourceType();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        notes_.failed(error);
+    };
+    reporting_.run(open, [this](const Error& error) {
         state_.ReportRecordset.reset();
-        host_.msgBox(error.description(), kMsgBoxCritical);
-    }
+        boxes_.msgBox(error.description(), kMsgBoxCritical);
+    });
 }
 
 void LoadDriver::openBySourceType() {
@@ -272,7 +255,7 @@ std::int64_t LoadDriver::recordCount() const {
         return state_.RecCount == -1 ? 0 : records->RecordCount();
     if (!isBlank(state_.RKeyname) && !state_.TotalForm)
         LoadHooks::run(hooks_.RunTimeSQLCounter); // built for its effect on `Filter`; not run, as wanted
-    return RecordsetIsEmpty(records, host_) ? 0 : records->RecordCount();
+    return RecordsetIsEmpty(records, {boxes_, pointer_}) ? 0 : records->RecordCount();
 }
 
 void LoadDriver::sizeSurface(int records) {

@@ -5,7 +5,10 @@
 #include "core/events.h"
 #include "core/load_notes.h"
 #include "core/record_source.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/message_boxes.h"
+#include "host/pending_events.h"
+#include "host/pointer.h"
 #include "load/load_hooks.h"
 #include "load/load_outcome.h"
 #include "load/row_reader.h"
@@ -28,7 +31,8 @@ public:
     using ErrorSink = std::function<void(const Error&)>;
 
     LoadDriver(ReportState& state, GridSurface& surface, MenuBar& menu, Dictionary& dictionary,
-               FieldExpressions& fields, RowReader& reader, LoadNotes& notes, Host& host,
+               FieldExpressions& fields, RowReader& reader, LoadNotes& notes, MessageBoxes& boxes,
+               Pointer& pointer, PendingEvents& pendingEvents, const Reporting& reporting,
                const LoadHooks& hooks)
         : state_(state)
         , source_(state)
@@ -38,7 +42,10 @@ public:
         , fields_(fields)
         , reader_(reader)
         , notes_(notes)
-        , host_(host)
+        , boxes_(boxes)
+        , pointer_(pointer)
+        , pendingEvents_(pendingEvents)
+        , reporting_(reporting)
         , hooks_(hooks) {}
 
     /// The checked entry. Every failed check goes to the sink in order; then the first is thrown.
@@ -81,7 +88,10 @@ private:
     FieldExpressions& fields_;
     RowReader& reader_;
     LoadNotes& notes_;
-    Host& host_;
+    MessageBoxes& boxes_;
+    Pointer& pointer_;
+    PendingEvents& pendingEvents_;
+    Reporting reporting_;
     const LoadHooks& hooks_;
     Listeners<LoadListener> listeners_;
     LoadOutcome last_;

@@ -19,7 +19,7 @@ QString Percentages::PercentOfParent(const QString& field, int r, std::optional<
         throw;
     } catch (...) {
         notes_.failed(errorInFlight());
-        host_.msgBox(texts::percentFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::percentFailed(), kMsgBoxCritical);
     }
     return QStringLiteral("0.00");
 }
@@ -32,7 +32,7 @@ double Percentages::GroupValueSum(int level, const QString& name, int r) {
     } catch (...) {
         notes_.failed(errorInFlight());
         if (!std::exchange(told_, true))
-            host_.msgBox(texts::subtotalsFailed(), kMsgBoxCritical);
+            boxes_.msgBox(texts::subtotalsFailed(), kMsgBoxCritical);
         return 0;
     }
 }

@@ -3,7 +3,7 @@
 #include "core/column_list.h"
 #include "core/load_notes.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "load/group_value_index.h"
 #include "surface/grid_surface.h"
 
@@ -14,12 +14,12 @@ namespace zkp {
 /// The share of a row's group in the group around it, from the records of a totals report.
 class Percentages {
 public:
-    Percentages(ReportState& state, const ColumnList& columns, const GridSurface& surface, Host& host,
-                LoadNotes& notes)
+    Percentages(ReportState& state, const ColumnList& columns, const GridSurface& surface,
+                MessageBoxes& boxes, LoadNotes& notes)
         : state_(state)
         , columns_(columns)
         , surface_(surface)
-        , host_(host)
+        , boxes_(boxes)
         , notes_(notes) {}
 
     /// The share of the group that the keys of row `r` name to level + 1 in the one that they name to
@@ -39,7 +39,7 @@ private:
     ReportState& state_;
     const ColumnList& columns_;
     const GridSurface& surface_;
-    Host& host_;
+    MessageBoxes& boxes_;
     LoadNotes& notes_;
     GroupValueIndex index_;
     bool told_ = false;

@@ -23,26 +23,20 @@ void RowReader::LoadRows() {
         hasTotals_ = reading_ = false;
         state_.PaintReady = state_.ContentSeen = true;
         surface_.setRedraw(true);
-        host_.setPointer(kPointerDefault);
+        pointer_.setPointer(kPointerDefault);
     });
     percentages_.tellFailuresAgain();
-    try {
+    const auto read = [this] {
         Q_EMIT events_.StartFilling();
         state_.throwIfDestroyed();
-        host_.setPointer(kPointerHourglass);
+        pointer_.setPointer(kPointerHourglass);
         surface_.setRedraw(false);
         const ado::RecordsetPtr records = state_.ReportRecordset; // a handler may just have given another
         if (records && !(records->Bof() && records->Eof()))
             readRecords(records);
         surface_.Refresh();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        notes_.failed(error);
-        host_.msgBox(texts::readFailed(), kMsgBoxCritical);
-    }
+    };
+    reporting_.run(read, [this](const Error&) { boxes_.msgBox(texts::readFailed(), kMsgBoxCritical); });
     Q_EMIT events_.StopFillIng();
     state_.throwIfDestroyed();
     if (state_.LoadFinished)

@@ -2,9 +2,10 @@
 
 #include "core/column_properties.h"
 #include "core/events.h"
-#include "core/load_notes.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/message_boxes.h"
+#include "host/pointer.h"
 #include "load/cell_plan.h"
 #include "load/group_rows.h"
 #include "load/percentages.h"
@@ -21,18 +22,19 @@ namespace zkp {
 class RowReader {
 public:
     RowReader(ReportState& state, ColumnProperties& properties, const ColumnList& columns,
-              GridSurface& surface, Events& events, Host& host, GroupRows& groups, TotalsRows& totals,
-              Percentages& percentages, LoadNotes& notes)
+              GridSurface& surface, Events& events, MessageBoxes& boxes, Pointer& pointer,
+              const Reporting& reporting, GroupRows& groups, TotalsRows& totals, Percentages& percentages)
         : state_(state)
         , properties_(properties)
         , columns_(columns)
         , surface_(surface)
         , events_(events)
-        , host_(host)
+        , boxes_(boxes)
+        , pointer_(pointer)
+        , reporting_(reporting)
         , groups_(groups)
         , totals_(totals)
-        , percentages_(percentages)
-        , notes_(notes) {}
+        , percentages_(percentages) {}
 
     /// Any failure but a missing field ends the loop with a box; the rows read so far stay, and
     /// `StopFillIng` is raised all the same.
@@ -55,11 +57,12 @@ private:
     const ColumnList& columns_;
     GridSurface& surface_;
     Events& events_;
-    Host& host_;
+    MessageBoxes& boxes_;
+    Pointer& pointer_;
+    Reporting reporting_;
     GroupRows& groups_;
     TotalsRows& totals_;
     Percentages& percentages_;
-    LoadNotes& notes_;
     std::optional<CellPlan> plan_; ///< while rows are read
     bool reading_ = false;         ///< a handler may call again; it is refused
     bool hasTotals_ = false;       ///< this load has rows for its totals

@@ -1,13 +1,11 @@
 #include "load/sorting.h"
 
-#include "base/error_in_flight.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
 #include "base/value.h"
 #include "core/enums.h"
 #include "core/keep_alive.h"
 #include "core/paint_scopes.h"
-#include "host/error_box.h"
 
 #include <algorithm>
 
@@ -26,48 +24,37 @@ bool isAggregate(const QString& field) {
 
 // --- In place
 
-template <class Step>
-void RowSorting::passOverErrors(Step step) {
-    try {
-        step();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-    }
-    state_.throwIfDestroyed();
-}
-
 void RowSorting::SortGrid(int mv) {
-    passOverErrors([this] { LoadHooks::run(hooks_.RedrawRow, state_.PreRow); });
-    passOverErrors([&] { surface_.setSort(mv); });
+    reporting_.passOver([this] { LoadHooks::run(hooks_.RedrawRow, state_.PreRow); });
+    reporting_.passOver([&] { surface_.setSort(mv); });
 }
 
 void RowSorting::Sort(int mv) {
     const bool redraw = surface_.Redraw();
     const ScopeGuard restore([&] { surface_.setRedraw(redraw); });
     surface_.setRedraw(false); // a view hears once of all that happens here
-    passOverErrors([this] { LoadHooks::run(hooks_.RedrawRow, state_.PreRow); });
+    reporting_.passOver([this] { LoadHooks::run(hooks_.RedrawRow, state_.PreRow); });
     state_.sortOut = true; // for good, as wanted
     {
         const SelectionQuiet quiet(state_); // the mark goes on once the rows stand
         sortAllButLast(mv);
     }
     surface_.Refresh();
-    passOverErrors([this] { LoadHooks::run(hooks_.Selectrow); });
-    passOverErrors([this] { numberRows(); });
+    reporting_.passOver([this] { LoadHooks::run(hooks_.Selectrow); });
+    reporting_.passOver([this] { numberRows(); });
 }
 
 void RowSorting::sortAllButLast(int mv) {
-    passOverErrors([this] { control_.setRow(1); });
-    passOverErrors([this] {
+    reporting_.passOver([this] { control_.setRow(1); });
+    reporting_.passOver([this] {
         if (state_.SortColumn)
             surface_.setCol(*state_.SortColumn);
     });
-    passOverErrors([this] { control_.setRow(1); });
-    passOverErrors([this] { surface_.setRowSel(surface_.Rows() - 2); });
+    reporting_.passOver([this] { control_.setRow(1); });
+    reporting_.passOver([this] { surface_.setRowSel(surface_.Rows() - 2); });
     // With one row selected the surface would take the whole body, the last row with it.
     if (surface_.RowSel() != surface_.Row())
-        passOverErrors([&] { surface_.setSort(mv); });
+        reporting_.passOver([&] { surface_.setSort(mv); });
 }
 
 /// A row without any text keeps its old number.
@@ -100,16 +87,8 @@ void RowSorting::SortByDirection() {
 }
 
 void RowSorting::sortAndTell(const IsDescending& isDescending) {
-    const ScopeGuard restore([this] { host_.setPointer(kPointerDefault); });
-    try {
-        sortAndLoad(isDescending);
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-        const Error error = errorInFlight();
-        state_.throwIfDestroyed();
-        ShowError(host_, error);
-    }
+    const ScopeGuard restore([this] { pointer_.setPointer(kPointerDefault); });
+    reporting_.run([&] { sortAndLoad(isDescending); });
 }
 
 void RowSorting::sortAndLoad(const IsDescending& isDescending) {
@@ -117,7 +96,7 @@ void RowSorting::sortAndLoad(const IsDescending& isDescending) {
     state_.SortColumn = column;
     Q_EMIT events_.StartSorting();
     state_.throwIfDestroyed();
-    host_.setPointer(kPointerHourglass);
+    pointer_.setPointer(kPointerHourglass);
     LoadHooks::run(hooks_.RedrawRow, state_.PreRow);
     if (!state_.TotalForm && state_.SqlOnRunTime)
         orderDetailReport(column, isDescending);
@@ -127,7 +106,7 @@ void RowSorting::sortAndLoad(const IsDescending& isDescending) {
     state_.throwIfDestroyed();
     control_.setRow(1);
     state_.throwIfDestroyed();
-    host_.setPointer(kPointerDefault);
+    pointer_.setPointer(kPointerDefault);
     Q_EMIT events_.StopSorting();
     state_.throwIfDestroyed();
 }

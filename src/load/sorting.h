@@ -3,7 +3,8 @@
 #include "core/column_properties.h"
 #include "core/events.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "core/reporting.h"
+#include "host/pointer.h"
 #include "load/load_hooks.h"
 #include "load/row_comparison.h"
 #include "sql/field_expressions.h"
@@ -25,14 +26,16 @@ public:
     };
 
     RowSorting(BuilderInputs& inputs, FieldExpressions& fields, ColumnProperties& properties,
-               GridSurface& surface, Events& events, Host& host, const LoadHooks& hooks, Control control)
+               GridSurface& surface, Events& events, Pointer& pointer, const Reporting& reporting,
+               const LoadHooks& hooks, Control control)
         : inputs_(inputs)
         , state_(inputs.state)
         , fields_(fields)
         , properties_(properties)
         , surface_(surface)
         , events_(events)
-        , host_(host)
+        , pointer_(pointer)
+        , reporting_(reporting)
         , hooks_(hooks)
         , control_(std::move(control)) {}
 
@@ -54,8 +57,6 @@ private:
     /// Whether the order by an expression is descending.
     using IsDescending = std::function<bool(const QString& expr)>;
 
-    template <class Step>
-    void passOverErrors(Step step);
     void sortAllButLast(int mv);
     void numberRows();
     bool showsText(int row, int butColumn) const;
@@ -77,7 +78,8 @@ private:
     ColumnProperties& properties_;
     GridSurface& surface_;
     Events& events_;
-    Host& host_;
+    Pointer& pointer_;
+    Reporting reporting_;
     const LoadHooks& hooks_;
     Control control_;
 };

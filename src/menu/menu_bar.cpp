@@ -13,13 +13,6 @@ namespace {
     throw Error(kErrItemNotFound, QStringLiteral("There is no tool \"%1\"").arg(name));
 }
 
-/// Calls a copy, since the function may put another one in its place while it runs.
-template <class... Args>
-void call(std::function<void(Args...)> function, Args... args) {
-    if (function)
-        function(args...);
-}
-
 } // namespace
 
 Tool& Band::Tools(QStringView name) const {
@@ -76,28 +69,35 @@ bool MenuBar::isHeard(const Tool& tool) const {
     case ToolKind::Label:
         return true;
     case ToolKind::List:
-        return listChanged != nullptr;
+        return !listChanged.isEmpty();
     case ToolKind::Text:
-        return textChanged != nullptr;
+        return !textChanged.isEmpty();
     default:
-        return toolClicked != nullptr;
+        return !toolClicked.isEmpty();
     }
 }
 
 void MenuBar::Refresh() {
-    call(changed);
+    views.tell([](const MenuBarView& view) {
+        if (view.changed)
+            view.changed();
+    });
 }
 
 void MenuBar::popup(QStringView band) {
     const Band& opened = Bands(band);
     lastPopup_ = opened.Name;
-    call<const Band&>(popupWanted, opened);
+    bool isOpen = false;
+    views.tell([&](const MenuBarView& view) {
+        if (view.popupWanted)
+            view.popupWanted(opened, isOpen);
+    });
 }
 
 void MenuBar::click(QStringView tool) {
     const std::shared_ptr<Tool> clicked = needTool(tool);
     if (clicked->Enabled)
-        call<Tool&>(toolClicked, *clicked);
+        toolClicked.notify(*clicked);
 }
 
 void MenuBar::changeList(QStringView tool, int index) {
@@ -108,7 +108,7 @@ void MenuBar::changeList(QStringView tool, int index) {
         return;
     list->ListIndex = index;
     list->Text = index < 0 ? QString() : list->list[index];
-    call<Tool&>(listChanged, *list);
+    listChanged.notify(*list);
 }
 
 void MenuBar::changeText(QStringView tool, const QString& text) {
@@ -116,7 +116,7 @@ void MenuBar::changeText(QStringView tool, const QString& text) {
     if (!box->Enabled)
         return;
     box->Text = text;
-    call<Tool&>(textChanged, *box);
+    textChanged.notify(*box);
 }
 
 } // namespace zkp

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/listeners.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -39,15 +41,22 @@ struct Band {
     Tool& Tools(QStringView name) const;
 };
 
+/// What a view of the bar wants to hear. Each may be empty.
+struct MenuBarView {
+    std::function<void()> changed = {}; ///< anything
+    /// This band is to open as a popup at the pointer. All views hear of it; the first that opens it says
+    /// so in `isOpen`, and the others leave it at that.
+    std::function<void(const Band& band, bool& isOpen)> popupWanted = {};
+};
+
 /// The menu and template bar as a plain model: bands of tools, and what the user does with them.
 class MenuBar {
 public:
-    std::function<void(Tool&)> toolClicked;
-    std::function<void(Tool&)> listChanged;
-    std::function<void(Tool&)> textChanged;
-    /// For a view: something changed; and: open this band as a popup at the pointer.
-    std::function<void()> changed;
-    std::function<void(const Band&)> popupWanted;
+    using ToolListeners = Listeners<std::function<void(Tool&)>>;
+    ToolListeners toolClicked;
+    ToolListeners listChanged;
+    ToolListeners textChanged;
+    Listeners<MenuBarView> views;
 
     bool Visible = true;
 
@@ -64,7 +73,7 @@ public:
     bool isHeard(const Tool& tool) const;
     const std::vector<std::unique_ptr<Band>>& bands() const { return bands_; }
 
-    /// Tells the view that tools changed.
+    /// Tells the views that tools changed.
     void Refresh();
     /// Opens a band as a popup menu; `lastPopup` keeps its name.
     void popup(QStringView band);

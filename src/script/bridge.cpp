@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QThread>
 
 namespace zkp::script {
 
@@ -23,6 +24,12 @@ QObject& targetOf(ScriptObject& object, const ScriptMember& member) {
 
 QString Bridge::bridgeFile() {
     return QStringLiteral("file:zkp:bridge");
+}
+
+/// A loop of the host's would find objects gone that it is in the middle of.
+void Bridge::deleteGivenUp() {
+    if (QThread::currentThread()->loopLevel() == 0)
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 Bridge::Bridge(QJSEngine& engine)
@@ -87,7 +94,7 @@ QJSValue Bridge::facade(const ScriptObjectPtr& object) {
     }
     if (++handlesSinceSweep_ > kHandlesPerSweep) {
         handlesSinceSweep_ = 0;
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        deleteGivenUp();
         std::erase_if(shared_, [](const auto& entry) { return entry.second.expired(); });
         std::erase_if(handles_,
                       [&](const auto& entry) { return !entry.second && entry.first != object.get(); });

@@ -66,6 +66,8 @@ public:
 
     /// A thrown value's place in the script ("FILE:LINE") is set right if it points into the bridge.
     void locate(const QJSValue& error);
+    /// What the script engine gave up waits for an event loop to delete it; where none runs, it goes now.
+    static void deleteGivenUp();
     /// The file that bridge.js goes by in places and traces, in the engine's own form.
     static QString bridgeFile();
 

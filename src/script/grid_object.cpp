@@ -55,4 +55,10 @@ int GridObject::UserControl_KeyPress(int& KeyAscii) {
     return KeyAscii;
 }
 
+void GridObject::destroy() {
+    if (!control_->isDestroyed() && !control_->isScripts())
+        throw Error(kErrIllegalOperation, QStringLiteral("the control is the host's"));
+    control_->destroy();
+}
+
 } // namespace zkp::script

@@ -43,8 +43,9 @@ public:
     /// The codes are in and out: what a handler left of them comes back in the caller's object too.
     Q_INVOKABLE int UserControl_KeyDown(int& KeyCode, int Shift);
     Q_INVOKABLE int UserControl_KeyPress(int& KeyAscii);
-    /// Ends the control at once. Whatever is asked of it afterwards is Error kErrObjectNotSet.
-    Q_INVOKABLE void destroy() { control_->destroy(); }
+    /// Ends the control at once. Whatever is asked of it afterwards is Error kErrObjectNotSet. One of the
+    /// host's is Error kErrIllegalOperation.
+    Q_INVOKABLE void destroy();
 
 private:
     ScriptObjectPtr surface(GridSurface& (ZkpGrid::*which)()) const;

@@ -64,12 +64,13 @@ void ScriptClass::addMethods(const QMetaObject& from, bool onDelegate) {
     }
 }
 
-/// `setX(value)` without anything that reads X is a property X that can be written only.
+/// `setX(value)` without anything that reads X is a property X that can be written only, unless it answers.
 void ScriptClass::findWriteOnlyProperties() {
     const QLatin1String set("set");
     for (ScriptMember& member : members_) {
         if (!member.isMethod || !member.name.startsWith(set) || member.overloads.size() != 1 ||
-            member.overloads.front().parameterCount() != 1)
+            member.overloads.front().parameterCount() != 1 ||
+            member.overloads.front().returnMetaType() != QMetaType::fromType<void>())
             continue;
         const QString plainName = member.name.mid(set.size());
         if (plainName.isEmpty() || find(plainName))

@@ -17,14 +17,15 @@ ZkpGrid& ScriptControl::grid() {
 }
 
 EventHandlers& ScriptControl::handlers() {
-    if (!handlers_)
+    if (!grid_ || !handlers_)
         destroyed();
     return *handlers_;
 }
 
 void ScriptControl::destroy() {
     handlers_.reset();
-    grid_.reset();
+    grid_.clear();
+    own_.reset();
 }
 
 } // namespace zkp::script

@@ -39,7 +39,24 @@ public:
     }
     const QString& factor(int i) const { return state.GroupFactors[i]; }
 
-    void setFilter(const QString& text) { write(state.Filter, text, QStringLiteral("Filter")); }
+    void setFilter(const QString& text) {
+        if (isFilterTyped())
+            typedInForce_ = text;
+        write(state.Filter, text, QStringLiteral("Filter"));
+    }
+    /// Gives `Filter` a condition that a person typed.
+    void setTypedFilter(const QString& condition) {
+        typed_ = condition;
+        typedInForce_ = condition;
+        write(state.Filter, condition, QStringLiteral("Filter"));
+    }
+    /// Whether `Filter` is what a person typed, or what the builders have made of it.
+    bool isFilterTyped() const { return !typed_.isEmpty() && state.Filter == typedInForce_; }
+    /// Puts a typed filter back as it was before the builders wrote over it.
+    void beginFilter() {
+        if (isFilterTyped() && state.Filter != typed_)
+            setFilter(typed_);
+    }
     void setGroupby(const QString& text) { write(state.Groupby, text, QStringLiteral("Groupby")); }
     void setOrderBy(const QString& text) { write(state.OrderBy, text, QStringLiteral("OrderBy")); }
 
@@ -51,6 +68,8 @@ private:
 
     const GridSurface& surface_;
     RecordSource source_;
+    QString typed_;        ///< the last condition that a person typed
+    QString typedInForce_; ///< `Filter` as it was last written for that condition
     Events& events_;
 };
 

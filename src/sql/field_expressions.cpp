@@ -36,7 +36,7 @@ QString FieldExpressions::makefldSql(const QString& FieldName, QString& Tables, 
         addTable(read(row, u"SourceTableName"), Tables);
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::fieldItemFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::fieldItemFailed(), kMsgBoxCritical);
     }
     return item;
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "sql/builder_inputs.h"
 
 #include <memory>
@@ -11,9 +11,9 @@ namespace zkp {
 /// Turns one dictionary key into a select item.
 class FieldExpressions {
 public:
-    FieldExpressions(BuilderInputs& inputs, Host& host)
+    FieldExpressions(BuilderInputs& inputs, MessageBoxes& boxes)
         : inputs_(inputs)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// The item of a key, with " AS [KEY]" when an alias is wanted; `Tables` gains the field's table.
     /// Empty for an unknown key (or with no dictionary); one blank when the source's columns can't be
@@ -29,7 +29,7 @@ private:
     static void addTable(const QVariant& table, QString& Tables);
 
     BuilderInputs& inputs_;
-    Host& host_;
+    MessageBoxes& boxes_;
 
     struct Source {
         std::weak_ptr<ado::Connection> connection;

@@ -1,9 +1,11 @@
 #include "sql/filter_translation.h"
 
+#include "base/error.h"
 #include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts.h"
-#include "sql/statement_text.h"
+#include "sql/filter_keys.h"
+#include "sql/guarded_filter.h"
 
 #include <utility>
 
@@ -11,84 +13,80 @@ namespace zkp {
 
 namespace {
 
-/// What may stand around a key for it to be replaced, in this order. Rows 7, 8 and 11 never find
-/// anything, since rows 5, 6 and 10 have taken their text; they stay, and so does the order.
-struct Surroundings {
-    const char* before;
-    const char* after;
-};
-constexpr Surroundings kPatterns[] = {
-    {" ", " "},  {"(", ")"}, {"(", " "}, {"(", "="}, {"(", ">"}, {"(", "<"}, {"(", ">="},
-    {"(", "<="}, {"", "="},  {"", ">"},  {"", ">="}, {"", "<="}, {"", "<>"}, {"", "<"},
-};
+const QString kEverything = QStringLiteral("0=0");
+const QString kNothing = QStringLiteral(" 0=1 ");
 
 } // namespace
 
-bool replaceKey(QString& filter, const QString& key, const QString& physical) {
-    if (!filter.contains(key))
-        return false;
-    if (filter.startsWith(key))
-        filter.prepend(u' ');
-    for (const Surroundings& around : kPatterns) {
-        const QLatin1String before(around.before);
-        const QLatin1String after(around.after);
-        filter.replace(before + key + after, before + physical + after);
+/// A filter on its way, all in capitals, constants too: what the host wrote, and behind it what a person
+/// typed, if anything.
+class FilterTranslation::Text {
+public:
+    /// The report's standing condition in front. An empty filter leaves a dangling " and ", as wanted, and a
+    /// host's filter that holds the condition's text already does not get it again.
+    Text(const ReportState& state, bool isTyped) {
+        const QString given = nameKey(state.Filter);
+        const QString standing = nameKey(state.MasterFilter);
+        if (!standing.isEmpty() && (isTyped || !given.contains(standing)))
+            hosts_ = u'(' + standing + QStringLiteral(") and ");
+        if (isTyped)
+            typed_.emplace(given);
+        else
+            hosts_ += given;
     }
-    return true;
-}
+
+    /// False when the key does not occur.
+    bool replaceKey(const QString& key, const QString& physical) {
+        const bool inHosts = zkp::replaceKey(hosts_, key, physical);
+        return (typed_ && typed_->replaceKey(key, physical)) || inHosts;
+    }
+
+    QString whole() const { return typed_ ? hosts_ + typed_->text() : hosts_; }
+    QString refusal() const { return typed_ ? typed_->refusal() : QString(); }
+
+private:
+    QString hosts_;
+    std::optional<WatchedCondition> typed_;
+};
 
 void FilterTranslation::TranslateFilter(QString& Tables) {
     const ReportState& state = inputs_.state;
+    inputs_.beginFilter();
+    const bool isTyped = inputs_.isFilterTyped();
     const QString given = nameKey(state.Filter);
-    if (isBlank(state.clmns) ||
-        (isBlank(state.MasterFilter) && (given.isEmpty() || given == QStringLiteral("TRUE"))))
+    const bool letsAllPass =
+        given.isEmpty() || given == QStringLiteral("TRUE") || (isTyped && given == kEverything);
+    if (isBlank(state.clmns) || (isBlank(state.MasterFilter) && letsAllPass))
         return;
     try {
-        ado::Recordset row;
-        row.Open(state.clmns, state.Cn, -1, -1, ado::adCmdTable);
-        QString filter = startingText();
-        QString capitals; // of the filter, while `isCurrent`; made only for a row that asks
-        bool isCurrent = false;
-        const QString master = nameKey(state.MasterTable);
-        QString physical;
-        for (; !row.Eof(); row.MoveNext()) {
-            const QString key = nameKey(textOf(row.Fields().Item(u"dtfld").Value()));
-            const QString field = nameKey(textOrEmpty(row.Fields().Item(u"SOURCEFIELDNAME").Value()));
-            const QVariant table = row.Fields().Item(u"SourceTableName").Value();
-            const QString tableName = nameKey(textOrEmpty(table));
-            bool replaces = true;
-            if (!field.isEmpty())
-                physical = u'[' + tableName + QStringLiteral("].[") + field + u']';
-            else if (const QString expression = textOrEmpty(row.Fields().Item(u"Expr").Value());
-                     !isBlank(expression))
-                physical = u' ' + expression;
-            else
-                replaces = false; // the physical text of the row before stands, as wanted
-            if (replaces && replaceKey(filter, key, physical))
-                isCurrent = false;
-
-            if (!table.isValid() || tableName == master || Tables.contains(u' ' + tableName + u' '))
-                continue;
-            if (!std::exchange(isCurrent, true))
-                capitals = nameKey(filter);
-            if (capitals.contains(physical))
-                Tables += QStringLiteral(", ") + tableName + u' ';
-        }
-        inputs_.setFilter(filter);
+        Text text(state, isTyped);
+        translate(text, Tables);
+        if (!text.refusal().isEmpty())
+            throw Error(kErrInvalidCall, text.refusal());
+        inputs_.setFilter(text.whole());
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::filterFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::filterFailed(), kMsgBoxCritical);
+        if (isTyped)
+            inputs_.setFilter(kNothing);
     }
 }
 
-/// The user's filter with the report's standing condition in front, all in capitals, constants too.
-/// An empty filter leaves a dangling " and ", as wanted.
-QString FilterTranslation::startingText() const {
-    const QString given = nameKey(inputs_.state.Filter);
-    const QString standing = nameKey(inputs_.state.MasterFilter);
-    if (!standing.isEmpty() && !given.contains(standing))
-        return u'(' + standing + QStringLiteral(") and ") + given;
-    return given;
+void FilterTranslation::translate(Text& text, QString& Tables) {
+    const QString master = nameKey(inputs_.state.MasterTable);
+    QString capitals; // of the filter, while `isCurrent`; made only for a row that asks
+    bool isCurrent = false;
+    for (FilterKeys keys(inputs_.state); keys.next();) {
+        if (keys.hasPhysical() && text.replaceKey(keys.key(), keys.physical()))
+            isCurrent = false;
+        const std::optional<QString>& table = keys.table();
+        if (!table || *table == master || Tables.contains(u' ' + *table + u' '))
+            continue;
+        if (!std::exchange(isCurrent, true))
+            capitals = nameKey(text.whole());
+        if (capitals.contains(keys.physical()))
+            Tables += QStringLiteral(", ") + *table + u' ';
+    }
 }
 
 } // namespace zkp

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "sql/builder_inputs.h"
 
 namespace zkp {
@@ -9,23 +9,24 @@ namespace zkp {
 /// each dictionary row; what they don't match passes unchanged.
 class FilterTranslation {
 public:
-    FilterTranslation(BuilderInputs& inputs, Host& host)
+    FilterTranslation(BuilderInputs& inputs, MessageBoxes& boxes)
         : inputs_(inputs)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// Overwrites `Filter`; `Tables` gains the tables that the filter needs. On a failure a box shows
     /// and `Filter` stays.
+    ///
+    /// A person's filter is always translated from what was typed, with the standing condition in front.
+    /// One that can't be kept to its brackets then lets nothing through, nor does one whose standing
+    /// condition can't be translated.
     void TranslateFilter(QString& Tables);
 
 private:
-    QString startingText() const;
+    class Text;
+    void translate(Text& text, QString& Tables);
 
     BuilderInputs& inputs_;
-    Host& host_;
+    MessageBoxes& boxes_;
 };
-
-/// One dictionary row's fourteen replacements of a key by its physical text, in their fixed order. False
-/// when the key does not occur at all, and the filter is as it was.
-bool replaceKey(QString& filter, const QString& key, const QString& physical);
 
 } // namespace zkp

@@ -28,6 +28,7 @@ QString GroupedStatement::GroupedSQL() {
     const ReportState& state = inputs_.state;
     if (isBlank(state.Groupby))
         return {};
+    inputs_.beginFilter();
     QString select = state.Groupby + QStringLiteral(", Count(*) As Cnt");
     const QString order = orderText();
     const QString wanted = wantedColumns();

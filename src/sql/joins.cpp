@@ -27,7 +27,7 @@ QString Joins::MakeFromAndJoins(QString& Tables) {
         }
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::fromFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::fromFailed(), kMsgBoxCritical);
     }
     return from;
 }
@@ -48,7 +48,7 @@ QString Joins::FindJoinON(const QString& Table) {
                QStringLiteral("] = [") + nameKey(Table) + QStringLiteral("].[") + foreignKey + u']';
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::joinFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::joinFailed(), kMsgBoxCritical);
         return {};
     }
 }

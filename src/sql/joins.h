@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "sql/builder_inputs.h"
 
 namespace zkp {
@@ -8,9 +8,9 @@ namespace zkp {
 /// The FROM clause: left joins from the master table to every table that fields and filter touch.
 class Joins {
 public:
-    Joins(BuilderInputs& inputs, Host& host)
+    Joins(BuilderInputs& inputs, MessageBoxes& boxes)
         : inputs_(inputs)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// The text behind " FROM " for a list of tables (", NAME , NAME "); `Tables` gains `FilterTables`.
     /// Each table but the master is joined, one that is listed twice twice. A failure shows a box.
@@ -21,7 +21,7 @@ public:
 
 private:
     BuilderInputs& inputs_;
-    Host& host_;
+    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

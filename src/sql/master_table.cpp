@@ -26,7 +26,7 @@ void MasterTableLookup::FindMaster() {
         state.MasterFilter = textOrEmpty(row.Fields().Item(u"MasterFilter").Value());
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::masterTableFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::masterTableFailed(), kMsgBoxCritical);
     }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "sql/builder_inputs.h"
 
 namespace zkp {
@@ -8,9 +8,9 @@ namespace zkp {
 /// The report's master table, its key and its standing condition, as table `Reports` has them.
 class MasterTableLookup {
 public:
-    MasterTableLookup(BuilderInputs& inputs, Host& host)
+    MasterTableLookup(BuilderInputs& inputs, MessageBoxes& boxes)
         : inputs_(inputs)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// Sets `MasterTable`, `RKeyname` and `MasterFilter`. A source without a row there has no master
     /// table and no key; `MasterFilter` then stays as it was, as wanted. A failure shows a box.
@@ -18,7 +18,7 @@ public:
 
 private:
     BuilderInputs& inputs_;
-    Host& host_;
+    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

@@ -19,6 +19,7 @@ QString bracketed(const QString& name) {
 QString NormalStatement::NormalSQL() {
     QString statement;
     try {
+        inputs_.beginFilter();
         if (isBlank(inputs_.state.Filter))
             inputs_.setFilter(QStringLiteral(" true "));
         const QString fields = selectList();
@@ -36,7 +37,7 @@ QString NormalStatement::NormalSQL() {
             statement += QStringLiteral(" order by ") + order;
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::normalFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::normalFailed(), kMsgBoxCritical);
     }
     return statement;
 }

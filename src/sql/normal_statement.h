@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "sql/hierarchy.h"
 
 namespace zkp {
@@ -8,10 +8,10 @@ namespace zkp {
 /// The detail statement over the source's own column names: no dictionary, no joins, no translation.
 class NormalStatement {
 public:
-    NormalStatement(BuilderInputs& inputs, Hierarchy& hierarchy, Host& host)
+    NormalStatement(BuilderInputs& inputs, Hierarchy& hierarchy, MessageBoxes& boxes)
         : inputs_(inputs)
         , hierarchy_(hierarchy)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// A blank `Filter` becomes " true ". A failure shows a box and gives what was built.
     QString NormalSQL();
@@ -23,7 +23,7 @@ private:
 
     BuilderInputs& inputs_;
     Hierarchy& hierarchy_;
-    Host& host_;
+    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

@@ -12,7 +12,7 @@ QString PercentageStatement::RunTimePosSql() {
         return build();
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::percentagesFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::percentagesFailed(), kMsgBoxCritical);
         return {};
     }
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/message_boxes.h"
 #include "sql/field_expressions.h"
 #include "sql/hierarchy.h"
 #include "sql/joins.h"
@@ -12,13 +13,13 @@ namespace zkp {
 class PercentageStatement {
 public:
     PercentageStatement(BuilderInputs& inputs, MasterTableLookup& master, FieldExpressions& fields,
-                        Joins& joins, Hierarchy& hierarchy, Host& host)
+                        Joins& joins, Hierarchy& hierarchy, MessageBoxes& boxes)
         : inputs_(inputs)
         , master_(master)
         , fields_(fields)
         , joins_(joins)
         , hierarchy_(hierarchy)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// Empty when `Groupby` is blank. A failure shows a box and gives what was built.
     QString RunTimePosSql();
@@ -32,7 +33,7 @@ private:
     FieldExpressions& fields_;
     Joins& joins_;
     Hierarchy& hierarchy_;
-    Host& host_;
+    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

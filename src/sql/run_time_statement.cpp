@@ -26,7 +26,7 @@ QString RunTimeStatement::RunTimeSQL() {
             statement += QStringLiteral(" Order By ") + order;
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::runTimeFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::runTimeFailed(), kMsgBoxCritical);
     }
     inputs_.state.SQLRun = statement;
     return statement;
@@ -42,7 +42,7 @@ QString RunTimeStatement::RunTimeSQLCounter() {
                inputs_.state.Filter;
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::counterFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::counterFailed(), kMsgBoxCritical);
         return {};
     }
 }

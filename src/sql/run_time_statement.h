@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/message_boxes.h"
 #include "sql/field_expressions.h"
 #include "sql/filter_translation.h"
 #include "sql/hierarchy.h"
@@ -12,13 +13,13 @@ namespace zkp {
 class RunTimeStatement {
 public:
     RunTimeStatement(BuilderInputs& inputs, FieldExpressions& fields, Joins& joins,
-                     FilterTranslation& translation, Hierarchy& hierarchy, Host& host)
+                     FilterTranslation& translation, Hierarchy& hierarchy, MessageBoxes& boxes)
         : inputs_(inputs)
         , fields_(fields)
         , joins_(joins)
         , translation_(translation)
         , hierarchy_(hierarchy)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// Also kept in `SQLRun`. A failure shows a box and gives what was built, usually nothing.
     QString RunTimeSQL();
@@ -36,7 +37,7 @@ private:
     Joins& joins_;
     FilterTranslation& translation_;
     Hierarchy& hierarchy_;
-    Host& host_;
+    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

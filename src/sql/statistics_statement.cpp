@@ -51,7 +51,7 @@ QString StatisticsStatement::RunTimeStatsSQL() {
         statement = build(tables);
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
-        host_.msgBox(texts::statisticsFailed(), kMsgBoxCritical);
+        boxes_.msgBox(texts::statisticsFailed(), kMsgBoxCritical);
     }
     inputs_.state.SQLRun = statement;
     return statement;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/message_boxes.h"
 #include "sql/dictionary.h"
 #include "sql/field_expressions.h"
 #include "sql/filter_translation.h"
@@ -13,14 +14,14 @@ namespace zkp {
 class StatisticsStatement {
 public:
     StatisticsStatement(BuilderInputs& inputs, Dictionary& dictionary, FieldExpressions& fields, Joins& joins,
-                        FilterTranslation& translation, Hierarchy& hierarchy, Host& host)
+                        FilterTranslation& translation, Hierarchy& hierarchy, MessageBoxes& boxes)
         : inputs_(inputs)
         , dictionary_(dictionary)
         , fields_(fields)
         , joins_(joins)
         , translation_(translation)
         , hierarchy_(hierarchy)
-        , host_(host) {}
+        , boxes_(boxes) {}
 
     /// Overwrites `Filter`, `Groupby` (physical from here on), `OrderBy` and `SQLRun`. Without group
     /// factors only `Filter`, and there is no statement. A failure shows a box and gives what was
@@ -40,7 +41,7 @@ private:
     Joins& joins_;
     FilterTranslation& translation_;
     Hierarchy& hierarchy_;
-    Host& host_;
+    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

@@ -139,29 +139,30 @@ void GridSurface::Refresh() {
 }
 
 void GridSurface::SetFocus() {
-    Data::raise(view.focusWanted);
+    views.tell([](const SurfaceView& view) { Data::raise(view.focusWanted); });
 }
 
 void GridSurface::Data::changed() {
     changePending = !redraw;
     if (redraw)
-        raise(surface.view.changed);
+        surface.views.tell([](const SurfaceView& view) { raise(view.changed); });
 }
 
 void GridSurface::Data::tellRow(int row) {
-    if (surface.view.rowChanged)
-        raise(surface.view.rowChanged, row);
-    else
-        raise(surface.view.changed);
+    surface.views.tell([row](const SurfaceView& view) {
+        if (view.rowChanged)
+            view.rowChanged(row);
+        else
+            raise(view.changed);
+    });
 }
 
 void GridSurface::Data::scrolled() {
-    if (!redraw)
+    if (!redraw) {
         changePending = true;
-    else if (surface.view.scrolled)
-        raise(surface.view.scrolled);
-    else
-        raise(surface.view.changed);
+        return;
+    }
+    surface.views.tell([](const SurfaceView& view) { raise(view.scrolled ? view.scrolled : view.changed); });
 }
 
 // --- For the tests

@@ -2,6 +2,7 @@
 
 #include "base/bag_font.h"
 #include "base/decimal.h"
+#include "base/listeners.h"
 #include "base/report_locale.h"
 #include "surface/cell_binding.h"
 #include "surface/cell_range.h"
@@ -45,8 +46,9 @@ struct SurfaceMouse {
 /// Compares two rows of a custom sort: negative, 0 or positive.
 using RowCompare = std::function<int(int row1, int row2)>;
 
-/// What a surface tells its owner (the control). Each may be empty. They run on the caller's stack;
-/// one of them may destroy the surface's owner, which must then keep the surface alive itself.
+/// What a surface tells its owner (the control), and asks of it. Each may be empty. They run on the
+/// caller's stack; one of them may destroy the surface's owner, which must then keep the surface alive
+/// itself. They are the owner's alone: whoever else wants to hear is one of the `views`.
 struct SurfaceNotifications {
     std::function<void(const SurfaceMouse&)> mouseDown;
     std::function<void(const SurfaceMouse&)> mouseMove;
@@ -56,12 +58,14 @@ struct SurfaceNotifications {
     std::function<void(int& code, int shift)> keyDown;
     std::function<void(int& code, int shift)> keyUp;
     std::function<void(int& ascii)> keyPress;
-    std::function<void()> currentCellChanged; ///< `Row` or `Col` moved
-    std::function<void()> selectionChanged;   ///< the selected range moved
-    std::function<void()> selectedAgain;      ///< a user chose the cell that was current already
-    std::function<void()> scrolled;           ///< `TopRow` or `LeftCol` moved
-    std::function<void()> visibleRowsGrew;    ///< more rows show, with `TopRow` where it was
+    std::function<void()> currentCellChanged;   ///< `Row` or `Col` moved
+    std::function<void()> selectionChanged;     ///< the selected range moved
+    std::function<void()> selectedAgain;        ///< a user chose the cell that was current already
+    std::function<void()> scrolled;             ///< `TopRow` or `LeftCol` moved
+    std::function<void()> visibleRowsGrew;      ///< more rows show, with `TopRow` where it was
     std::function<void(int col)> columnResized; ///< -1: all of them
+    /// May the heading that was just pressed be dragged? Without it: yes.
+    std::function<bool(int col)> mayDragHeading;
     /// A heading was dropped; true lets the surface move the column, false leaves it where it is by then.
     std::function<bool(int from, int to)> headingDropped;
     /// A custom sort of these rows begins: gives what compares them until it has ended. With nothing
@@ -69,13 +73,15 @@ struct SurfaceNotifications {
     std::function<RowCompare(int firstRow, int lastRow)> compare;
 };
 
-/// What a view wants to hear. Called at every change unless `Redraw` is off; when it comes back on,
-/// one `changed` covers all that happened meanwhile.
+/// What a view wants to hear, or anybody else who follows what the surface shows. Each may be empty.
+/// Called at every change unless `Redraw` is off; when it comes back on, one `changed` covers all that
+/// happened meanwhile.
 struct SurfaceView {
-    std::function<void()> changed;           ///< anything: sizes, texts, styles, selection
-    std::function<void(int row)> rowChanged; ///< only this row (else `changed` is called)
-    std::function<void()> scrolled;          ///< only `TopRow` or `LeftCol`
-    std::function<void()> focusWanted;       ///< SetFocus
+    std::function<void()> changed = {};           ///< anything: sizes, texts, styles, selection
+    std::function<void(int row)> rowChanged = {}; ///< only this row (else `changed` is called)
+    std::function<void()> scrolled = {};          ///< only `TopRow` or `LeftCol`
+    std::function<void()> focusWanted = {};       ///< SetFocus
+    std::function<int()> room = {};               ///< asked: how many body rows fit
 };
 
 /// A table of text cells with row and column tags, styles, selection, merge, scroll position and
@@ -99,7 +105,7 @@ public:
     GridSurface& operator=(const GridSurface&) = delete;
 
     SurfaceNotifications notifications;
-    SurfaceView view;
+    Listeners<SurfaceView> views;
 
     void setLocale(const ReportLocale& locale);
     const ReportLocale& locale() const;
@@ -205,6 +211,8 @@ public:
     /// brings more rows into sight.
     int VisibleRows() const;
     void setVisibleRows(int rows);
+    /// How many body rows fit into the largest of the views; 0 without one.
+    int roomInViews() const;
 
     // --- Styles. The Cell... properties go to the current cell, or with `FillStyle` 1 to the selected block.
     int FillStyle() const;
@@ -312,6 +320,8 @@ public:
     void userScroll(int topRow, int leftCol);
     /// -1 as the column gives that width to all that are not hidden.
     void userResizeColumn(int col, int twips);
+    /// Whether the owner lets the heading go that was just pressed.
+    bool mayDragHeading(int col) const;
     /// An accepted drop moves the column; one outside the columns is nothing.
     void userDrop(int from, int to);
 

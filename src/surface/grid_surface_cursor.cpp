@@ -141,4 +141,13 @@ void GridSurface::setVisibleRows(int rows) {
         Data::raise(notifications.visibleRowsGrew);
 }
 
+int GridSurface::roomInViews() const {
+    int room = 0;
+    views.tell([&](const SurfaceView& view) {
+        if (view.room)
+            room = std::max(room, view.room());
+    });
+    return room;
+}
+
 } // namespace zkp

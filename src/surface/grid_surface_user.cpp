@@ -88,6 +88,11 @@ void GridSurface::userResizeColumn(int col, int twips) {
     Data::raise(notifications.columnResized, col);
 }
 
+bool GridSurface::mayDragHeading(int col) const {
+    const auto mayDrag = notifications.mayDragHeading;
+    return !mayDrag || mayDrag(col);
+}
+
 void GridSurface::userDrop(int from, int to) {
     const auto isOutside = [this](int col) { return col < 0 || col >= Cols(); };
     if (isOutside(from) || isOutside(to))

@@ -1,7 +1,6 @@
 #include "template/saved_properties.h"
 
 #include "base/error_in_flight.h"
-#include "host/error_box.h"
 #include "template/saved_reading.h"
 
 namespace zkp {
@@ -49,7 +48,7 @@ void SavedProperties::UserControl_WriteProperties(const PropertyBagPtr& bag) {
     try {
         writeAll(given(bag));
     } catch (...) {
-        ShowError(host_, errorInFlight());
+        reporting_.show(errorInFlight());
     }
 }
 
@@ -57,7 +56,7 @@ void SavedProperties::writeWhole(PropertyBag& bag) const {
     try {
         writeAll(bag);
     } catch (...) {
-        ShowError(host_, errorInFlight());
+        reporting_.show(errorInFlight());
         throw;
     }
 }
@@ -97,21 +96,10 @@ void SavedProperties::writeColumns(PropertyBag& bag) const {
     }
 }
 
-template <class Step>
-void SavedProperties::pass(Step step) const {
-    try {
-        step();
-    } catch (const ControlDestroyed&) {
-        throw;
-    } catch (...) {
-    }
-    state_.throwIfDestroyed(); // a handler of what the step reported
-}
-
 template <class Keys>
 void SavedProperties::passEach(const PropertyBag& bag, const Keys& keys) const {
     for (const char* spelling : keys)
-        pass([&] { readKey(bag, savedKeyReadAs(QString::fromLatin1(spelling))); });
+        reporting_.passOver([&] { readKey(bag, savedKeyReadAs(QString::fromLatin1(spelling))); });
 }
 
 void SavedProperties::readKey(const PropertyBag& bag, const SavedKey& key) const {
@@ -128,7 +116,7 @@ void SavedProperties::UserControl_ReadProperties(const PropertyBagPtr& given) {
     for (int i = 0; i < count; ++i)
         readColumn(*bag, i);
     readRest(*bag);
-    pass(hooks_.DrawInterface);
+    reporting_.passOver(hooks_.DrawInterface);
 }
 
 /// False when it ended in the error box.
@@ -139,7 +127,7 @@ bool SavedProperties::readFirst(const PropertyBagPtr& bag) {
             readKey(source, savedKeyReadAs(QString::fromLatin1(spelling)));
         return true;
     } catch (...) {
-        ShowError(host_, errorInFlight());
+        reporting_.show(errorInFlight());
         return false;
     }
 }
@@ -151,30 +139,30 @@ void SavedProperties::readColumn(const PropertyBag& bag, int index) {
     Column column;
     for (const SavedColumnKey& key : savedColumnKeys())
         if (!isNone(key.readDefault))
-            pass([&] { readInto(column, bag, key, spelling.of(key.read)); });
-    pass([&] { control_.surface.setFixedAlignment(index, kHeadingAlignment); });
+            reporting_.passOver([&] { readInto(column, bag, key, spelling.of(key.read)); });
+    reporting_.passOver([&] { control_.surface.setFixedAlignment(index, kHeadingAlignment); });
     columns_.Add(column);
     bringUpToDate(index, column);
 }
 
 void SavedProperties::bringUpToDate(int index, const Column& column) {
     ColumnProperties& live = columnProperties_;
-    pass([&] { live.setColCaption(index, column.Caption); });
-    pass([&] { live.setColDataField(index, column.Datafield); });
-    pass([&] { live.setColWidth(index, column.Width); });
-    pass([&] { live.setColAlignment(index, column.Alignment); });
-    pass([&] { live.setColBalance(index, column.Balance); });
-    pass([&] { live.setColTotals(index, column.Totals); });
-    pass([&] { live.setColStatic(index, column.Stat_ic); });
-    pass([&] { live.setColLR(index, column.lR); });
-    pass([&] { live.setColForTot(index, column.ForTot); });
-    pass([&] { live.setColPercnt(index, column.PerCnt); });
-    pass([&] { live.setColIndexKey(index, column.Index_Key); });
+    reporting_.passOver([&] { live.setColCaption(index, column.Caption); });
+    reporting_.passOver([&] { live.setColDataField(index, column.Datafield); });
+    reporting_.passOver([&] { live.setColWidth(index, column.Width); });
+    reporting_.passOver([&] { live.setColAlignment(index, column.Alignment); });
+    reporting_.passOver([&] { live.setColBalance(index, column.Balance); });
+    reporting_.passOver([&] { live.setColTotals(index, column.Totals); });
+    reporting_.passOver([&] { live.setColStatic(index, column.Stat_ic); });
+    reporting_.passOver([&] { live.setColLR(index, column.lR); });
+    reporting_.passOver([&] { live.setColForTot(index, column.ForTot); });
+    reporting_.passOver([&] { live.setColPercnt(index, column.PerCnt); });
+    reporting_.passOver([&] { live.setColIndexKey(index, column.Index_Key); });
 }
 
 void SavedProperties::readRest(const PropertyBag& bag) {
     passEach(bag, saved::kReadLayout);
-    pass(hooks_.layOut);
+    reporting_.passOver(hooks_.layOut);
     passEach(bag, saved::kReadSections);
     passEach(bag, saved::kReadTitle);
     passEach(bag, saved::kReadRows);
@@ -192,7 +180,7 @@ void SavedProperties::readFonts(const PropertyBag& bag) {
         const QString prefix = QString::fromLatin1(group);
         for (const SavedKey& key : keys)
             if (key.read.startsWith(prefix))
-                pass([&] { readKey(bag, key); });
+                reporting_.passOver([&] { readKey(bag, key); });
     }
 }
 

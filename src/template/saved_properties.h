@@ -4,7 +4,7 @@
 #include "core/child_controls.h"
 #include "core/column_properties.h"
 #include "core/report_state.h"
-#include "host/host.h"
+#include "core/reporting.h"
 #include "template/saved_keys.h"
 
 #include <functional>
@@ -22,12 +22,12 @@ struct SavedPropertiesHooks {
 class SavedProperties {
 public:
     SavedProperties(ReportState& state, ColumnList& columns, ColumnProperties& columnProperties,
-                    ChildControls& children, Host& host, SavedPropertiesHooks hooks)
+                    ChildControls& children, const Reporting& reporting, SavedPropertiesHooks hooks)
         : state_(state)
         , columns_(columns)
         , columnProperties_(columnProperties)
         , children_(children)
-        , host_(host)
+        , reporting_(reporting)
         , hooks_(std::move(hooks))
         , control_{state, children.MSFlexGrid1, children.Picture1} {}
 
@@ -51,9 +51,6 @@ private:
     void bringUpToDate(int index, const Column& column);
     void readFonts(const PropertyBag& bag);
     void readRest(const PropertyBag& bag);
-    /// Runs one step; a failure in it is passed over.
-    template <class Step>
-    void pass(Step step) const;
     template <class Keys>
     void passEach(const PropertyBag& bag, const Keys& keys) const;
 
@@ -61,7 +58,7 @@ private:
     ColumnList& columns_;
     ColumnProperties& columnProperties_;
     ChildControls& children_;
-    Host& host_;
+    Reporting reporting_;
     SavedPropertiesHooks hooks_;
     SavedControl control_;
 };

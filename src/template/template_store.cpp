@@ -88,7 +88,7 @@ QVariant TemplateStore::bytesOf(const Source& source, const TemplateRows& rows) 
     if (isFile)
         retireTemplateFile(source.folder, source.name); // left behind by an earlier opening
     else if (isNull(held) && source.place.number)
-        host_.msgBox(texts::templateFileMissing(source.folder + u'\\' + source.name), kMsgBoxInformation);
+        boxes_.msgBox(texts::templateFileMissing(source.folder + u'\\' + source.name), kMsgBoxInformation);
     return held;
 }
 

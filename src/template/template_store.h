@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/report_state.h"
-#include "host/host.h"
+#include "host/message_boxes.h"
 #include "template/saved_properties.h"
 #include "template/template_rows.h"
 
@@ -26,11 +26,11 @@ struct clsList {
 class TemplateStore {
 public:
     /// `applicationFolder` tells where the folders of the older files stand.
-    TemplateStore(ReportState& state, SavedProperties& properties, Host& host,
+    TemplateStore(ReportState& state, SavedProperties& properties, MessageBoxes& boxes,
                   std::function<QString()> applicationFolder)
         : state_(state)
         , properties_(properties)
-        , host_(host)
+        , boxes_(boxes)
         , applicationFolder_(std::move(applicationFolder)) {}
 
     /// The older files of "\Forms" for -1 and nothing, of "\Reports" for any other number: an entry for each
@@ -54,7 +54,7 @@ private:
 
     ReportState& state_;
     SavedProperties& properties_;
-    Host& host_;
+    MessageBoxes& boxes_;
     std::function<QString()> applicationFolder_;
 };
 

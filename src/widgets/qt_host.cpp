@@ -134,6 +134,10 @@ QString dialogFilter(const QString& filter) {
     return entries.join(QStringLiteral(";;"));
 }
 
+QString chosenFile(const QFileDialog& dialog) {
+    return dialog.selectedFiles().value(0);
+}
+
 /// A choice holds no strikeout, and fonts are not sought by alphabet: what would set these is hidden.
 QFontDialog* makeFontDialog(const QFont& font, QWidget* parent) {
     auto* dialog = new QFontDialog(font, parent);
@@ -201,7 +205,15 @@ std::optional<QString> QtHost::saveDialog(const QString& title, const QString& f
     auto* dialog = new QFileDialog(parent_, title, QFileInfo(fileName).path(), dialogFilter(filter));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
     dialog->selectFile(fileName);
-    return run(dialog, parent_, [](QFileDialog& d) { return d.selectedFiles().value(0); });
+    return run(dialog, parent_, chosenFile);
+}
+
+std::optional<QString> QtHost::openDialog(const QString& title, const QString& filter,
+                                          const QString& fileName) {
+    auto* dialog = new QFileDialog(parent_, title, QFileInfo(fileName).path(), dialogFilter(filter));
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    dialog->selectFile(fileName);
+    return run(dialog, parent_, chosenFile);
 }
 
 std::optional<std::uint32_t> QtHost::colorDialog(std::uint32_t start) {

@@ -64,9 +64,6 @@ void ZkpGridWidget::relayKeys() {
         return grid_ ? grid_->UserControl_KeyDown(code, shift) : code;
     };
     view_->relays.keyPress = [this](int ascii) { return grid_ ? grid_->UserControl_KeyPress(ascii) : ascii; };
-    view_->relays.mayDrag = [this](int col) { // the control notes the heading that it lets go
-        return grid_ && grid_->MSFlexGrid1().look().Tag == QString::number(col);
-    };
     view_->relays.failed = [this](const Error& error) { showError(error); };
     band_->failed = [this](const Error& error) { showError(error); };
     band_->keyboardPlace = [view = view_] { return view ? view->menuPlace() : std::nullopt; };

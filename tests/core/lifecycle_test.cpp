@@ -42,7 +42,7 @@ TEST_F(LifecycleTest, AControlSmallerThanItsBandGivesNoNegativeHeight) {
 
 TEST_F(LifecycleTest, FocusPassesToAVisibleSurface) {
     int asked = 0;
-    grid->MSFlexGrid1().view.focusWanted = [&] { ++asked; };
+    const Listening view = grid->MSFlexGrid1().views.add({.focusWanted = [&] { ++asked; }});
     grid->UserControl_EnterFocus();
     EXPECT_EQ(asked, 1);
     GridSurface::Place place = grid->MSFlexGrid1().place();

@@ -32,7 +32,7 @@ TEST_F(PropertyExceptionsTest, RecordSourceIsGivenAsTextAndReadAsTheOpenRecords)
 
 TEST_F(PropertyExceptionsTest, TheFontIsAllSixOfItsPropertiesInOneChange) {
     int told = 0;
-    grid->MSFlexGrid1().view.changed = [&] { ++told; };
+    const Listening view = grid->MSFlexGrid1().views.add({.changed = [&] { ++told; }});
     grid->setFont({u"Serif"_s, 9.5, true, true, true, true});
     EXPECT_EQ(told, 1);
     EXPECT_EQ(grid->FontName(), u"Serif"_s);

@@ -55,12 +55,14 @@ protected:
     Events events;
     GridSurface surface;
     ScriptedHost host;
+    Reporting reporting{state, host};
     ColumnProperties properties{columns, surface, events};
     GroupFactorFlags flags{state, columns, events};
     int refreshed = 0;
     int menus = 0;
-    HeadingDrag drag{
-        state, columns, properties, flags, surface, host, {[this] { ++refreshed; }, [this] { ++menus; }}};
+    HeadingDrag drag{state, columns,   properties,
+                     flags, surface,   host,
+                     host,  reporting, {[this] { ++refreshed; }, [this] { ++menus; }}};
     int answer = kAnswerNo;
     ScriptedHost::Message asked;
 };
@@ -191,7 +193,7 @@ TEST_F(HeadingDragTest, EveryPropertyOfEveryColumnIsReportedInItsOrder) {
 
 TEST_F(HeadingDragTest, TheViewSeesOneChangeAndAPlainColumnIsDrawnAgain) {
     int changes = 0;
-    surface.view.changed = [&] { ++changes; };
+    const Listening view = surface.views.add({.changed = [&] { ++changes; }});
     drag.drop(1, 3);
     EXPECT_EQ(changes, 2) << "the move and the repaint";
     EXPECT_TRUE(surface.Redraw());

@@ -162,7 +162,7 @@ using ToolPropertiesTest = GridTest;
 TEST_F(ToolPropertiesTest, TemplateMenuVisibleIsTheStateOfItsTool) {
     Tool& save = grid->Picture1().Bands(u"mnuTemplate").Tools(u"mnuSaveTemplate");
     int refreshed = 0;
-    grid->Picture1().changed = [&] { ++refreshed; };
+    const Listening view = grid->Picture1().views.add({.changed = [&] { ++refreshed; }});
     EXPECT_FALSE(grid->TemplateMenuVisible());
     EXPECT_EQ(keysOf([&] { grid->setTemplateMenuVisible(true); }), QStringList{u"TemplateMenuVisible"_s});
     EXPECT_TRUE(save.Visible);

@@ -57,7 +57,7 @@ protected:
     void clickNamed(const QString& name) {
         Tool tool;
         tool.Name = name;
-        bar().toolClicked(tool);
+        bar().toolClicked.notify(tool);
     }
 
     QString told() {
@@ -426,10 +426,13 @@ TEST_F(MenuCommandsTest, TheControlMayEndUnderTheBoxForItsTitle) {
 }
 
 TEST_F(MenuCommandsTest, ABarThatOutlivesItsControlIsDead) {
-    const auto heard = bar().toolClicked;
-    grid.reset();
-    Tool tool;
-    tool.Name = u"mnuPrint"_s;
-    heard(tool);
+    host->onInputBox = [this](const QString&, const QString&, const QString&) {
+        MenuBar& left = bar();
+        grid.reset();
+        left.click(u"mnuPrint");
+        return std::optional<QString>();
+    };
+    bar().click(u"mnuTitle");
+    EXPECT_EQ(grid, nullptr);
     EXPECT_EQ(told(), QString());
 }

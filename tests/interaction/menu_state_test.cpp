@@ -176,7 +176,7 @@ TEST_F(MenuStateTest, LockedMenusStayAsTheyAre) {
 TEST_F(MenuStateTest, AViewHearsOnceAndOnlyOfAChange) {
     loadFields();
     int heard = 0;
-    bar.changed = [&] { ++heard; };
+    const Listening view = bar.views.add({.changed = [&] { ++heard; }});
     menus.MenuRefresh();
     EXPECT_EQ(heard, 1);
     menus.MenuRefresh();
@@ -252,7 +252,8 @@ TEST_F(MenuStateTest, AGroupFactorsFieldThatCannotBeOneIsNotChosen) {
 TEST_F(MenuStateTest, WhatIsFilledInIsNoDoingOfTheUsers) {
     loadFields();
     int heard = 0;
-    bar.listChanged = bar.textChanged = [&](Tool&) { ++heard; };
+    const Listening lists = bar.listChanged.add([&](Tool&) { ++heard; });
+    const Listening texts = bar.textChanged.add([&](Tool&) { ++heard; });
     properties.setColDataField(1, u"AGENT"_s);
     properties.setColCaption(1, u"Πράκτορας"_s);
     surface.setCol(1);

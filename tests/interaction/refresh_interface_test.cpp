@@ -89,7 +89,7 @@ TEST_F(RefreshInterfaceTest, PointerAndRedrawComeBack) {
 
 TEST_F(RefreshInterfaceTest, TheBarIsLaidOutAgainUnlessItIsTheHeadingAlone) {
     int changed = 0;
-    grid->Picture1().changed = [&] { ++changed; };
+    const Listening view = grid->Picture1().views.add({.changed = [&] { ++changed; }});
     grid->RefreshInterface(0);
     EXPECT_EQ(changed, 0);
     grid->RefreshInterface();

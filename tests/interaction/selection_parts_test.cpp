@@ -24,13 +24,13 @@ protected:
     Events events;
     ChildControls children;
     ScriptedHost host;
+    Reporting reporting{state, host};
     GridSurface& surface = children.MSFlexGrid1;
     ColumnProperties properties{columns, surface, events};
     KeyColumn key{state, columns, surface};
     FontWriter fonts{state, surface, events};
     RowMarking marking{state, key, surface, events};
-    LoadNotes notes;
-    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host, notes};
+    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host, reporting};
     Dictionary dictionary{state};
     MenuState menus{state, columns, properties, surface, children.Picture1, dictionary};
     int charts = 0;

@@ -52,6 +52,7 @@ TEST_P(Presses, OnHeadingsPrepareADragAndSomeAreNotTold) {
     press(kLeft, one.row, one.col);
     EXPECT_EQ(log, one.told ? QStringList{u"MouseDown 1 0 10 20"_s} : QStringList()) << one.title;
     EXPECT_EQ(surface().look().Tag, one.tag) << one.title;
+    EXPECT_EQ(surface().mayDragHeading(one.col), one.tag == QString::number(one.col)) << one.title;
     EXPECT_EQ(grid->MousePointer(), one.pointer) << one.title;
     EXPECT_EQ(grid->Col(), one.col);
 }
@@ -68,6 +69,21 @@ INSTANTIATE_TEST_SUITE_P(
                     PressCase{"the first heading behind them there", true, 0, 2, true, u"2"_s, 0},
                     PressCase{"the counter's heading there", true, 0, 4, true, u""_s, kPointerNoDrop}),
     [](const auto& each) { return "Case" + std::to_string(each.index); });
+
+TEST_F(SurfacePressesTest, AHostThatHearsOfThePressMayForbidOrAllowTheDrag) {
+    QString written;
+    QObject::connect(&grid->events(), &Events::MouseDown, [&](MouseArgs&) {
+        GridSurface::Look look = surface().look();
+        look.Tag = written;
+        surface().setLook(look);
+    });
+    press(kLeft, 0, 3);
+    EXPECT_FALSE(surface().mayDragHeading(3));
+    written = u"4"_s;
+    press(kLeft, 0, 3);
+    EXPECT_FALSE(surface().mayDragHeading(3));
+    EXPECT_TRUE(surface().mayDragHeading(4));
+}
 
 TEST_F(SurfacePressesTest, WithLockedMenusEveryPressIsToldAndNoneDrags) {
     grid->callMember(u"LockMenus"_s);
@@ -89,9 +105,10 @@ TEST_F(SurfacePressesTest, ARightPressSelectsTheColumnOpensTheMenuAndIsTold) {
 }
 
 TEST_F(SurfacePressesTest, TheMenuIsOpenBeforeTheHostHearsOfThePress) {
-    grid->Picture1().popupWanted = [this](const Band&) {
+    const auto popup = [this](const Band&, bool&) {
         log << u"popup %1"_s.arg(grid->Picture1().Tools(u"mnuInsertGroup").Enabled);
     };
+    const Listening view = grid->Picture1().views.add({.popupWanted = popup});
     press(kRight, 2, 0);
     EXPECT_EQ(log, (QStringList{u"popup 1"_s, u"MouseDown 2 0 10 20"_s}));
 }
@@ -222,6 +239,7 @@ protected:
     Events events;
     ChildControls children;
     ScriptedHost host;
+    Reporting reporting{state, host};
     LoadHooks hooks;
     GridSurface& surface = children.MSFlexGrid1;
     ColumnProperties properties{columns, surface, events};
@@ -229,17 +247,25 @@ protected:
     KeyColumn key{state, columns, surface};
     FontWriter fonts{state, surface, events};
     RowMarking marking{state, key, surface, events};
-    LoadNotes notes;
-    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host, notes};
+    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host, reporting};
     Dictionary dictionary{state};
     EmptyReport empty{state, properties, surface, children.Picture1, dictionary, host, hooks};
     MenuState menus{state, columns, properties, surface, children.Picture1, dictionary};
     SelectionEvents selection{state, key, surface, events, marking, drawing, menus, host, {}};
-    HeadingDrag drag{state, columns, properties, flags, surface, host, {[] {}, [] {}}};
-    SurfaceEvents events_{
-        state,  properties, surface, children.Picture1,
-        events, dictionary, empty,   menus,
-        drag,   selection,  host,    [this] { log << u"chart of %1"_s.arg(state.LastClickedCol); }};
+    HeadingDrag drag{state, columns, properties, flags, surface, host, host, reporting, {[] {}, [] {}}};
+    SurfaceEvents events_{state,
+                          properties,
+                          surface,
+                          children.Picture1,
+                          events,
+                          dictionary,
+                          empty,
+                          menus,
+                          drag,
+                          selection,
+                          host,
+                          reporting,
+                          [this] { log << u"chart of %1"_s.arg(state.LastClickedCol); }};
 };
 
 TEST_F(ClickTest, AClickUpToTheFirstColumnBehindTheFactorsChartsAgainBeforeItIsRaised) {

@@ -58,13 +58,15 @@ protected:
     GridSurface surface;
     Events events;
     ScriptedHost host;
+    Reporting reporting{state, host};
     LoadHooks hooks;
     ColumnProperties properties{columns, surface, events};
     LoadNotes notes;
     Percentages percentages{state, columns, surface, host, notes};
     GroupRows groups{state, columns, surface, percentages};
     TotalsRows totals{state, columns, surface, groups.sums(), hooks};
-    RowReader reader{state, properties, columns, surface, events, host, groups, totals, percentages, notes};
+    RowReader reader{state, properties, columns, surface, events,     host,
+                     host,  reporting,  groups,  totals,  percentages};
     QStringList log;
 };
 

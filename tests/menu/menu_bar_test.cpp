@@ -83,11 +83,11 @@ TEST(MenuBar, AToolIsHeardByWhoeverListensToItsKind) {
     };
     const auto listener = [](Tool&) {};
     EXPECT_EQ(heard(), u("0000001"));
-    bar.toolClicked = listener;
+    const Listening clicks = bar.toolClicked.add(listener);
     EXPECT_EQ(heard(), u("1111001"));
-    bar.listChanged = listener;
+    const Listening lists = bar.listChanged.add(listener);
     EXPECT_EQ(heard(), u("1111101"));
-    bar.textChanged = listener;
+    const Listening texts = bar.textChanged.add(listener);
     EXPECT_EQ(heard(), u("1111111"));
 }
 
@@ -99,7 +99,9 @@ TEST(MenuBar, ADisabledToolDoesNothing) {
     list.Enabled = false;
     bar.addTool(band, list);
     int calls = 0;
-    bar.toolClicked = bar.listChanged = bar.textChanged = [&](Tool&) { ++calls; };
+    const auto count = [&](Tool&) { ++calls; };
+    const Listening heard[] = {bar.toolClicked.add(count), bar.listChanged.add(count),
+                               bar.textChanged.add(count)};
     bar.click(u("list"));
     bar.changeList(u("list"), 1);
     bar.changeText(u("list"), u("x"));
@@ -115,9 +117,10 @@ TEST(MenuBar, WhatTheUserDoesReachesTheToolThenTheListener) {
     list.list = {u("one"), u("two")};
     bar.addTool(band, list);
     QString heard;
-    bar.toolClicked = [&](Tool& tool) { heard += u("click ") + tool.Name; };
-    bar.listChanged = [&](Tool& tool) { heard += u(" list ") + QString::number(tool.ListIndex) + tool.Text; };
-    bar.textChanged = [&](Tool& tool) { heard += u(" text ") + tool.Text; };
+    const Listening clicks = bar.toolClicked.add([&](Tool& tool) { heard += u("click ") + tool.Name; });
+    const Listening lists = bar.listChanged.add(
+        [&](Tool& tool) { heard += u(" list ") + QString::number(tool.ListIndex) + tool.Text; });
+    const Listening texts = bar.textChanged.add([&](Tool& tool) { heard += u(" text ") + tool.Text; });
     bar.click(u("LIST"));
     bar.changeList(u("list"), 1);
     bar.changeText(u("list"), u("x"));
@@ -129,25 +132,55 @@ TEST(MenuBar, APopupIsRememberedAndShown) {
     MenuBar bar;
     bar.addBand(u("mnuChooceObject"));
     QString shown;
-    bar.popupWanted = [&](const Band& band) { shown = band.Name; };
+    const Listening view =
+        bar.views.add({.popupWanted = [&](const Band& band, bool&) { shown = band.Name; }});
     bar.popup(u("MNUCHOOCEOBJECT"));
     EXPECT_EQ(shown, u("mnuChooceObject"));
     EXPECT_EQ(bar.lastPopup(), u("mnuChooceObject"));
     EXPECT_EQ(errorNumber([&] { bar.popup(u("other")); }), kErrItemNotFound);
 }
 
-TEST(MenuBar, AListenerMayAddToolsAndReplaceItself) {
+TEST(MenuBar, EveryListenerHearsAndNoneSilencesAnother) {
+    MenuBar bar;
+    bar.addTool(bar.addBand(u("A")), named("x"));
+    QString heard;
+    const Listening control = bar.toolClicked.add([&](Tool&) { heard += u("control "); });
+    Listening other = bar.toolClicked.add([&](Tool&) { heard += u("other "); });
+    const Listening one = bar.views.add({.changed = [&] { heard += u("one "); }});
+    const Listening two = bar.views.add({.changed = [&] { heard += u("two "); }});
+    bar.click(u("x"));
+    bar.Refresh();
+    other.stop();
+    bar.click(u("x"));
+    EXPECT_EQ(heard, u("control other one two control "));
+}
+
+TEST(MenuBar, APopupIsOpenedByOneViewAndAllHearOfIt) {
+    MenuBar bar;
+    bar.addBand(u("A"));
+    std::vector<bool> open;
+    const auto hears = [&](const Band&, bool& isOpen) { open.push_back(isOpen); };
+    const auto opens = [&](const Band&, bool& isOpen) { open.push_back(std::exchange(isOpen, true)); };
+    const Listening listening[] = {bar.views.add({.popupWanted = hears}),
+                                   bar.views.add({.popupWanted = opens}),
+                                   bar.views.add({.popupWanted = opens})};
+    bar.popup(u("A"));
+    EXPECT_EQ(open, (std::vector<bool>{false, false, true}));
+}
+
+TEST(MenuBar, AListenerMayAddToolsAndStopItself) {
     MenuBar bar;
     Band& band = bar.addBand(u("A"));
     bar.addTool(band, named("x"));
     int calls = 0;
-    bar.toolClicked = [&](Tool& tool) {
+    Listening clicks;
+    clicks = bar.toolClicked.add([&](Tool& tool) {
         ++calls;
-        bar.toolClicked = nullptr;
+        clicks.stop();
         for (int i = 0; i < 100; ++i)
             bar.addTool(band, named(qPrintable(QString::number(i))));
         tool.Checked = true;
-    };
+    });
     bar.click(u("x"));
     bar.click(u("x"));
     EXPECT_EQ(calls, 1);

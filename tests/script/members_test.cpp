@@ -24,6 +24,17 @@ TEST_F(Properties, IndexedOnesAreAMethodToReadAndASetMethodToWrite) {
     EXPECT_EQ(valueOf("grid.RowData(1)"), QStringLiteral("9"));
 }
 
+TEST_F(Properties, AFilterThatSomebodyTypesIsTakenOrAnsweredWithTheReason) {
+    EXPECT_EQ(valueOf("grid.setUserFilter('A=1 or B=2') === ''"), QStringLiteral("true"));
+    EXPECT_EQ(valueOf("grid.Filter"), QStringLiteral("( A=1 or B=2 )"));
+    EXPECT_EQ(valueOf("grid.setUserFilter('A=1; drop table PEOPLE')"),
+              QStringLiteral("Το φίλτρο δεν μπορεί να έχει ; έξω από εισαγωγικά (χαρακτήρας 4)."));
+    EXPECT_EQ(valueOf("grid.Filter"), QStringLiteral("( A=1 or B=2 )"));
+    EXPECT_EQ(errorNumberOf(QStringLiteral("grid.UserFilter = 'A=1'")), 438);
+    linesOf(QStringLiteral("grid.AllowSubselects = true"));
+    EXPECT_EQ(valueOf("grid.setUserFilter('A in (select 1)') === ''"), QStringLiteral("true"));
+}
+
 TEST_F(Properties, IdentityCanBeWrittenAndNotRead) {
     for (const char* name : {"ProductID", "Ierarxia", "IerID"}) {
         const QString property = QStringLiteral("grid.") + QLatin1String(name);

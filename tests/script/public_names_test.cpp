@@ -11,7 +11,7 @@ constexpr const char* kPlainMembers[] = {
     "LossRatio",      "StartingLine",   "LineCounter",  "Fund",       "SqlOnRunTime", "OrderByPhysical",
     "OrderByAlias",   "SQLRun",         "FilterTables", "sortOut",    "Idle",         "PreRow",
     "PreBackColor",   "PreForeColor",   "indkey",       "EditCancel", "mGroupCount",  "PrintLeftMargin",
-    "PrintTopMargin", "RecordSourceSQL"};
+    "PrintTopMargin", "RecordSourceSQL", "AllowSubselects"};
 
 constexpr const char* kSurfaceProperties[] = {"AllowBigSelection",
                                               "BackColorBkg",
@@ -208,6 +208,7 @@ constexpr const char* kMethods[] = {"Clear()",
                                     "UserControl_KeyPress(65)",
                                     "TextMatrix(1, 0)",
                                     "setTextMatrix(1, 0, 'x')",
+                                    "setUserFilter('A=1')",
                                     "UserControl_Terminate()"};
 
 class PublicNames : public ScriptTest {

@@ -39,13 +39,16 @@ struct Viewed {
     GridSurface surface;
     int changed = 0;
     int scrolled = 0;
+    int focus = 0;
     std::vector<int> rows;
+    Listening listening;
 
     Viewed() {
         surface.setRows(11);
-        surface.view.changed = [this] { ++changed; };
-        surface.view.scrolled = [this] { ++scrolled; };
-        surface.view.rowChanged = [this](int row) { rows.push_back(row); };
+        listening = surface.views.add({.changed = [this] { ++changed; },
+                                       .rowChanged = [this](int row) { rows.push_back(row); },
+                                       .scrolled = [this] { ++scrolled; },
+                                       .focusWanted = [this] { ++focus; }});
     }
 };
 
@@ -293,9 +296,11 @@ TEST(SurfaceView, ARowTextTellsTheRowAndASizeTellsAll) {
     EXPECT_EQ(v.changed, 1);
     v.surface.setTopRow(3);
     EXPECT_EQ(v.scrolled, 1);
-    v.surface.view.rowChanged = nullptr;
+    v.listening = v.surface.views.add({.changed = [&] { ++v.changed; }});
     v.surface.setTextMatrix(4, 0, u("y"));
     EXPECT_EQ(v.changed, 2);
+    v.surface.setTopRow(4);
+    EXPECT_EQ(v.changed, 3);
 }
 
 TEST(SurfaceView, WithRedrawOffItHearsOneChangeAtTheEnd) {
@@ -316,6 +321,60 @@ TEST(SurfaceView, WithRedrawOffItHearsOneChangeAtTheEnd) {
     EXPECT_EQ(v.changed, 1) << "nothing happened meanwhile";
 }
 
+TEST(SurfaceView, AllViewsHearAndNoneSilencesAnother) {
+    Viewed v;
+    int other = 0;
+    {
+        const Listening second = v.surface.views.add({.changed = [&] { ++other; }});
+        v.surface.setTextMatrix(4, 0, u("x"));
+        EXPECT_EQ(v.rows, std::vector<int>{4});
+        EXPECT_EQ(other, 1) << "it hears of rows as of any change";
+        v.surface.setRows(20);
+        EXPECT_EQ(v.changed, 1);
+        EXPECT_EQ(other, 2);
+        v.surface.SetFocus();
+        EXPECT_EQ(v.focus, 1);
+    }
+    v.surface.setRows(21);
+    EXPECT_EQ(v.changed, 2);
+    EXPECT_EQ(other, 2);
+}
+
+TEST(SurfaceView, OneMayStopInANotification) {
+    Viewed v;
+    int last = 0;
+    Listening once;
+    once = v.surface.views.add({.changed = [&] { once.stop(); }});
+    const Listening third = v.surface.views.add({.changed = [&] { ++last; }});
+    v.surface.setRows(20);
+    v.surface.setRows(21);
+    EXPECT_FALSE(once);
+    EXPECT_EQ(v.changed, 2);
+    EXPECT_EQ(last, 2);
+}
+
+TEST(SurfaceView, TheSurfaceMayGoWithItsLastWord) {
+    auto surface = std::make_unique<GridSurface>();
+    int later = 0;
+    const Listening first = surface->views.add({.changed = [&] { surface.reset(); }});
+    const Listening second = surface->views.add({.changed = [&] { ++later; }});
+    surface->Refresh();
+    EXPECT_EQ(surface, nullptr);
+    EXPECT_EQ(later, 0) << "there is nothing left to show";
+}
+
+TEST(SurfaceView, TheLargestViewSaysHowManyRowsFit) {
+    GridSurface surface;
+    EXPECT_EQ(surface.roomInViews(), 0);
+    const Listening silent = surface.views.add({.changed = [] {}});
+    const Listening small = surface.views.add({.room = [] { return 5; }});
+    {
+        const Listening large = surface.views.add({.room = [] { return 40; }});
+        EXPECT_EQ(surface.roomInViews(), 40);
+    }
+    EXPECT_EQ(surface.roomInViews(), 5);
+}
+
 TEST(SurfaceView, LookAndPlaceTellWhenTheyDiffer) {
     Viewed v;
     GridSurface::Look look = v.surface.look();
@@ -328,8 +387,6 @@ TEST(SurfaceView, LookAndPlaceTellWhenTheyDiffer) {
     place.Width = 5000;
     v.surface.setPlace(place);
     EXPECT_EQ(v.changed, 2);
-    int focus = 0;
-    v.surface.view.focusWanted = [&] { ++focus; };
     v.surface.SetFocus();
-    EXPECT_EQ(focus, 1);
+    EXPECT_EQ(v.focus, 1);
 }

@@ -30,7 +30,9 @@ protected:
         Tool& list = add(band, QStringLiteral("mnuField"), ToolKind::List);
         list.list = QStringList{QStringLiteral("Κλάδος"), QStringLiteral("Πελάτης")};
         add(band, QStringLiteral("mnuCaption"), ToolKind::Text).Text = QStringLiteral("τίτλος");
-        bar.toolClicked = bar.listChanged = bar.textChanged = [](Tool&) {};
+        clicks = bar.toolClicked.add([](Tool&) {});
+        lists = bar.listChanged.add([](Tool&) {});
+        texts = bar.textChanged.add([](Tool&) {});
         row = std::make_unique<BandBar>(bar, kBand);
         row->resize(600, row->sizeHint().height());
         row->show();
@@ -58,6 +60,9 @@ protected:
 
     const QString kBand = QStringLiteral("BndTemplate");
     MenuBar bar;
+    Listening clicks;
+    Listening lists;
+    Listening texts;
     std::unique_ptr<BandBar> row;
 };
 

@@ -14,8 +14,10 @@ QStringList captions(const QMenu& menu) {
 class BandMenus : public BandBarTest {
 protected:
     BandMenus() {
-        bar.toolClicked = [this](Tool& t) { done += t.Name; };
-        bar.listChanged = bar.textChanged = [this](Tool& t) { done += t.Name + u'=' + t.Text; };
+        const auto changed = [this](Tool& t) { done += t.Name + u'=' + t.Text; };
+        clicks = bar.toolClicked.add([this](Tool& t) { done += t.Name; });
+        lists = bar.listChanged.add(changed);
+        texts = bar.textChanged.add(changed);
     }
     ~BandMenus() override {
         while (QWidget* popup = QApplication::activePopupWidget())

@@ -101,7 +101,7 @@ TEST_F(BandRow, AButtonWithASubbandHasAnArrowThatOpensIt) {
     bar.addTool(bar.Bands(kBand), sort);
     add(bar.addBand(QStringLiteral("MNUSORT")), QStringLiteral("mnuSortDesc"), ToolKind::Button);
     QStringList done;
-    bar.toolClicked = [&](Tool& t) { done += t.Name; };
+    clicks = bar.toolClicked.add([&](Tool& t) { done += t.Name; });
     bar.Refresh();
     auto* button = tool<QToolButton>("mnuSort");
     ASSERT_NE(button, nullptr);
@@ -142,7 +142,7 @@ TEST_F(BandRow, IconsFollowThePalette) {
 
 TEST_F(BandRow, GreekIsTypedIntoTheCaption) {
     QStringList typed;
-    bar.textChanged = [&](Tool& t) { typed += t.Text; };
+    texts = bar.textChanged.add([&](Tool& t) { typed += t.Text; });
     auto* box = tool<QLineEdit>("mnuCaption");
     box->selectAll();
     QInputMethodEvent event;
@@ -153,7 +153,7 @@ TEST_F(BandRow, GreekIsTypedIntoTheCaption) {
 
 TEST_F(BandRow, AWheelOverTheListChoosesNothing) {
     int chosen = 0;
-    bar.listChanged = [&](Tool&) { ++chosen; };
+    lists = bar.listChanged.add([&](Tool&) { ++chosen; });
     auto* list = tool<QComboBox>("mnuField");
     list->setFocus();
     QWheelEvent wheel({5, 5}, list->mapToGlobal(QPoint(5, 5)), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,

@@ -126,7 +126,7 @@ TEST_F(GridViewDrag, EscapeLeavesNothingOfIt) {
 
 TEST_F(GridViewDrag, AHeadingThatMayNotBeDraggedStays) {
     int asked = -1;
-    view->relays.mayDrag = [&](int col) {
+    surface->notifications.mayDragHeading = [&](int col) {
         asked = col;
         return false;
     };

@@ -67,6 +67,45 @@ TEST_F(GridViewRobust, TheSurfaceMayGoAwayBeforeTheView) {
     EXPECT_FALSE(picture().isNull());
 }
 
+TEST_F(GridViewRobust, TwoViewsShowOneSurface) {
+    GridView small(*surface);
+    small.resize(500, 110); // the heading, four whole rows and half a one
+    small.show();
+    settle();
+    EXPECT_EQ(surface->VisibleRows(), 10) << "the larger view's";
+    surface->setTextMatrix(2, 1, QStringLiteral("κείμενο"));
+    EXPECT_TRUE(hasInk(picture(), 2, 1));
+    EXPECT_TRUE(hasInk(small.viewport()->grab().toImage(), 2, 1));
+    small.verticalScrollBar()->setValue(30);
+    settle();
+    EXPECT_EQ(view->verticalScrollBar()->value(), 30);
+    view.reset();
+    settle();
+    small.resize(500, 210 + 2 * kRow);
+    settle();
+    EXPECT_EQ(surface->VisibleRows(), 12) << "its own, once it is alone";
+}
+
+TEST_F(GridViewRobust, TwoViewsOfOneSurfaceComeToRest) {
+    GridView small(*surface);
+    small.resize(500, 110);
+    small.show();
+    int grown = 0;
+    surface->notifications.visibleRowsGrew = [&] {
+        ++grown;
+        surface->Refresh(); // as the control paints the rows that come into sight
+    };
+    view->resize(500, 410);
+    settle();
+    EXPECT_EQ(grown, 1);
+    EXPECT_EQ(surface->VisibleRows(), 20);
+    int told = 0;
+    QObject::connect(view.get(), &GridView::surfaceChanged, view.get(), [&] { ++told; });
+    QObject::connect(&small, &GridView::surfaceChanged, &small, [&] { ++told; });
+    settle();
+    EXPECT_EQ(told, 0);
+}
+
 TEST_F(GridViewRobust, ASurfaceEmptiedDuringADragIsLeftAlone) {
     press(cell(0, 3));
     move(cell(0, 1));

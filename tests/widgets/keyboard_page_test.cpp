@@ -81,7 +81,6 @@ public:
             grid.setColWidth(col, 1500);
             grid.setColCaption(col, u"Στήλη"_s);
         }
-        widget->grid().Picture1().toolClicked = [](Tool&) {};
         widget->grid().Picture1().Refresh();
         form.show();
         form.activateWindow();
@@ -314,7 +313,8 @@ TEST(Keyboard, EscapeAndF6LeadBackFromATool) {
 TEST(Keyboard, ArrowsGoFromToolToToolAndSpacePressesOne) {
     Form form;
     QString clicked;
-    form.widget->grid().Picture1().toolClicked = [&](Tool& tool) { clicked = tool.Name; };
+    const Listening clicks =
+        form.widget->grid().Picture1().toolClicked.add([&](Tool& tool) { clicked = tool.Name; });
     auto* refresh = form.widget->band().findChild<QToolButton*>(u"mnuRefresh"_s);
     ASSERT_NE(refresh, nullptr);
     refresh->setFocus();

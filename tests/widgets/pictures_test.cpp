@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace zkp {
 namespace {
 
@@ -87,15 +89,16 @@ void fill(GridSurface& surface) {
 }
 
 /// The control's own bands, in the state of a plain column.
-void fillBar(MenuBar& bar) {
+[[nodiscard]] std::array<Listening, 3> fillBar(MenuBar& bar) {
     buildMenuBands(bar);
-    bar.toolClicked = bar.listChanged = bar.textChanged = [](Tool&) {};
     bar.Tools(u"txtRecs").Text = QStringLiteral("20.000");
     bar.Tools(u"mnuAlignRight").Checked = true;
     bar.Tools(u"mnuGraph").Enabled = false;
     bar.Tools(u"mnuField").list = QStringList{QStringLiteral("Μικτά Ασφάλιστρα (Άθροισμα)")};
     bar.Tools(u"mnuField").ListIndex = 0;
     bar.Tools(u"mnuCaption").Text = QStringLiteral("Ασφάλιστρα");
+    const auto heard = [](Tool&) {};
+    return {bar.toolClicked.add(heard), bar.listChanged.add(heard), bar.textChanged.add(heard)};
 }
 
 /// The window at a scale, saved under a name; returns what was painted.
@@ -106,7 +109,7 @@ QImage paintWindow(const QString& name, double scale, const QPalette& palette,
     if (change)
         change(surface);
     MenuBar bar;
-    fillBar(bar);
+    const auto listening = fillBar(bar);
     QWidget window;
     window.setPalette(palette);
     window.resize(kSize);
@@ -142,7 +145,7 @@ TEST(Pictures, LightAtTwiceTheSize) {
 
 TEST(Pictures, TheRowOfToolsAtManyWidths) {
     MenuBar bar;
-    fillBar(bar);
+    const auto listening = fillBar(bar);
     QWidget window;
     BandBar row(bar, QStringLiteral("BndTemplate"), &window);
     const int height = row.sizeHint().height();

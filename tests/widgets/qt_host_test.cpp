@@ -5,12 +5,15 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
+#include <QFile>
+#include <QFileDialog>
 #include <QFontDialog>
 #include <QGroupBox>
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -155,6 +158,42 @@ TEST(QtHostTest, AFontThatIsNotInstalledStaysWhatItWas) {
     EXPECT_TRUE(larger->FontBold);
 }
 
+TEST(QtHostTest, AFileThatIsThereIsChosenToBeOpened) {
+    QtHost host;
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath(QStringLiteral("φόντο.png"));
+    ASSERT_TRUE(QFile(picture).open(QIODevice::WriteOnly));
+    QString title;
+    QStringList filters;
+    whenOpen<QFileDialog>([&](QFileDialog& dialog) {
+        title = dialog.windowTitle();
+        filters = dialog.nameFilters();
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptOpen);
+        EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(host.openDialog(QStringLiteral("Εικόνα"), QStringLiteral("Εικόνες (*.png)|*.png;*.jpg|Όλα|*"),
+                              picture),
+              picture);
+    EXPECT_EQ(title, QStringLiteral("Εικόνα"));
+    EXPECT_EQ(filters, (QStringList{QStringLiteral("Εικόνες (*.png *.jpg)"), QStringLiteral("Όλα (*)")}));
+    whenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(host.openDialog({}, {}, picture), std::nullopt);
+}
+
+TEST(QtHostTest, AFileToBeSavedNeedNotBeThere) {
+    QtHost host;
+    const QTemporaryDir folder;
+    const QString report = folder.filePath(QStringLiteral("report.xlsx"));
+    whenOpen<QFileDialog>([](QFileDialog& dialog) {
+        EXPECT_EQ(dialog.acceptMode(), QFileDialog::AcceptSave);
+        static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(host.saveDialog({}, {}, report), report);
+    whenOpen<QFileDialog>([](QFileDialog& dialog) { dialog.reject(); });
+    EXPECT_EQ(host.saveDialog({}, {}, report), std::nullopt);
+}
+
 /// Every text of a dialog that is still English.
 template <class Dialog>
 QStringList englishIn(Dialog& dialog) {
@@ -226,6 +265,18 @@ TEST(QtHostTest, AFileThatIsNotThereIsNotOpened) {
     EXPECT_LE(host.shellOpen(QStringLiteral("/no/such/program"), QStringLiteral("open"), QStringLiteral("-x"),
                              {}, 1),
               32);
+}
+
+TEST(QtHostTest, TheScreensHostIsEachOfItsServices) {
+    const auto host = std::make_shared<QtHost>();
+    Host& services = *host;
+    EXPECT_EQ(&services.boxes(), host.get());
+    EXPECT_EQ(&services.styleDialogs(), host.get());
+    EXPECT_EQ(&services.fileDialogs(), host.get());
+    EXPECT_EQ(&services.shell(), host.get());
+    EXPECT_EQ(&services.screenPointer(), host.get());
+    EXPECT_EQ(&services.bell(), host.get());
+    EXPECT_EQ(&services.pendingEvents(), host.get());
 }
 
 TEST(QtHostTest, PendingEventsRunOnce) {

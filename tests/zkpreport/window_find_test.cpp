@@ -1,7 +1,7 @@
-#include "window/find_line.h"
-#include "window/find_marks.h"
-#include "window/report_find.h"
-#include "window/texts.h"
+#include "base/texts_tools.h"
+#include "widgets/tools/find_line.h"
+#include "widgets/tools/find_marks.h"
+#include "widgets/tools/report_find.h"
 #include "window_fixture.h"
 
 #include <QAction>
@@ -10,15 +10,12 @@
 namespace {
 
 using namespace zkp;
-using zkp::app::FindMarks;
-using zkp::app::FoundCell;
-namespace texts = zkp::app::texts;
 
 class WindowFind : public WindowTest {
 protected:
     QLineEdit& edit() { return part<QLineEdit>("findText"); }
     QString note() { return part<QLabel>("findNote").text(); }
-    app::FindLine& line() { return *window->findChild<app::FindLine*>(); }
+    FindLine& line() { return *window->findChild<FindLine*>(); }
     FindMarks* marks() { return window->findChild<FindMarks*>(); }
 
     void openFind() {

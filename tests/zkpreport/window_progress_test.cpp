@@ -1,4 +1,4 @@
-#include "window/texts.h"
+#include "base/texts_tools.h"
 #include "window_fixture.h"
 
 #include <QTimer>
@@ -6,7 +6,6 @@
 namespace {
 
 using namespace zkp;
-namespace texts = zkp::app::texts;
 
 /// What the label of the load shows each time it is painted, and whether events came in meanwhile.
 class PaintLog : public QObject {

@@ -1,4 +1,4 @@
-#include "window/texts.h"
+#include "base/filter_texts.h"
 #include "window_fixture.h"
 
 #include <algorithm>
@@ -132,7 +132,7 @@ TEST_F(WindowRights, TheSameFilterWithoutTheBracketsWouldHaveShownAll) {
 TEST_F(WindowRights, AConstantThatHoldsAKeyCanNotBreakOutOfItsQuotes) {
     ASSERT_TRUE(open({{}, QStringLiteral("P0001"), {}}));
     applyFilter(QStringLiteral("[ RETAINED ' ]=1 or PLATE=') or (1=1'"));
-    EXPECT_EQ(window->message(), zkp::app::texts::keyInConstant());
+    EXPECT_EQ(window->message(), zkp::texts::keyInConstant(3));
     EXPECT_TRUE(host->messages.empty()) << "it never reaches the database";
 }
 

@@ -1,5 +1,4 @@
-#include "window/selected_block.h"
-#include "window/texts.h"
+#include "base/texts_tools.h"
 #include "window_fixture.h"
 
 #include <QAction>
@@ -11,7 +10,6 @@
 namespace {
 
 using namespace zkp;
-namespace texts = zkp::app::texts;
 
 const QString kPremium = QStringLiteral("PREMIUM");
 
@@ -19,7 +17,8 @@ const QString kPremium = QStringLiteral("PREMIUM");
 class WindowSelection : public WindowTest {
 protected:
     QString sums() {
-        for (int i = 0; i < 1000 && part<QLabel>("sums").text().startsWith(texts::summing(0).left(10)); ++i)
+        for (int i = 0; i < 1000 && part<QLabel>("sums").text().startsWith(texts::summing(0).left(10));
+             ++i)
             QApplication::processEvents();
         return part<QLabel>("sums").text();
     }

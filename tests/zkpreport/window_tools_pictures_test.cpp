@@ -1,7 +1,7 @@
 // Pictures for the eye of what stands around a report: the find line with its marks, the sums in the status
 // line, the progress of a load. Under the build folder: pictures/*.png.
 
-#include "window/texts.h"
+#include "base/texts_tools.h"
 #include "window_picture_fixture.h"
 
 #include <QInputMethodEvent>
@@ -58,7 +58,7 @@ TEST_F(ToolsPictures, TheProgressOfALoad) {
     ASSERT_TRUE(open());
     settle();
     part<QLabel>("loadProgress")
-        .setText(zkp::app::texts::rowsReadAtRate(QStringLiteral("640.000"), QStringLiteral("812.500")));
+        .setText(zkp::texts::rowsReadAtRate(QStringLiteral("640.000"), QStringLiteral("812.500")));
     paint("window_progress");
 }
 

@@ -1,5 +1,6 @@
 #include "base/texts.h"
-#include "window/reshape_snapshot.h"
+#include "base/texts_tools.h"
+#include "widgets/tools/reshape_snapshot.h"
 #include "window/texts.h"
 #include "window_fixture.h"
 
@@ -11,7 +12,6 @@
 namespace {
 
 using namespace zkp;
-using zkp::app::ReshapeSnapshot;
 namespace texts = zkp::app::texts;
 
 const QString kPremium = QStringLiteral("PREMIUM");
@@ -354,23 +354,23 @@ TEST_F(WindowUndo, AnotherReportBeginsWithoutSteps) {
 TEST_F(WindowUndo, TheMenuNamesTheStep) {
     ASSERT_TRUE(open());
     const auto undoText = [&] { return action("undo").text(); };
-    const auto named = [](const QString& step) { return texts::ofStep(texts::undoAction(), step); };
-    EXPECT_EQ(undoText(), texts::undoAction());
+    const auto named = [](const QString& step) { return zkp::texts::ofStep(zkp::texts::undoAction(), step); };
+    EXPECT_EQ(undoText(), zkp::texts::undoAction());
     grid().setColCaption(0, QStringLiteral("Άλλος τίτλος"));
     settle();
-    EXPECT_EQ(undoText(), named(texts::stepCaption()));
+    EXPECT_EQ(undoText(), named(zkp::texts::stepCaption()));
     dragHeading(1, 3);
-    EXPECT_EQ(undoText(), named(texts::stepMove()));
+    EXPECT_EQ(undoText(), named(zkp::texts::stepMove()));
     grid().MSFlexGrid1().userResizeColumn(0, 2400);
     settle();
-    EXPECT_EQ(undoText(), named(texts::stepWidth()));
+    EXPECT_EQ(undoText(), named(zkp::texts::stepWidth()));
     choose(u"mnuAddColumn");
-    EXPECT_EQ(undoText(), named(texts::stepAdd()));
+    EXPECT_EQ(undoText(), named(zkp::texts::stepAdd()));
     choose(u"mnuDelColumn");
-    EXPECT_EQ(undoText(), named(texts::stepDelete()));
+    EXPECT_EQ(undoText(), named(zkp::texts::stepDelete()));
     undo();
-    EXPECT_EQ(undoText(), named(texts::stepAdd()));
-    EXPECT_EQ(action("redo").text(), texts::ofStep(texts::redoAction(), texts::stepDelete()));
+    EXPECT_EQ(undoText(), named(zkp::texts::stepAdd()));
+    EXPECT_EQ(action("redo").text(), zkp::texts::ofStep(zkp::texts::redoAction(), zkp::texts::stepDelete()));
 }
 
 TEST_F(WindowUndo, AnAddedFactorIsColouredAtOnce) {

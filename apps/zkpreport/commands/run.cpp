@@ -20,7 +20,7 @@ int runRun(Start start, const QStringList& arguments) {
         return kExitDone;
     }
     const QCoreApplication application(start.argc, start.argv);
-    script::ScriptRunner runner(printLine, printError);
+    script::ScriptRunner runner(printLine, printError, QStringLiteral("zkpreport"));
     return runner.runFile(arguments.front(), arguments.mid(1));
 }
 

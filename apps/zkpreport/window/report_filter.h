@@ -1,16 +1,20 @@
 #pragma once
 
 #include "window/report_list.h"
-#include "window/user_filter.h"
 
 namespace zkp::app {
 
-/// What `Filter` gets for a report and a user's filter, or why the filter is refused.
-///
-/// The report's standing condition stands in front already: a load leaves it out where the filter holds
-/// its text, and so a user could switch it off. And since keys are translated inside constants too,
-/// the filter must keep to its brackets after the translation as well. A blank filter becomes `TRUE`.
-UserFilter reportFilter(const ReportEntry& report, const ado::ConnectionPtr& connection,
-                        const QString& typed);
+/// A user's filter as a load of a report takes it, or why it may not.
+struct ReportFilter {
+    QString text;    ///< for `Filter`
+    QString refusal; ///< for the user, with its place; empty when the filter is accepted
+
+    bool isAccepted() const { return refusal.isEmpty(); }
+};
+
+/// The filter in its brackets, with the report's standing condition in front: that holds in statements too
+/// which aren't composed at run time.
+ReportFilter reportFilter(const ReportEntry& report, const ado::ConnectionPtr& connection,
+                          const QString& typed);
 
 } // namespace zkp::app

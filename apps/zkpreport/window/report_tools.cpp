@@ -2,10 +2,11 @@
 
 #include "base/error.h"
 #include "base/scope_guard.h"
+#include "base/texts_tools.h"
 #include "host/error_box.h"
 #include "host/host.h"
+#include "widgets/tools/clipboard_copy.h"
 #include "widgets/zkp_grid_widget.h"
-#include "window/clipboard_copy.h"
 #include "window/texts.h"
 
 #include <QAction>
@@ -51,20 +52,24 @@ void ReportTools::makeActions(QMainWindow& window) {
         connect(action, &QAction::triggered, this, [this, command] { guarded(command); });
         return action;
     };
-    QAction* undo = add(texts::undoAction(), "undo", {Qt::CTRL | Qt::Key_Z}, [this] { recorder_.undo(); });
-    QAction* redo = add(texts::redoAction(), "redo", {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
-                        [this] { recorder_.redo(); });
+    QAction* undo =
+        add(zkp::texts::undoAction(), "undo", {Qt::CTRL | Qt::Key_Z}, [this] { recorder_.undo(); });
+    QAction* redo =
+        add(zkp::texts::redoAction(), "redo", {Qt::CTRL | Qt::Key_Y, Qt::CTRL | Qt::SHIFT | Qt::Key_Z},
+            [this] { recorder_.redo(); });
     menu->addSeparator();
-    add(texts::copyAction(), "copy", {Qt::CTRL | Qt::Key_C, Qt::CTRL | Qt::Key_Insert}, [this] { copy(); });
+    add(zkp::texts::copyAction(), "copy", {Qt::CTRL | Qt::Key_C, Qt::CTRL | Qt::Key_Insert},
+        [this] { copy(); });
     menu->addSeparator();
-    add(texts::findAction(), "find", {Qt::CTRL | Qt::Key_F}, [this] { find_.open(); });
-    add(texts::findNextAction(), "findNext", {Qt::Key_F3}, [this] { find_.next(); });
-    add(texts::findPreviousAction(), "findPrevious", {Qt::SHIFT | Qt::Key_F3}, [this] { find_.previous(); });
+    add(zkp::texts::findAction(), "find", {Qt::CTRL | Qt::Key_F}, [this] { find_.open(); });
+    add(zkp::texts::findNextAction(), "findNext", {Qt::Key_F3}, [this] { find_.next(); });
+    add(zkp::texts::findPreviousAction(), "findPrevious", {Qt::SHIFT | Qt::Key_F3},
+        [this] { find_.previous(); });
     const auto enable = [this, undo, redo] {
         undo->setEnabled(recorder_.canUndo());
         redo->setEnabled(recorder_.canRedo());
-        undo->setText(texts::ofStep(texts::undoAction(), recorder_.undoName()));
-        redo->setText(texts::ofStep(texts::redoAction(), recorder_.redoName()));
+        undo->setText(zkp::texts::ofStep(zkp::texts::undoAction(), recorder_.undoName()));
+        redo->setText(zkp::texts::ofStep(zkp::texts::redoAction(), recorder_.redoName()));
     };
     connect(&recorder_, &ReshapeRecorder::changed, this, enable);
     enable();
@@ -102,9 +107,9 @@ void ReportTools::showReport(ZkpGridWidget* report) {
 void ReportTools::copy() {
     if (!report_)
         return;
-    const int pointer = host_.pointer();
-    const ScopeGuard restore([&] { host_.setPointer(pointer); });
-    host_.setPointer(kPointerHourglass);
+    const int pointer = host_.screenPointer().pointer();
+    const ScopeGuard restore([&] { host_.screenPointer().setPointer(pointer); });
+    host_.screenPointer().setPointer(kPointerHourglass);
     ZkpGrid& grid = report_->grid();
     QStringList headings;
     for (int c = 0; c < grid.Cols(); ++c)

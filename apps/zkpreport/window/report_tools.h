@@ -1,9 +1,9 @@
 #pragma once
 
-#include "window/load_progress.h"
-#include "window/report_find.h"
-#include "window/reshape_recorder.h"
-#include "window/selection_status.h"
+#include "widgets/tools/load_progress.h"
+#include "widgets/tools/report_find.h"
+#include "widgets/tools/reshape_recorder.h"
+#include "widgets/tools/selection_status.h"
 
 #include <QMainWindow>
 

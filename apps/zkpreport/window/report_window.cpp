@@ -212,10 +212,10 @@ bool ReportWindow::openReport(const QString& filter) {
             return false;
         showTitle();
         reconnectDatabase();
-        const UserFilter checked = reportFilter(*report, connection_, filter);
+        const ReportFilter checked = reportFilter(*report, connection_, filter);
         if (!checked.isAccepted()) {
             filter_->setText(filter);
-            setMessage(checked.failure);
+            setMessage(checked.refusal);
             return false;
         }
         filter_->setInForce(filter);
@@ -317,7 +317,7 @@ void ReportWindow::sortByCurrentColumn() {
     }
     guarded([&] {
         reconnectDatabase();
-        const UserFilter filter = reportFilter(*report, connection_, filter_->inForce());
+        const ReportFilter filter = reportFilter(*report, connection_, filter_->inForce());
         return tell(sortReport(grid(), filter.text, sort_));
     });
 }

@@ -147,9 +147,9 @@ ReportWindow::OpenedTemplate ReportWindow::readTemplateInto(std::unique_ptr<ZkpG
     if (const QStringList denied = deniedFields(grid, opened.fields); !user.isEmpty() && !denied.isEmpty())
         throw Error(kErrItemNotFound, texts::templateDenied(denied.join(QStringLiteral(", "))));
     opened.filter = typedFilter(grid);
-    const UserFilter filter = reportFilter(report, connection_, opened.filter);
+    const ReportFilter filter = reportFilter(report, connection_, opened.filter);
     if (!filter.isAccepted())
-        throw Error(kErrInvalidCall, texts::templateFilterRefused(opened.filter, filter.failure));
+        throw Error(kErrInvalidCall, texts::templateFilterRefused(opened.filter, filter.refusal));
     opened.record = loadOpened(grid, filter.text);
     return opened;
 }

@@ -58,22 +58,21 @@ BandBar::BandBar(MenuBar& bar, const QString& band, QWidget* parent)
     more_->setMenu(new QMenu(more_));
     more_->installEventFilter(this);
     connect(more_->menu(), &QMenu::aboutToShow, this, [this] { fillMore(); });
-    bar.changed = [this] {
-        sync();
-        Q_EMIT barChanged();
-    };
-    bar.popupWanted = [this](const Band& wanted) { popup(wanted); };
+    listening_ = bar.views.add({[this] {
+                                    sync();
+                                    Q_EMIT barChanged();
+                                },
+                                [this](const Band& wanted, bool& isOpen) {
+                                    if (!isOpen)
+                                        isOpen = popup(wanted);
+                                }});
     sync();
 }
 
-BandBar::~BandBar() {
-    if (bar_) {
-        bar_->changed = {};
-        bar_->popupWanted = {};
-    }
-}
+BandBar::~BandBar() = default;
 
 void BandBar::detach() {
+    listening_.stop();
     bar_ = nullptr;
     setEnabled(false);
     delete menu_;
@@ -211,14 +210,14 @@ void BandBar::report(F call) {
 }
 
 /// Does not wait for the answer: the caller is a notification of the surface.
-void BandBar::popup(const Band& band) {
+bool BandBar::popup(const Band& band) {
     delete menu_;
     menu_ = new QMenu(this);
     menu_->setAttribute(Qt::WA_DeleteOnClose);
     fillBandMenu(*menu_, *bar_, band.tools, actions());
     if (menu_->isEmpty()) {
         delete menu_;
-        return;
+        return false;
     }
     const std::optional<QPoint> place = keyboardPlace ? keyboardPlace() : std::nullopt;
     menu_->popup(place.value_or(QCursor::pos()));
@@ -226,6 +225,7 @@ void BandBar::popup(const Band& band) {
         QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
         QCoreApplication::sendEvent(menu_, &down); // marks the first entry, and opens no submenu of it
     }
+    return true;
 }
 
 /// Down opens the menu of a tool; Enter and Escape end typing.

@@ -62,12 +62,14 @@ private:
     void place();
     int placeLabels(int right);
     void fillMore();
-    void popup(const Band& band);
+    /// False when nothing of the band can be shown.
+    bool popup(const Band& band);
     BandActions actions();
     template <class F>
     void report(F call);
 
     MenuBar* bar_;
+    Listening listening_;
     QString band_;
     std::vector<Item> row_;
     std::vector<Item> labels_;

@@ -3,6 +3,7 @@
 #include "widgets/band/tool_icons.h"
 #include "widgets/grid/full_text_tip.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QFrame>
 #include <QHelpEvent>

@@ -33,20 +33,20 @@ GridView::GridView(GridSurface& surface, QWidget* parent)
     verticalScrollBar()->setSingleStep(1);
     horizontalScrollBar()->setSingleStep(1);
     scale_.dpi = logicalDpiX();
-    surface.view.changed = [this] { invalidate(); };
-    surface.view.rowChanged = [this](int row) { onRowChanged(row); };
-    surface.view.scrolled = [this] { onScrolled(); };
-    surface.view.focusWanted = [this] { setFocus(Qt::OtherFocusReason); };
+    listening_ = surface.views.add({.changed = [this] { invalidate(); },
+                                    .rowChanged = [this](int row) { onRowChanged(row); },
+                                    .scrolled = [this] { onScrolled(); },
+                                    .focusWanted = [this] { setFocus(Qt::OtherFocusReason); },
+                                    .room = [this] { return roomForRows_; }});
     invalidate();
 }
 
 GridView::~GridView() {
-    if (surface_)
-        surface_->view = {};
     surface_ = nullptr; // a screen reader may still ask while the widget ends
 }
 
 void GridView::detach() {
+    listening_.stop();
     surface_ = nullptr;
     page_ = {};
     endGesture();
@@ -89,10 +89,11 @@ void GridView::layOutNow() {
     const int room = std::max(0, page_.size.height() - page_.bottom());
     roomForRows_ = std::max(1, page_.shownRows() + (room + rowHeight - 1) / rowHeight);
     // More rows are a notification, which must not come in the middle of a paint.
-    if (surface_->VisibleRows() != 0 && surface_->VisibleRows() < roomForRows_)
+    const int most = surface_->roomInViews();
+    if (surface_->VisibleRows() != 0 && surface_->VisibleRows() < most)
         postSync();
     else
-        surface_->setVisibleRows(roomForRows_);
+        surface_->setVisibleRows(most);
 }
 
 void GridView::syncBars() {
@@ -119,7 +120,7 @@ bool GridView::event(QEvent* event) {
         return true;
     setEnabled(surface_->look().Enabled);
     syncBars();
-    if (!report([this](GridSurface& surface) { surface.setVisibleRows(roomForRows_); }) ||
+    if (!report([this](GridSurface& surface) { surface.setVisibleRows(surface.roomInViews()); }) ||
         !followCurrentColumn())
         return true;
     announcer_.announce(*this);

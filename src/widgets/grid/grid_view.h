@@ -19,7 +19,8 @@
 namespace zkp {
 
 /// Shows a surface and reports to it what the user does. It decides nothing: what a click, a drop or a
-/// key means is the surface's owner's business. Sets the surface's `VisibleRows`.
+/// key means is the surface's owner's business. Sets the surface's `VisibleRows`; of several views of one
+/// surface the largest.
 ///
 /// The surface may go away in any notification, and the view with it; the surface's owner calls
 /// detach() when only the surface goes.
@@ -33,13 +34,12 @@ public:
     /// The surface is gone; the view shows nothing from now on.
     void detach();
 
-    /// What comes before the surface hears of a key: the code that is left (0 swallows the key); whether
-    /// a heading may be dragged (without it: yes); where an error goes that a notification raised; and
-    /// where events for screen readers go (without it: to the system).
+    /// What comes before the surface hears of a key: the code that is left (0 swallows the key); where an
+    /// error goes that a notification raised; and where events for screen readers go (without it: to the
+    /// system).
     struct Relays {
         std::function<int(int code, int shift)> keyDown;
         std::function<int(int ascii)> keyPress;
-        std::function<bool(int col)> mayDrag; ///< may the heading that was just pressed be dragged?
         std::function<void(const Error&)> failed;
         std::function<void(QAccessibleEvent&)> tellReaders;
     };
@@ -135,6 +135,7 @@ private:
     void paintGesture(QPainter& painter) const;
 
     GridSurface* surface_;
+    Listening listening_;
     TwipScale scale_;
     PageLayout page_;
     SurfacePainter painter_;

@@ -77,7 +77,7 @@ void GridView::moveColumn(int arrow) {
     mouse.col = from.col;
     if (!report([&](GridSurface& surface) { surface.userPress(mouse); }))
         return;
-    const bool mayDrag = !relays.mayDrag || relays.mayDrag(from.col);
+    const bool mayDrag = surface_->mayDragHeading(from.col);
     mouse.col = to->col;
     if (mayDrag && !report([&](GridSurface& surface) { surface.userMove(mouse); }))
         return;

@@ -38,7 +38,7 @@ const Span* GridView::resizableAt(QPoint at) {
 
 void GridView::pressHeading(int col, QPoint at) {
     const Span* span = spanOf(page().cols, col); // gone, perhaps, with the press
-    if (span && (!relays.mayDrag || relays.mayDrag(col)))
+    if (span && surface_->mayDragHeading(col))
         gesture_.pressHeading(*span, at);
 }
 

@@ -23,7 +23,17 @@ CellRange selectedBlock(const GridSurface& surface) {
     }
     block.top = std::max(block.top, surface.FixedRows());
     block.left = std::max(block.left, surface.FixedCols());
+    block.bottom = std::min(block.bottom, surface.Rows() - 1);
+    block.right = std::min(block.right, surface.Cols() - 1);
     return block;
+}
+
+std::vector<int> shownColumns(const GridSurface& surface, int left, int right) {
+    std::vector<int> shown;
+    for (int col = left; col <= right; ++col)
+        if (!surface.ColHidden(col) && surface.ColWidth(col) != 0)
+            shown.push_back(col);
+    return shown;
 }
 
 ShownSelection::ShownSelection(const GridSurface& surface, bool focused)

@@ -2,11 +2,20 @@
 
 #include "surface/grid_surface.h"
 
+#include <vector>
+
 namespace zkp {
 
 /// The body cells that are selected: the selected range, as `SelectionMode` widens it to whole rows or
-/// columns.
+/// columns. Empty (bottom above top, or right before left) where there are none.
 CellRange selectedBlock(const GridSurface& surface);
+
+inline bool isEmpty(const CellRange& block) {
+    return block.bottom < block.top || block.right < block.left;
+}
+
+/// The columns of a range that have a width and are not hidden.
+std::vector<int> shownColumns(const GridSurface& surface, int left, int right);
 
 /// What of a surface shows as selected, by its settings: `HighLight` 0 nothing, 1 always, 2 with the
 /// focus; `SelectionMode` 1 whole rows, 2 whole columns. Headings never do. The current cell of a free

@@ -1,0 +1,35 @@
+#include "sql/user_filter.h"
+
+#include "base/text.h"
+#include "sql/filter_keys.h"
+#include "sql/guarded_filter.h"
+
+namespace zkp {
+
+QString UserFilter::set(const QString& text) {
+    const GuardedFilter filter = guardedFilter(text, inputs_.state.AllowSubselects);
+    if (!filter.refusal.isEmpty())
+        return filter.refusal;
+    QString refusal = refusalOfKeys(filter.condition, filter.offset);
+    if (refusal.isEmpty())
+        inputs_.setTypedFilter(filter.condition);
+    return refusal;
+}
+
+/// A dictionary that can't be read yet has the load look again.
+QString UserFilter::refusalOfKeys(const QString& condition, qsizetype offset) const {
+    const ReportState& state = inputs_.state;
+    if (!state.SqlOnRunTime || isBlank(state.clmns) || !state.Cn || state.Cn->State() != ado::adStateOpen)
+        return {};
+    WatchedCondition watched(condition);
+    try {
+        for (FilterKeys keys(state); keys.next();)
+            if (keys.hasPhysical())
+                watched.replaceKey(keys.key(), keys.physical());
+    } catch (const std::exception&) {
+        return {};
+    }
+    return watched.refusal(offset);
+}
+
+} // namespace zkp

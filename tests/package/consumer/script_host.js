@@ -1,0 +1,1 @@
+print("of the host: " + report.ColCaption(0));
