@@ -44,11 +44,10 @@ public:
     /// Ends the control (`UserControl_Terminate`), also from within one of its own events.
     ~ZkpGrid() override;
 
-#define ZKP_READ_WRITE(Type, Name)                                                                           \
+#define ZKP_READ_WRITE(Type, Name, ...)                                                                      \
     Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
     Type Name() const;                                                                                       \
     void set##Name(const Type& value);
-#define ZKP_KEYED(Type, Name, ...) ZKP_READ_WRITE(Type, Name)
 #define ZKP_WRITE_ONLY(Type, Name, ...) Q_INVOKABLE void set##Name(const Type& value);
 #define ZKP_INDEXED(Type, Name, ...)                                                                         \
     Q_INVOKABLE Type Name(int index) const;                                                                  \
@@ -60,10 +59,9 @@ public:
 
     ZKP_SURFACE_PROPERTIES(ZKP_READ_WRITE)
     ZKP_LOOK_PROPERTIES(ZKP_READ_WRITE)
-    ZKP_MEMBER_PROPERTIES(ZKP_KEYED)
-    ZKP_KEPT_MEMBERS(ZKP_KEYED)
-    ZKP_SILENT_PROPERTIES(ZKP_KEYED)
-    ZKP_PLAIN_MEMBERS(ZKP_KEYED)
+    ZKP_MEMBER_PROPERTIES(ZKP_READ_WRITE)
+    ZKP_KEPT_MEMBERS(ZKP_READ_WRITE)
+    ZKP_SILENT_PROPERTIES(ZKP_READ_WRITE)
     ZKP_IDENTITY_PROPERTIES(ZKP_WRITE_ONLY)
     ZKP_SURFACE_INDEXED(ZKP_INDEXED)
     ZKP_SURFACE_CELLS(ZKP_BY_CELL)
@@ -73,7 +71,7 @@ public:
     ZKP_HAND_WRITTEN_SILENT(ZKP_READ_WRITE)
     ZKP_HAND_WRITTEN_INDEXED(ZKP_INDEXED)
 
-#define ZKP_READ_ONLY(Type, Name)                                                                            \
+#define ZKP_READ_ONLY(Type, Name, ...)                                                                       \
     Q_PROPERTY(Type Name READ Name)                                                                          \
     Type Name() const;
     ZKP_READ_ONLY_MEMBERS(ZKP_READ_ONLY)
@@ -81,7 +79,6 @@ public:
 #undef ZKP_READ_ONLY
 
 #undef ZKP_READ_WRITE
-#undef ZKP_KEYED
 #undef ZKP_WRITE_ONLY
 #undef ZKP_INDEXED
 #undef ZKP_BY_CELL

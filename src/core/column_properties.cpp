@@ -23,7 +23,7 @@ int surfaceAlignment(int stored) {
 bool isUntouched(const Column& column) {
     Column fresh;
     fresh.Alignment = column.Alignment;
-#define ZKP_SAME(Type, Name)                                                                                 \
+#define ZKP_SAME(Type, Name, ...)                                                                            \
     if (!(column.Name == fresh.Name))                                                                        \
         return false;
     ZKP_COLUMN_MEMBERS(ZKP_SAME)
@@ -33,7 +33,7 @@ bool isUntouched(const Column& column) {
 
 } // namespace
 
-#define ZKP_DEFINE(Type, Name, Member)                                                                       \
+#define ZKP_DEFINE(Type, Name, Member, ...)                                                                  \
     void ColumnProperties::set##Name(int index, Type value) {                                                \
         columns_.ofGridColumn(index).Member = std::move(value);                                              \
         events_.notify(QStringLiteral(#Name));                                                               \

@@ -19,7 +19,7 @@ public:
         , surface_(surface)
         , events_(events) {}
 
-#define ZKP_DECLARE(Type, Name, Member)                                                                      \
+#define ZKP_DECLARE(Type, Name, Member, ...)                                                                 \
     Type Name(int index) const {                                                                             \
         return columns_.ofGridColumn(index).Member;                                                          \
     }                                                                                                        \

@@ -9,7 +9,7 @@
 
 namespace zkp {
 
-#define ZKP_SURFACE(Type, Name)                                                                              \
+#define ZKP_SURFACE(Type, Name, ...)                                                                         \
     Type ZkpGrid::Name() const {                                                                             \
         return parts_->surface.Name();                                                                       \
     }                                                                                                        \
@@ -20,7 +20,7 @@ namespace zkp {
     }
 ZKP_SURFACE_PROPERTIES(ZKP_SURFACE)
 
-#define ZKP_LOOK(Type, Name)                                                                                 \
+#define ZKP_LOOK(Type, Name, ...)                                                                            \
     Type ZkpGrid::Name() const {                                                                             \
         return parts_->surface.look().Name;                                                                  \
     }                                                                                                        \
@@ -74,7 +74,6 @@ ZKP_MEMBER_PROPERTIES(ZKP_MEMBER)
         parts_->state.Name = value;                                                                          \
     }
 ZKP_SILENT_PROPERTIES(ZKP_SILENT)
-ZKP_PLAIN_MEMBERS(ZKP_SILENT)
 
 #define ZKP_WRITE_ONLY(Type, Name, ...)                                                                      \
     void ZkpGrid::set##Name(const Type& value) {                                                             \
@@ -82,7 +81,7 @@ ZKP_PLAIN_MEMBERS(ZKP_SILENT)
     }
 ZKP_IDENTITY_PROPERTIES(ZKP_WRITE_ONLY)
 
-#define ZKP_READ_ONLY(Type, Name)                                                                            \
+#define ZKP_READ_ONLY(Type, Name, ...)                                                                       \
     Type ZkpGrid::Name() const {                                                                             \
         return parts_->state.Name;                                                                           \
     }

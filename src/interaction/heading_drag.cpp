@@ -117,29 +117,15 @@ void HeadingDrag::move(int from, int to) {
     state_.LastClickedCol = surface_.Col();
 }
 
-/// Hosts that listen hear of every property of every column, in this order.
+/// Hosts that listen hear of the properties that the list says, in its order.
 void HeadingDrag::writeBack(int col) {
+    enum { Kept, Told };
     const Column column = columns_.ofGridColumn(col);
-    properties_.setColAlignment(col, column.Alignment);
-    properties_.setColBalance(col, column.Balance);
-    properties_.setColCaption(col, column.Caption);
-    properties_.setColCredit(col, column.Credit);
-    properties_.setColDataField(col, column.Datafield);
-    properties_.setColDebit(col, column.Debit);
-    properties_.setColTotals(col, column.Totals);
-    properties_.setColStatic(col, column.Stat_ic);
-    properties_.setColLR(col, column.lR);
-    properties_.setColForTot(col, column.ForTot);
-    properties_.setColIndexKey(col, column.Index_Key);
-    properties_.setColcnt(col, column.cnt);
-    properties_.setColWidth(col, column.Width);
-    properties_.setColEditRs(col, column.EditRs);
-    properties_.setColEditKind(col, column.EditKind);
-    properties_.setColEditTag(col, column.EditTag);
-    properties_.setColEditLength(col, column.EditLength);
-    properties_.setColEditField1(col, column.EditField1);
-    properties_.setColEditField2(col, column.EditField2);
-    properties_.setColEditable(col, column.Editable);
+#define ZKP_WRITE_BACK(Type, Name, Member, Moved)                                                            \
+    if constexpr (Moved == Told)                                                                             \
+        properties_.set##Name(col, column.Member);
+    ZKP_COLUMN_ROWS(ZKP_WRITE_BACK, ZKP_WRITE_BACK)
+#undef ZKP_WRITE_BACK
 }
 
 void HeadingDrag::askForRefresh() {

@@ -9,7 +9,7 @@ namespace zkp::script {
 class ColumnObject : public ScriptObject {
     Q_OBJECT
 
-#define ZKP_COLUMN_PROPERTY(Type, Name)                                                                      \
+#define ZKP_COLUMN_PROPERTY(Type, Name, ...)                                                                 \
     Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
     Type Name() const {                                                                                      \
         return record().Name;                                                                                \

@@ -39,7 +39,7 @@ QVariant otherThan(const QVariant& value) {
               [](ZkpGrid& g) { return QVariant::fromValue<Type>(g.Name()); },                                \
               [](ZkpGrid& g, const QVariant& v) { g.set##Name(v.value<Type>()); }, otherThan<Type>},
 #define KEYED(Type, Name, Key, ...) PLAIN(Type, Name, Key)
-#define BY_ITS_NAME(Type, Name) PLAIN(Type, Name, #Name)
+#define BY_ITS_NAME(Type, Name, ...) PLAIN(Type, Name, #Name)
 #define SILENT(Type, Name, ...) PLAIN(Type, Name, "")
 #define INDEXED(Type, Name, ...)                                                                             \
     IndexedCase{                                                                                             \
@@ -54,7 +54,7 @@ bool isException(const QString& name) {
 std::vector<PlainCase> plainCases() {
     return {ZKP_SURFACE_PROPERTIES(BY_ITS_NAME) ZKP_LOOK_PROPERTIES(BY_ITS_NAME) ZKP_HAND_WRITTEN(BY_ITS_NAME)
                 ZKP_MEMBER_PROPERTIES(KEYED) ZKP_KEPT_MEMBERS(KEYED) ZKP_SILENT_PROPERTIES(SILENT)
-                    ZKP_PLAIN_MEMBERS(SILENT) ZKP_HAND_WRITTEN_SILENT(SILENT)};
+                    ZKP_HAND_WRITTEN_SILENT(SILENT)};
 }
 
 std::vector<IndexedCase> indexedCases() {
@@ -169,7 +169,7 @@ TEST_F(PropertyListTest, EachIndexedOneTakesAnotherValueAtItsPlaceAndReportsItOn
 }
 
 TEST_F(PropertyListTest, WhatIsWrittenOnTheSurfaceIsReadOnTheControlAndTheOtherWayRound){
-#define BOTH_WAYS(Type, Name)                                                                                \
+#define BOTH_WAYS(Type, Name, ...)                                                                           \
     {                                                                                                        \
         renew();                                                                                             \
         GridSurface& surface = grid->MSFlexGrid1();                                                          \
@@ -184,7 +184,7 @@ TEST_F(PropertyListTest, WhatIsWrittenOnTheSurfaceIsReadOnTheControlAndTheOtherW
         BOTH_WAYS(BagFont, Font)}
 
 TEST_F(PropertyListTest, TheSurfacesSettingsAreThoseOfTheControl){
-#define SETTING_BOTH_WAYS(Type, Name)                                                                        \
+#define SETTING_BOTH_WAYS(Type, Name, ...)                                                                   \
     {                                                                                                        \
         renew();                                                                                             \
         GridSurface::Look look = grid->MSFlexGrid1().look();                                                 \

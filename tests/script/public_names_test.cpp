@@ -258,7 +258,6 @@ TEST_F(PublicNames, NothingOfThePropertyListIsMissing) {
     ZKP_KEPT_MEMBERS(READ_AND_WRITE)
     ZKP_HAND_WRITTEN(READ_AND_WRITE)
     ZKP_SILENT_PROPERTIES(READ_AND_WRITE)
-    ZKP_PLAIN_MEMBERS(READ_AND_WRITE)
 #define BOTH_METHODS(Type, Name, ...) expectRuns(QStringLiteral("grid.set" #Name "(1, grid." #Name "(1))"));
     ZKP_SURFACE_INDEXED(BOTH_METHODS)
     ZKP_COLUMN_PROPERTIES(BOTH_METHODS)

@@ -59,7 +59,7 @@ std::optional<std::pair<int, QString>> columnMember(const QString& name) {
 }
 
 QVariant memberOf(const Column& column, const QString& member) {
-#define ZKP_GET(Type, Name)                                                                                  \
+#define ZKP_GET(Type, Name, ...)                                                                             \
     if (member == QStringLiteral(#Name))                                                                     \
         return QVariant::fromValue(column.Name);
     ZKP_COLUMN_MEMBERS(ZKP_GET)
@@ -69,7 +69,7 @@ QVariant memberOf(const Column& column, const QString& member) {
 }
 
 void setMemberOf(Column& column, const QString& member, const QVariant& value) {
-#define ZKP_SET(Type, Name)                                                                                  \
+#define ZKP_SET(Type, Name, ...)                                                                             \
     if (member == QStringLiteral(#Name)) {                                                                   \
         column.Name = value.value<Type>();                                                                   \
         return;                                                                                              \

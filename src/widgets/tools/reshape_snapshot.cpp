@@ -1,73 +1,39 @@
 #include "widgets/tools/reshape_snapshot.h"
 
-#include <array>
+#include "core/shape_section.h"
 
 namespace zkp {
 
 namespace {
 
-/// What the property list has beside a report's shape: what is written by loads, hosts and menus. The
-/// group factors come from the flags of the columns.
-constexpr std::array kNoShape{"Filter",
-                              "PreFilter",
-                              "PrintFilter",
-                              "UnionFilter",
-                              "UnionRecordSource",
-                              "clmns",
-                              "FileName",
-                              "fileno",
-                              "PropsChanged",
-                              "CancelPrint",
-                              "KeyName",
-                              "specialrecordsource",
-                              "specialinfo",
-                              "GraphVisible",
-                              "Groupby",
-                              "RefreshOnChange",
-                              "PrintCenter",
-                              "MinRows",
-                              "Col",
-                              "ColSel",
-                              "RowSel",
-                              "Redraw",
-                              "Text",
-                              "TopRow",
-                              "FixedRows",
-                              "FixedCols",
-                              "CellBackColor",
-                              "CellFontBold",
-                              "CellFontItalic",
-                              "CellFontUnderline",
-                              "CellForeColor",
-                              "Enabled"};
-
 struct Property {
     const char* name;
     QVariant (*read)(const ZkpGrid&);
     void (*write)(ZkpGrid&, const QVariant&);
-    bool isShape;
+    ShapeSection section;
 };
 
-bool isShape(std::string_view name) {
-    return std::find(kNoShape.begin(), kNoShape.end(), name) == kNoShape.end();
-}
-
-#define ZKP_ROW(Type, Name, ...)                                                                             \
+#define ZKP_ROW(Type, Name, Section)                                                                         \
     {#Name, [](const ZkpGrid& grid) { return QVariant::fromValue(grid.Name()); },                            \
-     [](ZkpGrid& grid, const QVariant& value) { grid.set##Name(value.value<Type>()); }, isShape(#Name)},
+     [](ZkpGrid& grid, const QVariant& value) { grid.set##Name(value.value<Type>()); },                      \
+     ShapeSection::Section},
+#define ZKP_STORED_ROW(Type, Name, Key, Subject, Section, ...) ZKP_ROW(Type, Name, Section)
 
-/// The surface's own colours come first: they are written over the whole of it.
+/// What the list says is part of the shape; the group factors come from the flags of the columns. The
+/// surface's own colours come first: they are written over the whole of it.
 const std::vector<Property>& properties() {
     static const std::vector<Property> all = [] {
-        std::vector<Property> listed{ZKP_SURFACE_PROPERTIES(ZKP_ROW) ZKP_LOOK_PROPERTIES(ZKP_ROW)
-                                         ZKP_MEMBER_PROPERTIES(ZKP_ROW) ZKP_KEPT_MEMBERS(ZKP_ROW)};
-        std::erase_if(listed, [](const Property& property) { return !property.isShape; });
+        std::vector<Property> listed{ZKP_SURFACE_PROPERTIES(ZKP_ROW) ZKP_LOOK_PROPERTIES(
+            ZKP_ROW) ZKP_MEMBER_PROPERTIES(ZKP_STORED_ROW) ZKP_KEPT_MEMBERS(ZKP_STORED_ROW)};
+        std::erase_if(listed,
+                      [](const Property& property) { return property.section == ShapeSection::None; });
         return listed;
     }();
     return all;
 }
 
 #undef ZKP_ROW
+#undef ZKP_STORED_ROW
 
 std::size_t placeOf(std::string_view name) {
     const auto& all = properties();
