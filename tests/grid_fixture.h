@@ -31,7 +31,7 @@ inline std::uint32_t errorNumberOf(const std::function<void()>& call) {
 class GridTest : public testing::Test {
 protected:
     GridTest() {
-        zkp::ReportState::LastClickedCol = 0; // which other controls of the process have left behind
+        zkp::ClickedColumn::take(0); // which other controls of the process have left behind
         grid->setLocale(QLocale(QStringLiteral("el_GR")));
         QObject::connect(&grid->events(), &zkp::Events::PropertyChanged,
                          [this](zkp::PropertyArgs& e) { changed << e.name; });

@@ -8,19 +8,19 @@
 namespace zkp {
 
 bool AccountColumns::FindAccountColumns() {
-    state_.DebitColumn = state_.CreditColumn = state_.BalanceColumn = -1;
+    account_.DebitColumn = account_.CreditColumn = account_.BalanceColumn = -1;
     const int cols = std::min(surface_.Cols(), columns_.Count());
     for (int number = 1; number <= cols; ++number) {
         const Column& column = columns_.Item(number);
         const auto position = toInt16(number - 1);
         if (column.Debit)
-            state_.DebitColumn = position;
+            account_.DebitColumn = position;
         if (column.Credit)
-            state_.CreditColumn = position;
+            account_.CreditColumn = position;
         if (column.Balance)
-            state_.BalanceColumn = position;
+            account_.BalanceColumn = position;
     }
-    return state_.DebitColumn >= 0 || state_.CreditColumn >= 0 || state_.BalanceColumn >= 0;
+    return account_.DebitColumn >= 0 || account_.CreditColumn >= 0 || account_.BalanceColumn >= 0;
 }
 
 /// Val reads a point only, whatever the locale: "1.234,50" counts as 1,234. Wanted.
@@ -34,7 +34,7 @@ void AccountColumns::RecalcBalanceColumn() {
     std::vector<double> sums(static_cast<std::size_t>(cols), 0.0);
     double running = 0.0;
     for (int r = surface_.FixedRows(); r <= surface_.Rows() - 2; ++r) {
-        running += amountAt(r, state_.DebitColumn) - amountAt(r, state_.CreditColumn);
+        running += amountAt(r, account_.DebitColumn) - amountAt(r, account_.CreditColumn);
         for (int c = 0; c < cols; ++c) {
             Column& column = columns_.ofGridColumn(c);
             if (column.Balance)
@@ -60,12 +60,12 @@ void AccountColumns::writeLastRow(const std::vector<double>& sums) {
     }
     if (cols > 0) {
         surface_.setTextMatrix(last, 0, QStringLiteral("###"));
-        const StylePatch totals = coloursOf(styleOf(Section::Totals, state_, surface_));
+        const StylePatch totals = coloursOf(styleOf(Section::Totals, sections_, surface_));
         surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, totals);
     }
-    if (state_.BalanceColumn > -1) {
-        const double balance = amountAt(last, state_.DebitColumn) - amountAt(last, state_.CreditColumn);
-        surface_.setTextMatrix(last, state_.BalanceColumn, surface_.locale().doubleText(balance));
+    if (account_.BalanceColumn > -1) {
+        const double balance = amountAt(last, account_.DebitColumn) - amountAt(last, account_.CreditColumn);
+        surface_.setTextMatrix(last, account_.BalanceColumn, surface_.locale().doubleText(balance));
     }
 }
 

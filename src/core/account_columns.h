@@ -1,7 +1,8 @@
 #pragma once
 
 #include "core/column_list.h"
-#include "core/report_state.h"
+#include "core/state/account_state.h"
+#include "core/state/section_settings.h"
 #include "surface/grid_surface.h"
 
 #include <functional>
@@ -15,8 +16,10 @@ public:
     /// How wide a text shows, in twips.
     using MeasureText = std::function<double(const QString&)>;
 
-    AccountColumns(ReportState& state, ColumnList& columns, GridSurface& surface, MeasureText measure)
-        : state_(state)
+    AccountColumns(const SectionSettings& sections, AccountState& account, ColumnList& columns,
+                   GridSurface& surface, MeasureText measure)
+        : sections_(sections)
+        , account_(account)
         , columns_(columns)
         , surface_(surface)
         , measure_(std::move(measure)) {}
@@ -33,7 +36,8 @@ private:
     double amountAt(int row, int column) const;
     void writeLastRow(const std::vector<double>& sums);
 
-    ReportState& state_;
+    const SectionSettings& sections_;
+    AccountState& account_;
     ColumnList& columns_;
     GridSurface& surface_;
     MeasureText measure_;

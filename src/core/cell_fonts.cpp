@@ -11,7 +11,7 @@ void FontWriter::SetCellFonts(int row, const StylePatch& font, const Block& bloc
     if (row < 0 || row >= surface_.Rows() || surface_.Cols() == 0)
         return;
     const int last = surface_.Cols() - 1;
-    const int left = block.col.value_or(row > 0 ? state_.GroupFactorCount : 0);
+    const int left = block.col.value_or(row > 0 ? grouping_.GroupFactorCount : 0);
     if (!block.col && left > last)
         return; // all columns are group factors
     const StylePatch patch{.fontName = font.fontName,
@@ -21,7 +21,7 @@ void FontWriter::SetCellFonts(int row, const StylePatch& font, const Block& bloc
                            .underline = font.underline};
 
     const RedrawOff still(surface_);
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     surface_.applyStyle({row, left, block.rowEnd.value_or(row), block.colEnd.value_or(last)}, patch);
     selectCurrentCell(surface_);
 }
@@ -29,12 +29,12 @@ void FontWriter::SetCellFonts(int row, const StylePatch& font, const Block& bloc
 void FontWriter::paintHeading() {
     if (surface_.FixedRows() == 0)
         return;
-    const StylePatch font = fontOf(styleOf(Section::Heading, state_, surface_));
+    const StylePatch font = fontOf(styleOf(Section::Heading, sections_, surface_));
     SetCellFonts(0, font, {.col = 0, .rowEnd = surface_.FixedRows() - 1, .colEnd = {}});
 }
 
 void FontWriter::FontsRow(int row, const StylePatch& marks) {
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     const int last = surface_.Cols() - 1;
     if (last >= 0)
         mark({row, std::min(surface_.FixedCols(), last), row, last}, marks);
@@ -44,7 +44,7 @@ void FontWriter::FontsRow(int row, const StylePatch& marks) {
 }
 
 void FontWriter::CellFonts(int row, int col, const StylePatch& marks) {
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     mark({row, col, row, col}, marks);
     report(QStringLiteral("Row"));
     report(QStringLiteral("Col"));
@@ -64,7 +64,7 @@ void FontWriter::mark(const CellRange& cells, const StylePatch& marks) {
 /// The control's own setters put the current cell back, and they report it.
 void FontWriter::report(const QString& key) {
     events_.notify(key);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
 }
 
 } // namespace zkp

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "core/events.h"
-#include "core/report_state.h"
+#include "core/selection_notices.h"
+#include "core/state/grouping_state.h"
+#include "core/state/lifetime.h"
+#include "core/state/section_settings.h"
 #include "surface/grid_surface.h"
 
 #include <optional>
@@ -14,8 +17,12 @@ namespace zkp {
 /// Every font here has its Greek letters; there is no character set to choose.
 class FontWriter {
 public:
-    FontWriter(ReportState& state, GridSurface& surface, Events& events)
-        : state_(state)
+    FontWriter(const GroupingState& grouping, const SectionSettings& sections, SelectionNotices& notices,
+               const Lifetime& lifetime, GridSurface& surface, Events& events)
+        : grouping_(grouping)
+        , sections_(sections)
+        , notices_(notices)
+        , lifetime_(lifetime)
         , surface_(surface)
         , events_(events) {}
 
@@ -39,7 +46,10 @@ private:
     void mark(const CellRange& cells, const StylePatch& marks);
     void report(const QString& key);
 
-    ReportState& state_;
+    const GroupingState& grouping_;
+    const SectionSettings& sections_;
+    SelectionNotices& notices_;
+    const Lifetime& lifetime_;
     GridSurface& surface_;
     Events& events_;
 };

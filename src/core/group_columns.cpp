@@ -14,7 +14,7 @@ void GroupColumns::InsertColumn(int whereisit) {
 }
 
 void GroupColumns::insertEmptyColumn(int position) {
-    setCols_(surface_.Cols() + 1);
+    setters_.setCols(surface_.Cols() + 1);
     columns_.Add({}, position + 1);
     columns_.Remove(columns_.Count()); // the one that raising the count appended
     surface_.setColPosition(surface_.Cols() - 1, position);
@@ -43,27 +43,24 @@ void GroupColumns::insertEmptyColumn(int position) {
 }
 
 void GroupColumns::recallFactors() {
-    const std::optional<QString> given = state_.givenGroupby;
+    const std::optional<QString> given = grouping_.givenGroupby;
     flags_.CheckGroupBy(surface_.Cols());
     if (flags_.FindGroupNum(surface_.Cols()) > 0 || !given || isBlank(*given))
         return;
-    state_.Groupby = *given;
-    state_.givenGroupby = given;
+    flags_.recall(*given);
 }
 
 void GroupColumns::MakeFixedForGroup() {
     recallFactors();
-    if (state_.Groupby.isEmpty())
+    if (grouping_.Groupby.isEmpty())
         return;
-    const QStringList factors = state_.Groupby.split(u','); // handlers may change the members
+    const QStringList factors = flags_.takeFactors(); // handlers may change the members
     const int count = toInt16(factors.size());
-    state_.GroupFactors = factors;
-    state_.GroupFactorCount = toInt16(count);
     for (int i = 0; i < count; ++i) {
         placeFactor(i, factors[i]);
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
     }
-    state_.givenGroupby.reset(); // from here on the flags tell
+    flags_.dropGiven();
     surface_.setMergeCells(1);
     for (int i = 0; i < std::min(count, surface_.Cols()); ++i)
         surface_.setMergeCol(i, true);

@@ -1,31 +1,31 @@
 #pragma once
 
 #include "core/column_properties.h"
+#include "core/control_setters.h"
 #include "core/group_factors.h"
-#include "core/report_state.h"
 #include "core/reporting.h"
+#include "core/state/grouping_state.h"
+#include "core/state/lifetime.h"
 #include "host/pointer.h"
 #include "surface/grid_surface.h"
-
-#include <functional>
 
 namespace zkp {
 
 /// Puts the group factors' columns at the left of the surface, in their stated order.
 class GroupColumns {
 public:
-    /// `setCols` is the control's `Cols` setter.
-    GroupColumns(ReportState& state, ColumnList& columns, ColumnProperties& properties,
-                 GroupFactorFlags& flags, GridSurface& surface, Pointer& pointer, const Reporting& reporting,
-                 std::function<void(int)> setCols)
-        : state_(state)
+    GroupColumns(const GroupingState& grouping, const Lifetime& lifetime, ColumnList& columns,
+                 ColumnProperties& properties, GroupFactorFlags& flags, GridSurface& surface,
+                 Pointer& pointer, const Reporting& reporting, ControlSetters& setters)
+        : grouping_(grouping)
+        , lifetime_(lifetime)
         , columns_(columns)
         , properties_(properties)
         , flags_(flags)
         , surface_(surface)
         , pointer_(pointer)
         , reporting_(reporting)
-        , setCols_(std::move(setCols)) {}
+        , setters_(setters) {}
 
     /// Makes an empty column at a position (from 0). A failure shows the error box.
     void InsertColumn(int whereisit);
@@ -41,14 +41,15 @@ private:
     void insertEmptyColumn(int position);
     void placeFactor(int position, const QString& factor);
 
-    ReportState& state_;
+    const GroupingState& grouping_;
+    const Lifetime& lifetime_;
     ColumnList& columns_;
     ColumnProperties& properties_;
     GroupFactorFlags& flags_;
     GridSurface& surface_;
     Pointer& pointer_;
     Reporting reporting_;
-    std::function<void(int)> setCols_;
+    ControlSetters& setters_;
 };
 
 } // namespace zkp

@@ -1,5 +1,6 @@
 #include "core/group_factors.h"
 
+#include "base/number.h"
 #include "base/text.h"
 
 #include <algorithm>
@@ -14,8 +15,8 @@ short GroupFactorFlags::FindGroupNum(int cols) const {
 }
 
 void GroupFactorFlags::CheckGroupBy(int cols) {
-    state_.GroupFactorCount = 0;
-    state_.givenGroupby.reset();
+    grouping_.GroupFactorCount = 0;
+    grouping_.givenGroupby.reset();
     QStringList fields;
     for (int c = 0; c < std::min(cols, columns_.Count()); ++c) {
         const Column& column = columns_.ofGridColumn(c);
@@ -23,12 +24,24 @@ void GroupFactorFlags::CheckGroupBy(int cols) {
             continue;
         if (!isBlank(column.Datafield))
             fields << column.Datafield;
-        ++state_.GroupFactorCount;
+        ++grouping_.GroupFactorCount;
     }
     if (fields.isEmpty())
-        state_.GroupFactors.clear();
-    state_.Groupby = fields.join(u',');
+        grouping_.GroupFactors.clear();
+    grouping_.Groupby = fields.join(u',');
     events_.notify(QStringLiteral("Groupby"));
+}
+
+void GroupFactorFlags::setGroupby(const QString& text) {
+    grouping_.Groupby = text;
+    events_.notify(QStringLiteral("Groupby"));
+}
+
+QStringList GroupFactorFlags::takeFactors() {
+    const QStringList factors = grouping_.Groupby.split(u',');
+    grouping_.GroupFactors = factors;
+    grouping_.GroupFactorCount = toInt16(factors.size());
+    return factors;
 }
 
 } // namespace zkp

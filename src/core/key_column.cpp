@@ -19,7 +19,7 @@ void KeyColumn::takeKey() {
     const int column = toInt32(FindKeyColumn());
     if (column < 0 || surface_.Row() >= surface_.Rows())
         return;
-    state_.indkey = ToDouble(surface_.TextMatrix(surface_.Row(), column), surface_.locale()).toDouble();
+    key_.indkey = ToDouble(surface_.TextMatrix(surface_.Row(), column), surface_.locale()).toDouble();
 }
 
 } // namespace zkp

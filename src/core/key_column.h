@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/column_list.h"
-#include "core/report_state.h"
+#include "core/state/key_state.h"
 #include "surface/grid_surface.h"
 
 namespace zkp {
@@ -9,8 +9,8 @@ namespace zkp {
 /// The key value of the current row, for the host.
 class KeyColumn {
 public:
-    KeyColumn(ReportState& state, const ColumnList& columns, const GridSurface& surface)
-        : state_(state)
+    KeyColumn(KeyState& key, const ColumnList& columns, const GridSurface& surface)
+        : key_(key)
         , columns_(columns)
         , surface_(surface) {}
 
@@ -21,7 +21,7 @@ public:
     void takeKey();
 
 private:
-    ReportState& state_;
+    KeyState& key_;
     const ColumnList& columns_;
     const GridSurface& surface_;
 };

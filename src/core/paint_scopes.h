@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/report_state.h"
+#include "core/selection_notices.h"
 #include "surface/grid_surface.h"
 
 namespace zkp {
@@ -26,23 +26,18 @@ private:
 /// moves the selection.
 class SelectionQuiet {
 public:
-    explicit SelectionQuiet(ReportState& state)
-        : state_(state)
-        , contentSeen_(state.ContentSeen)
-        , paintReady_(state.PaintReady) {
-        state_.ContentSeen = state_.PaintReady = false;
+    explicit SelectionQuiet(SelectionNotices& notices)
+        : notices_(notices)
+        , were_(notices) {
+        notices_.heard_ = notices_.contentSeen_ = false;
     }
-    ~SelectionQuiet() {
-        state_.ContentSeen = contentSeen_;
-        state_.PaintReady = paintReady_;
-    }
+    ~SelectionQuiet() { notices_ = were_; }
     SelectionQuiet(const SelectionQuiet&) = delete;
     SelectionQuiet& operator=(const SelectionQuiet&) = delete;
 
 private:
-    ReportState& state_;
-    bool contentSeen_;
-    bool paintReady_;
+    SelectionNotices& notices_;
+    SelectionNotices were_;
 };
 
 /// What setting `Row` and `Col` anew does: the selection becomes the current cell.

@@ -17,38 +17,44 @@ T as(const QVariant& value) {
 
 void RecordSource::set(const QVariant& value) {
     ado::RecordsetPtr records;
-    switch (state_.SourceType) {
+    switch (source_.SourceType) {
     case ZKP_SQLStatement:
     case ZKP_Table_QUERY:
-        state_.RecordSourceText = as<QString>(value);
+        source_.RecordSourceText = as<QString>(value);
         break;
     case ZKP_RecordSet:
         records = as<ado::RecordsetPtr>(value);
         break;
     case ZKP_Command:
-        state_.ReportCommand = as<ado::CommandPtr>(value);
+        source_.ReportCommand = as<ado::CommandPtr>(value);
         records = std::make_shared<ado::Recordset>();
         break;
     default:
         break;
     }
-    state_.ReportRecordset = records;
-    state_.storedSourceKind = state_.SourceType;
+    source_.ReportRecordset = records;
+    source_.storedSourceKind = source_.SourceType;
+}
+
+ado::RecordsetPtr RecordSource::ready() {
+    if (!source_.ReportRecordset)
+        source_.ReportRecordset = std::make_shared<ado::Recordset>();
+    return source_.ReportRecordset;
 }
 
 QString RecordSource::text() const {
-    switch (state_.storedSourceKind) {
+    switch (source_.storedSourceKind) {
     case ZKP_SQLStatement:
     case ZKP_Table_QUERY:
-        return state_.RecordSourceText;
+        return source_.RecordSourceText;
     case ZKP_RecordSet:
-        if (!state_.ReportRecordset)
+        if (!source_.ReportRecordset)
             throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"),
                         QStringLiteral("RecordSource"));
-        return state_.ReportRecordset->Source();
+        return source_.ReportRecordset->Source();
     case ZKP_Command:
-        if (state_.ReportRecordset && state_.ReportRecordset->ActiveCommand() && state_.ReportCommand)
-            return state_.ReportCommand->CommandText;
+        if (source_.ReportRecordset && source_.ReportRecordset->ActiveCommand() && source_.ReportCommand)
+            return source_.ReportCommand->CommandText;
         return {};
     default:
         return {};

@@ -1,6 +1,11 @@
 #pragma once
 
+#include "core/clicked_column.h"
+#include "core/painted_place.h"
+#include "core/selection_notices.h"
+#include "core/state/account_state.h"
 #include "core/state/data_settings.h"
+#include "core/state/export_state.h"
 #include "core/state/face_state.h"
 #include "core/state/grouping_state.h"
 #include "core/state/host_members.h"
@@ -15,40 +20,35 @@
 #include "core/state/sorting_state.h"
 #include "core/state/source_state.h"
 #include "core/state/template_state.h"
-
-#include <vector>
+#include "core/state/tool_state.h"
 
 namespace zkp {
 
-/// The stored members of one control, by subject.
-struct ReportState : Lifetime,
-                     DataSettings,
-                     SourceState,
-                     MasterTableState,
-                     IdentityState,
-                     GroupingState,
-                     SortingState,
-                     LoadState,
-                     KeyState,
-                     MarkingState,
-                     SectionSettings,
-                     PrintSettings,
-                     TemplateState,
-                     FaceState,
-                     HostMembers {
-    short DebitColumn = -1;
-    short CreditColumn = -1;
-    short BalanceColumn = -1;
+/// The stored members of one control, by subject. A part is given the subjects that it names, const but for
+/// the one that writes them.
+struct ReportState {
+    DataSettings data;
+    SourceState source;
+    MasterTableState master;
+    IdentityState identity;
+    GroupingState grouping;
+    SortingState sorting;
+    LoadState load;
+    KeyState key;
+    MarkingState marking;
+    SectionSettings sections;
+    PrintSettings print;
+    TemplateState templates;
+    FaceState face;
+    HostMembers host;
+    Lifetime lifetime;
+    ExportState exporting;
+    AccountState account;
+    ToolState tools;
 
-    int SavedTopRow = 0;
-    int SavedLeftCol = 0;
-    bool PaintReady = true;
-    bool ContentSeen = true;
-
-    inline static int LastClickedCol = 0; ///< one number for all controls of the process, as wanted
-    bool MenusLocked = false;             ///< tools stay as they are, and no heading is dragged
-    bool ExportRunning = false;    ///< selection handlers and drops wait while a spreadsheet is written
-    std::vector<short> FieldIndex; ///< position in the list of `mnuField` to index in the dictionary
+    SelectionNotices notices;
+    PaintedPlace painted;
+    ClickedColumn clicked;
 };
 
 } // namespace zkp

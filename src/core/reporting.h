@@ -2,7 +2,7 @@
 
 #include "base/error_in_flight.h"
 #include "core/load_notes.h"
-#include "core/report_state.h"
+#include "core/state/lifetime.h"
 #include "host/error_box.h"
 
 #include <utility>
@@ -14,8 +14,8 @@ namespace zkp {
 class Reporting {
 public:
     /// `notes` learn of every failure that is told, since a load goes on after most of them.
-    Reporting(const ReportState& state, ErrorBox box, LoadNotes* notes = nullptr)
-        : state_(state)
+    Reporting(const Lifetime& lifetime, ErrorBox box, LoadNotes* notes = nullptr)
+        : lifetime_(lifetime)
         , box_(box)
         , notes_(notes) {}
 
@@ -39,11 +39,11 @@ public:
     template <class Step>
     void passOver(Step step) const {
         end(std::move(step), [](const Error&) {});
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
     }
 
     /// The same end for what belongs to no load.
-    Reporting unnoted() const { return {state_, box_}; }
+    Reporting unnoted() const { return {lifetime_, box_}; }
 
     /// The error box at once.
     void show(const Error& error) const { box_.show(error); }
@@ -58,13 +58,13 @@ private:
             throw;
         } catch (...) {
             const Error error = errorInFlight();
-            state_.throwIfDestroyed();
+            lifetime_.throwIfDestroyed();
             tell(error);
             return false;
         }
     }
 
-    const ReportState& state_;
+    const Lifetime& lifetime_;
     ErrorBox box_;
     LoadNotes* notes_;
 };

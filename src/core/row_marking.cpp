@@ -7,34 +7,38 @@
 namespace zkp {
 
 void RowMarking::Selectrow() {
-    if (!state_.RowSelect || isHeading(surface_.Row()) || !hasCurrentCell())
+    if (!marking_.RowSelect || isHeading(surface_.Row()) || !hasCurrentCell())
         return;
     {
         const RedrawOff still(surface_);
-        const SelectionQuiet quiet(state_);
-        RedrawRow(state_.PreRow);
-        state_.PaintReady = false; // RedrawRow has raised it
+        const SelectionQuiet quiet(notices_);
+        redrawMarkedRow();
+        notices_.hush(); // RedrawRow has ended it
         RememberRowColours();
-        state_.PreRow = surface_.Row();
+        marking_.PreRow = surface_.Row();
         surface_.setFillStyle(1);
         paint(bandOf(surface_.Row()), {surface_.look().BackColorSel, surface_.look().ForeColorSel});
         selectCurrentCell(surface_);
     }
     key_.takeKey();
     Q_EMIT events_.Selecting();
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
 }
 
 /// The last column is the one that group cells can't have touched.
 void RowMarking::RememberRowColours() {
     if (isHeading(surface_.Row())) {
-        state_.PreBackColor = surface_.BackColor();
-        state_.PreForeColor = surface_.ForeColor();
+        coverSurface();
         return;
     }
     const CellStyle style = surface_.styleAt(surface_.Row(), lastCol());
-    state_.PreBackColor = style.backColor;
-    state_.PreForeColor = style.foreColor;
+    marking_.PreBackColor = style.backColor;
+    marking_.PreForeColor = style.foreColor;
+}
+
+void RowMarking::coverSurface() {
+    marking_.PreBackColor = surface_.BackColor();
+    marking_.PreForeColor = surface_.ForeColor();
 }
 
 /// A row beyond the bound, which with several fixed rows is short of the last row, is not chosen: the
@@ -45,48 +49,48 @@ void RowMarking::RedrawRow(double given) {
     if (row < surface_.FixedRows())
         return;
     const RedrawOff still(surface_);
-    const ScopeGuard ready([this] { state_.PaintReady = true; });
-    state_.PaintReady = false;
+    const ScopeGuard hearing([this] { notices_.hear(); });
+    notices_.hush();
     const bool chosen = row <= surface_.Rows() - surface_.FixedRows() && row < surface_.Rows();
-    paint(chosen ? bandOf(row) : surface_.selection(), {state_.PreBackColor, state_.PreForeColor});
+    paint(chosen ? bandOf(row) : surface_.selection(), {marking_.PreBackColor, marking_.PreForeColor});
     if (surface_.ColSel() == 0) // a corner in the first column does not come back, as wanted
         surface_.setColSel(surface_.Col());
 }
 
 void RowMarking::Releasemark(int row) {
     const RedrawOff still(surface_);
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     surface_.setFillStyle(1);
-    paint({row, surface_.FixedCols(), row, lastCol()}, {state_.PreBackColor, state_.PreForeColor});
+    paint({row, surface_.FixedCols(), row, lastCol()}, {marking_.PreBackColor, marking_.PreForeColor});
     selectCurrentCell(surface_);
 }
 
 void RowMarking::reversecolor(int row, Color back, Color fore) {
     const RedrawOff still(surface_);
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     surface_.setFillStyle(1);
     paint({row, 0, row, lastCol()}, {back, fore});
     selectCurrentCell(surface_);
     if (surface_.Row() != row)
         return;
-    state_.PreRow = row;
+    marking_.PreRow = row;
     RememberRowColours();
     Selectrow();
 }
 
 void RowMarking::ReverseCell(int row, int from, int to, Color back, Color fore) {
     const RedrawOff still(surface_);
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     surface_.setFillStyle(1);
     surface_.applyStyle({row, from, row, to}, patchOf({back, fore}));
     selectCurrentCell(surface_);
 }
 
 void RowMarking::makeRowByrow() {
-    if (!state_.RowByRow)
+    if (!marking_.RowByRow)
         return;
     const RedrawOff still(surface_);
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     surface_.setFillStyle(1);
     const int first = surface_.FixedRows();
     if (first < surface_.Rows())
@@ -94,7 +98,7 @@ void RowMarking::makeRowByrow() {
               {surface_.BackColor(), surface_.ForeColor()});
     for (int row = first; row < surface_.Rows(); ++row)
         if (row % 2 > 0)
-            reversecolor(row, state_.Row1BackColor, state_.Row1ForeColor);
+            reversecolor(row, marking_.Row1BackColor, marking_.Row1ForeColor);
 }
 
 /// Nothing to paint where the group factors or fixed columns are all the columns there are.

@@ -2,7 +2,10 @@
 
 #include "core/events.h"
 #include "core/key_column.h"
-#include "core/report_state.h"
+#include "core/selection_notices.h"
+#include "core/state/grouping_state.h"
+#include "core/state/lifetime.h"
+#include "core/state/marking_state.h"
 #include "surface/grid_surface.h"
 
 namespace zkp {
@@ -13,8 +16,12 @@ namespace zkp {
 /// Apart from `RedrawRow` the routines leave the selection on the current cell and `FillStyle` at 1.
 class RowMarking {
 public:
-    RowMarking(ReportState& state, KeyColumn& key, GridSurface& surface, Events& events)
-        : state_(state)
+    RowMarking(const GroupingState& grouping, MarkingState& marking, SelectionNotices& notices,
+               const Lifetime& lifetime, KeyColumn& key, GridSurface& surface, Events& events)
+        : grouping_(grouping)
+        , marking_(marking)
+        , notices_(notices)
+        , lifetime_(lifetime)
         , key_(key)
         , surface_(surface)
         , events_(events) {}
@@ -27,8 +34,16 @@ public:
     /// Marks a row. Under the band it takes the new colours for those to come back.
     void reversecolor(int row, Color back, Color fore);
     void ReverseCell(int row, int from, int to, Color back, Color fore);
-    /// Takes the band off a row. Leaves `PaintReady` True, whatever it was.
+    /// Takes the band off a row. The surface's selection is heard afterwards, whether it was or not.
     void RedrawRow(double row);
+    /// Takes it off the row that has it.
+    void redrawMarkedRow() { RedrawRow(marking_.PreRow); }
+    /// The row that has the band; 0 for none.
+    double markedRow() const { return marking_.PreRow; }
+    /// No row has the band any more.
+    void forgetRow() { marking_.PreRow = 0; }
+    /// What the next band gives back are the surface's own colours.
+    void coverSurface();
     /// Alternating row colours, with `RowByRow`.
     void makeRowByrow();
 
@@ -43,11 +58,14 @@ private:
     static StylePatch patchOf(const Colours& colours);
     bool hasCurrentCell() const { return surface_.Row() < surface_.Rows() && surface_.Cols() > 0; }
     /// Group factor cells stay in their own colours.
-    CellRange bandOf(int row) const { return {row, state_.GroupFactorCount, row, lastCol()}; }
+    CellRange bandOf(int row) const { return {row, grouping_.GroupFactorCount, row, lastCol()}; }
     bool isHeading(int row) const { return row == surface_.FixedRows() - 1; }
     int lastCol() const { return surface_.Cols() - 1; }
 
-    ReportState& state_;
+    const GroupingState& grouping_;
+    MarkingState& marking_;
+    SelectionNotices& notices_;
+    const Lifetime& lifetime_;
     KeyColumn& key_;
     GridSurface& surface_;
     Events& events_;

@@ -18,39 +18,39 @@ CellStyle detailStyle(const GridSurface& surface) {
 } // namespace
 
 #define ZKP_SECTION_FONT(Prefix)                                                                             \
-    .fontName = state.Prefix##Name, .fontSize = state.Prefix##Size, .bold = state.Prefix##Bold,              \
-    .italic = state.Prefix##Italic, .underline = state.Prefix##Underline
+    .fontName = sections.Prefix##Name, .fontSize = sections.Prefix##Size, .bold = sections.Prefix##Bold,     \
+    .italic = sections.Prefix##Italic, .underline = sections.Prefix##Underline
 
-CellStyle styleOf(Section section, const ReportState& state, const GridSurface& surface) {
+CellStyle styleOf(Section section, const SectionSettings& sections, const GridSurface& surface) {
     switch (section) {
     case Section::Heading:
         return {.backColor = surface.BackColorFixed(),
                 .foreColor = surface.ForeColorFixed(),
                 ZKP_SECTION_FONT(FixedFont),
-                .strikethru = state.FixedFontStrikethru};
+                .strikethru = sections.FixedFontStrikethru};
     case Section::GroupFactors:
-        return {.backColor = state.GroupedBackColor,
-                .foreColor = state.GroupedForecolor,
+        return {.backColor = sections.GroupedBackColor,
+                .foreColor = sections.GroupedForecolor,
                 ZKP_SECTION_FONT(GroupedFont),
-                .strikethru = state.GroupedFontStrikethru};
+                .strikethru = sections.GroupedFontStrikethru};
     case Section::Details:
         return detailStyle(surface);
     case Section::SubTotals:
-        return {.backColor = state.SubTotalsBackColor,
-                .foreColor = state.SubTotalsForeColor,
+        return {.backColor = sections.SubTotalsBackColor,
+                .foreColor = sections.SubTotalsForeColor,
                 ZKP_SECTION_FONT(SubTotalsFont),
-                .strikethru = state.SubTotalsFontStrikethru};
+                .strikethru = sections.SubTotalsFontStrikethru};
     case Section::Totals:
-        return {.backColor = state.TotalsBackcolor,
-                .foreColor = state.TotalsForeColor,
+        return {.backColor = sections.TotalsBackcolor,
+                .foreColor = sections.TotalsForeColor,
                 ZKP_SECTION_FONT(TotalsFont),
-                .strikethru = state.TotalsFontStrikethru};
+                .strikethru = sections.TotalsFontStrikethru};
     case Section::Title:
-        return {.backColor = state.TitleBackColor,
-                .foreColor = state.TitleForecolor,
+        return {.backColor = sections.TitleBackColor,
+                .foreColor = sections.TitleForecolor,
                 ZKP_SECTION_FONT(TitleFont)};
     case Section::CompanyBlock:
-        return {.foreColor = state.StoixeiaForecolor, ZKP_SECTION_FONT(StoixeiaFont)};
+        return {.foreColor = sections.StoixeiaForecolor, ZKP_SECTION_FONT(StoixeiaFont)};
     }
     return {};
 }

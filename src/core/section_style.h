@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/enums.h"
-#include "core/report_state.h"
+#include "core/state/section_settings.h"
 #include "surface/grid_surface.h"
 
 namespace zkp {
@@ -26,7 +26,7 @@ inline bool isSumRow(int kind) {
 /// Colours and font of a section as the control's properties have them now. Details are as the surface's
 /// own. What a section has no property for is as in an untouched cell: the strikeout of title and company
 /// block, and the latter's back colour.
-CellStyle styleOf(Section section, const ReportState& state, const GridSurface& surface);
+CellStyle styleOf(Section section, const SectionSettings& sections, const GridSurface& surface);
 
 /// Parts of a style, to be written by themselves: the two colours; name, size, bold, italic and underline,
 /// but no strikeout, which painting leaves alone, as wanted; and both.

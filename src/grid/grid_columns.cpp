@@ -7,27 +7,27 @@
 namespace zkp {
 
 void ZkpGrid::deletecolumn(int& columnclicked) {
-    run([&](Parts& p) { p.columnCommands.deletecolumn(columnclicked); });
+    run([&](Parts& p) { p.interaction.columnCommands.deletecolumn(columnclicked); });
 }
 
 void ZkpGrid::mnuAddColumn_Click() {
-    run([](Parts& p) { p.columnCommands.addColumn(); });
+    run([](Parts& p) { p.interaction.columnCommands.addColumn(); });
 }
 
 void ZkpGrid::mnuInsert_Click() {
-    run([](Parts& p) { p.columnCommands.insertColumn(); });
+    run([](Parts& p) { p.interaction.columnCommands.insertColumn(); });
 }
 
 void ZkpGrid::mnuAddOmadopoihsh_Click() {
-    run([](Parts& p) { p.columnCommands.addGroup(); });
+    run([](Parts& p) { p.interaction.columnCommands.addGroup(); });
 }
 
 void ZkpGrid::mnuInsertOmadopoihsh_Click() {
-    run([](Parts& p) { p.columnCommands.insertGroup(); });
+    run([](Parts& p) { p.interaction.columnCommands.insertGroup(); });
 }
 
 void ZkpGrid::mnuDelete_Click() {
-    run([](Parts& p) { p.columnCommands.deleteCurrent(); });
+    run([](Parts& p) { p.interaction.columnCommands.deleteCurrent(); });
 }
 
 } // namespace zkp

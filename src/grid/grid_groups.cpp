@@ -21,59 +21,59 @@ void movingRow(double& r, Step step) {
 } // namespace
 
 void ZkpGrid::InitTotalsGrid() {
-    run([](Parts& p) { p.groupRows.InitTotalsGrid(); });
+    run([](Parts& p) { p.load.groupRows.InitTotalsGrid(); });
 }
 void ZkpGrid::AccumulateRow(double& r) {
-    run([&](Parts& p) { movingRow(r, [&](int& row) { p.groupRows.AccumulateRow(row); }); });
+    run([&](Parts& p) { movingRow(r, [&](int& row) { p.load.groupRows.AccumulateRow(row); }); });
 }
 void ZkpGrid::EmitSubTotalRows(int level, double& r) {
-    run([&](Parts& p) { movingRow(r, [&](int& row) { p.groupRows.EmitSubTotalRows(level, row); }); });
+    run([&](Parts& p) { movingRow(r, [&](int& row) { p.load.groupRows.EmitSubTotalRows(level, row); }); });
 }
 void ZkpGrid::ResetGroupLevels(int level, double r) {
-    run([&](Parts& p) { p.groupRows.ResetGroupLevels(level, toInt32(r)); });
+    run([&](Parts& p) { p.load.groupRows.ResetGroupLevels(level, toInt32(r)); });
 }
 
 void ZkpGrid::FinishTotals() {
-    run([](Parts& p) { p.totalsRows.FinishTotals(); });
+    run([](Parts& p) { p.load.totalsRows.FinishTotals(); });
 }
 void ZkpGrid::PaintTotalsRows() {
-    run([](Parts& p) { p.totalsRows.PaintTotalsRows(); });
+    run([](Parts& p) { p.load.totalsRows.PaintTotalsRows(); });
 }
 void ZkpGrid::AppendTotalsRow() {
-    run([](Parts& p) { p.totalsRows.AppendTotalsRow(); });
+    run([](Parts& p) { p.load.totalsRows.AppendTotalsRow(); });
 }
 void ZkpGrid::CalcTotalsOnThisColumn(int clmn) {
-    run([&](Parts& p) { p.totalsRows.CalcTotalsOnThisColumn(clmn); });
+    run([&](Parts& p) { p.load.totalsRows.CalcTotalsOnThisColumn(clmn); });
 }
 int ZkpGrid::FindTotalsRow() const {
-    return parts_->totalsRows.FindTotalsRow();
+    return parts_->load.totalsRows.FindTotalsRow();
 }
 
 void ZkpGrid::PercentOfParent(const QString& field, int r, const QVariant& level, QString& result) {
     result = run([&](Parts& p) {
-        p.percentages.tellFailuresAgain();
-        return p.percentages.PercentOfParent(
+        p.load.percentages.tellFailuresAgain();
+        return p.load.percentages.PercentOfParent(
             field, r, level.isValid() ? std::optional<int>(toInt16(level)) : std::nullopt);
     });
 }
 double ZkpGrid::GroupValueSum(int level, const QString& name, int r) {
     return run([&](Parts& p) {
-        p.percentages.tellFailuresAgain();
-        return p.percentages.GroupValueSum(level, name, r);
+        p.load.percentages.tellFailuresAgain();
+        return p.load.percentages.GroupValueSum(level, name, r);
     });
 }
 
 void ZkpGrid::RecalcAverageColumns() {
-    run([](Parts& p) { p.summaryColumns.RecalcAverageColumns(); });
+    run([](Parts& p) { p.load.summaryColumns.RecalcAverageColumns(); });
 }
 void ZkpGrid::RecalcPercentColumns() {
-    run([](Parts& p) { p.summaryColumns.RecalcPercentColumns(); });
+    run([](Parts& p) { p.load.summaryColumns.RecalcPercentColumns(); });
 }
 int ZkpGrid::FindColumnByField(const QString& name) const {
-    return parts_->summaryColumns.FindColumnByField(name);
+    return parts_->load.summaryColumns.FindColumnByField(name);
 }
 int ZkpGrid::FindParentRow(int r) const {
-    return parts_->summaryColumns.FindParentRow(r);
+    return parts_->load.summaryColumns.FindParentRow(r);
 }
 
 } // namespace zkp

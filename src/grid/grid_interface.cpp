@@ -35,39 +35,39 @@ StylePatch fontMarks(const QVariant& size, const QVariant& bold, const QVariant&
 } // namespace
 
 void ZkpGrid::DrawInterface() {
-    run([](Parts& p) { p.drawing.DrawInterface(); });
+    run([](Parts& p) { p.interaction.drawing.DrawInterface(); });
 }
 
 void ZkpGrid::RefreshInterface(int what) {
-    run([&](Parts& p) { p.drawing.RefreshInterface(what); });
+    run([&](Parts& p) { p.interaction.drawing.RefreshInterface(what); });
 }
 
 void ZkpGrid::PaintGroupBlock(const QVariant& fromTop) {
-    run([&](Parts& p) { p.drawing.PaintGroupBlock(given<bool>(fromTop).value_or(true)); });
+    run([&](Parts& p) { p.interaction.drawing.PaintGroupBlock(given<bool>(fromTop).value_or(true)); });
 }
 
 void ZkpGrid::Selectrow() {
-    run([](Parts& p) { p.marking.Selectrow(); });
+    run([](Parts& p) { p.core.marking.Selectrow(); });
 }
 
 void ZkpGrid::Releasemark(int MarkRow) {
-    run([&](Parts& p) { p.marking.Releasemark(MarkRow); });
+    run([&](Parts& p) { p.core.marking.Releasemark(MarkRow); });
 }
 
 void ZkpGrid::reversecolor(int MarkRow, uint mBack, uint mfore) {
-    run([&](Parts& p) { p.marking.reversecolor(MarkRow, mBack, mfore); });
+    run([&](Parts& p) { p.core.marking.reversecolor(MarkRow, mBack, mfore); });
 }
 
 void ZkpGrid::ReverseCell(int rw, int ClFrom, int ClTo, uint back, uint fore) {
-    run([&](Parts& p) { p.marking.ReverseCell(rw, ClFrom, ClTo, back, fore); });
+    run([&](Parts& p) { p.core.marking.ReverseCell(rw, ClFrom, ClTo, back, fore); });
 }
 
 void ZkpGrid::RedrawRow(int irow) {
-    run([&](Parts& p) { p.marking.RedrawRow(irow); });
+    run([&](Parts& p) { p.core.marking.RedrawRow(irow); });
 }
 
 void ZkpGrid::makeRowByrow() {
-    run([](Parts& p) { p.marking.makeRowByrow(); });
+    run([](Parts& p) { p.core.marking.makeRowByrow(); });
 }
 
 /// The name changes nothing, as wanted; so in FontsRow.
@@ -75,8 +75,8 @@ void ZkpGrid::CellFonts(int mrw, int mCl, const QVariant& /*mFontname*/, const Q
                         const QVariant& mfontbold, const QVariant& mfontunderline,
                         const QVariant& mfontitalic, const QVariant& mfontstrike) {
     run([&](Parts& p) {
-        p.fonts.CellFonts(mrw, mCl,
-                          fontMarks(mfontsize, mfontbold, mfontunderline, mfontitalic, mfontstrike));
+        p.core.fonts.CellFonts(mrw, mCl,
+                               fontMarks(mfontsize, mfontbold, mfontunderline, mfontitalic, mfontstrike));
     });
 }
 
@@ -84,7 +84,7 @@ void ZkpGrid::FontsRow(int mrw, const QVariant& /*mFontname*/, const QVariant& m
                        const QVariant& mfontbold, const QVariant& mfontunderline, const QVariant& mfontitalic,
                        const QVariant& mfontstrike) {
     run([&](Parts& p) {
-        p.fonts.FontsRow(mrw, fontMarks(mfontsize, mfontbold, mfontunderline, mfontitalic, mfontstrike));
+        p.core.fonts.FontsRow(mrw, fontMarks(mfontsize, mfontbold, mfontunderline, mfontitalic, mfontstrike));
     });
 }
 
@@ -93,7 +93,7 @@ void ZkpGrid::SetCellFonts(int row, const QString& name, double size, bool bold,
     run([&](Parts& p) {
         const StylePatch font{
             .fontName = name, .fontSize = size, .bold = bold, .italic = italic, .underline = underline};
-        p.fonts.SetCellFonts(
+        p.core.fonts.SetCellFonts(
             row, font, {.col = given<int>(col), .rowEnd = given<int>(rowEnd), .colEnd = given<int>(colEnd)});
     });
 }

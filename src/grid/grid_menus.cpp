@@ -7,33 +7,33 @@
 namespace zkp {
 
 void ZkpGrid::MenuRefresh() {
-    run([](Parts& p) { p.menuState.MenuRefresh(); });
+    run([](Parts& p) { p.interaction.menuState.MenuRefresh(); });
 }
 void ZkpGrid::fillBandField() {
-    run([](Parts& p) { p.menuState.fillBandField(); });
+    run([](Parts& p) { p.interaction.menuState.fillBandField(); });
 }
 void ZkpGrid::fillcombos() {
-    run([](Parts& p) { p.menuState.fillcombos(); });
+    run([](Parts& p) { p.interaction.menuState.fillcombos(); });
 }
 void ZkpGrid::fillTotalcombos() {
-    run([](Parts& p) { p.menuState.fillTotalcombos(); });
+    run([](Parts& p) { p.interaction.menuState.fillTotalcombos(); });
 }
 void ZkpGrid::LockMenus() {
-    run([](Parts& p) { p.menuState.LockMenus(); });
+    run([](Parts& p) { p.interaction.menuState.LockMenus(); });
 }
 void ZkpGrid::UnlockMenus() {
-    run([](Parts& p) { p.menuState.UnlockMenus(); });
+    run([](Parts& p) { p.interaction.menuState.UnlockMenus(); });
 }
 
 void ZkpGrid::ChooseSectionStyle(int section, int what) {
-    run([&](Parts& p) { p.sectionStyles.ChooseSectionStyle(section, what); });
+    run([&](Parts& p) { p.interaction.sectionStyles.ChooseSectionStyle(section, what); });
 }
 void ZkpGrid::ChooseSectionFont(int section, int /*what*/) {
-    run([&](Parts& p) { p.sectionStyles.ChooseSectionFont(section); });
+    run([&](Parts& p) { p.interaction.sectionStyles.ChooseSectionFont(section); });
 }
 
 double ZkpGrid::FindKeyColumn() const {
-    return parts_->keyColumn.FindKeyColumn();
+    return parts_->core.keyColumn.FindKeyColumn();
 }
 
 } // namespace zkp

@@ -7,13 +7,13 @@
 namespace zkp {
 
 void ZkpGrid::Sort(int mv) {
-    run([&](Parts& p) { p.sorting.Sort(mv); });
+    run([&](Parts& p) { p.load.sorting.Sort(mv); });
 }
 void ZkpGrid::SortGrid(int mv) {
-    run([&](Parts& p) { p.sorting.SortGrid(mv); });
+    run([&](Parts& p) { p.load.sorting.SortGrid(mv); });
 }
 void ZkpGrid::SortByColumn(const QString& previous) {
-    run([&](Parts& p) { p.sorting.SortByColumn(previous); });
+    run([&](Parts& p) { p.load.sorting.SortByColumn(previous); });
 }
 
 } // namespace zkp

@@ -44,19 +44,19 @@ void ZkpGrid::opentemplate(const ado::ConnectionPtr& P_CN, const QVariant& mPath
 }
 
 void ZkpGrid::mnuSave_Click() {
-    run([](Parts& p) { Q_EMIT p.events.MenuSaveTemplate(); });
+    run([](Parts& p) { Q_EMIT p.core.events.MenuSaveTemplate(); });
 }
 
 void ZkpGrid::mnuSaveAs_Click() {
-    run([](Parts& p) { Q_EMIT p.events.MenuSaveTemplateAs(); });
+    run([](Parts& p) { Q_EMIT p.core.events.MenuSaveTemplateAs(); });
 }
 
 void ZkpGrid::mnuLoad_Click() {
-    run([](Parts& p) { Q_EMIT p.events.MenuLoadTemplate(); });
+    run([](Parts& p) { Q_EMIT p.core.events.MenuLoadTemplate(); });
 }
 
 void ZkpGrid::mnuTitle_Click() {
-    run([](Parts& p) { Q_EMIT p.events.MenuTitle(); });
+    run([](Parts& p) { Q_EMIT p.core.events.MenuTitle(); });
 }
 
 } // namespace zkp

@@ -13,9 +13,9 @@ void ColumnCommands::addColumn() {
     {
         pointer_.setPointer(kPointerHourglass);
         const ScopeGuard restore([this] { pointer_.setPointer(kPointerDefault); });
-        steps_.setCols(surface_.Cols() + 1);
+        setters_.setCols(surface_.Cols() + 1);
         properties_.setColForTot(surface_.Cols() - 1, false);
-        steps_.setRefreshOnChange(false);
+        setters_.setRefreshOnChange(false);
     }
     setCol(surface_.Cols() - 1);
     surface_.setRedraw(true);
@@ -23,27 +23,27 @@ void ColumnCommands::addColumn() {
 }
 
 void ColumnCommands::insertColumn() {
-    steps_.setRefreshOnChange(false);
-    groups_.InsertColumn(state_.LastClickedCol);
+    setters_.setRefreshOnChange(false);
+    groups_.InsertColumn(clicked_.get());
     raise(&Events::InsertColumn);
 }
 
 void ColumnCommands::addGroup() {
     checkGroupBy();
-    if (!makeFactor(state_.GroupFactorCount))
+    if (!makeFactor(grouping_.GroupFactorCount))
         return;
-    setCol(state_.GroupFactorCount - 1);
+    setCol(grouping_.GroupFactorCount - 1);
     Q_EMIT events_.addcolumn();
 }
 
 void ColumnCommands::insertGroup() {
-    state_.LastClickedCol = surface_.Col();
-    const int position = state_.LastClickedCol;
+    clicked_.take(surface_.Col());
+    const int position = clicked_.get();
     checkGroupBy();
     if (!makeFactor(position))
         return;
     surface_.setCol(position);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     Q_EMIT events_.addcolumn();
 }
 
@@ -51,17 +51,17 @@ void ColumnCommands::insertGroup() {
 bool ColumnCommands::makeFactor(int position) {
     const int before = surface_.Cols();
     groups_.InsertColumn(position);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     if (surface_.Cols() == before)
         return false;
     properties_.setColForTot(position, true);
     if (surface_.Rows() > 0) {
-        StylePatch font = fontMarksOf(styleOf(Section::Heading, state_, surface_));
+        StylePatch font = fontMarksOf(styleOf(Section::Heading, sections_, surface_));
         font.strikethru.reset(); // the surface's own
         fonts_.CellFonts(0, position, font);
     }
     checkGroupBy();
-    steps_.setRefreshOnChange(false);
+    setters_.setRefreshOnChange(false);
     surface_.setRedraw(true);
     return true;
 }
@@ -90,8 +90,8 @@ int ColumnCommands::shownColumns() const {
 
 /// A totals report needs a factor.
 bool ColumnCommands::isLastFactor() const {
-    return state_.TotalForm && surface_.Cols() > 0 && properties_.ColForTot(surface_.Col()) &&
-           state_.GroupFactorCount <= 1;
+    return data_.TotalForm && surface_.Cols() > 0 && properties_.ColForTot(surface_.Col()) &&
+           grouping_.GroupFactorCount <= 1;
 }
 
 void ColumnCommands::deletecolumn(int& position) {
@@ -99,8 +99,8 @@ void ColumnCommands::deletecolumn(int& position) {
         askForRefresh();
         removeColumn(position);
         checkGroupBy();
-        steps_.fillGrid();
-        state_.throwIfDestroyed();
+        driver_.FillGrid();
+        lifetime_.throwIfDestroyed();
     });
 }
 
@@ -110,10 +110,10 @@ void ColumnCommands::askForRefresh() {
     bool again = false;
     if (!isBlank(properties_.ColDataField(current)) && properties_.ColForTot(current)) {
         again = boxes_.msgBox(texts::refreshNow(), kAskYesNo) == kAnswerYes;
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
     }
-    steps_.setRefreshOnChange(again);
-    state_.throwIfDestroyed();
+    setters_.setRefreshOnChange(again);
+    lifetime_.throwIfDestroyed();
 }
 
 /// A position that the collection lacks is its error, and the surface is a column shorter by then; wanted.
@@ -124,27 +124,27 @@ void ColumnCommands::removeColumn(int& position) {
     columns_.Remove(position + 1);
     if (position > surface_.Cols() - 1) {
         position = surface_.Cols() - 1;
-        state_.LastClickedCol = position; // the current cell is there already, and moves without a word
+        clicked_.take(position); // the current cell is there already, and moves without a word
     }
     surface_.setCol(position);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
 }
 
 /// The control's `Col` setter.
 void ColumnCommands::setCol(int col) {
     surface_.setCol(col);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     events_.notify(QStringLiteral("Col"));
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
 }
 
 /// A handler may write another column, which is then the one that was clicked last.
 void ColumnCommands::raise(void (Events::*event)(ColumnArgs&)) {
-    state_.throwIfDestroyed();
-    ColumnArgs args{state_.LastClickedCol};
+    lifetime_.throwIfDestroyed();
+    ColumnArgs args{clicked_.get()};
     Q_EMIT(events_.*event)(args);
-    state_.throwIfDestroyed();
-    state_.LastClickedCol = toInt32(args.WhatCol);
+    lifetime_.throwIfDestroyed();
+    clicked_.take(toInt32(args.WhatCol));
 }
 
 } // namespace zkp

@@ -1,16 +1,20 @@
 #pragma once
 
 #include "core/cell_fonts.h"
+#include "core/clicked_column.h"
 #include "core/column_properties.h"
+#include "core/control_setters.h"
 #include "core/events.h"
 #include "core/group_columns.h"
-#include "core/report_state.h"
 #include "core/reporting.h"
+#include "core/state/data_settings.h"
+#include "core/state/grouping_state.h"
+#include "core/state/lifetime.h"
+#include "core/state/section_settings.h"
 #include "host/message_boxes.h"
 #include "host/pointer.h"
+#include "load/load_driver.h"
 #include "surface/grid_surface.h"
-
-#include <functional>
 
 namespace zkp {
 
@@ -18,18 +22,18 @@ namespace zkp {
 /// on the surface together. Data are read again only where it says so.
 class ColumnCommands {
 public:
-    /// What the control does for these commands.
-    struct Steps {
-        std::function<void(int)> setCols;             ///< the control's `Cols` setter
-        std::function<void(bool)> setRefreshOnChange; ///< and that of `RefreshOnChange`
-        std::function<void()> fillGrid;
-    };
-
-    ColumnCommands(ReportState& state, ColumnList& columns, ColumnProperties& properties,
+    ColumnCommands(const DataSettings& data, const GroupingState& grouping, const SectionSettings& sections,
+                   const Lifetime& lifetime, ClickedColumn& clicked, ControlSetters& setters,
+                   LoadDriver& driver, ColumnList& columns, ColumnProperties& properties,
                    GroupFactorFlags& flags, GroupColumns& groups, GridSurface& surface, FontWriter& fonts,
-                   Events& events, MessageBoxes& boxes, Pointer& pointer, const Reporting& reporting,
-                   Steps steps)
-        : state_(state)
+                   Events& events, MessageBoxes& boxes, Pointer& pointer, const Reporting& reporting)
+        : data_(data)
+        , grouping_(grouping)
+        , sections_(sections)
+        , lifetime_(lifetime)
+        , clicked_(clicked)
+        , setters_(setters)
+        , driver_(driver)
         , columns_(columns)
         , properties_(properties)
         , flags_(flags)
@@ -39,8 +43,7 @@ public:
         , events_(events)
         , boxes_(boxes)
         , pointer_(pointer)
-        , reporting_(reporting)
-        , steps_(std::move(steps)) {}
+        , reporting_(reporting) {}
 
     /// `mnuAddColumn_Click`: a plain column at the end, which becomes the current one.
     void addColumn();
@@ -68,10 +71,16 @@ private:
     void raise(void (Events::*event)(ColumnArgs&));
     void checkGroupBy() {
         flags_.CheckGroupBy(surface_.Cols());
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
     }
 
-    ReportState& state_;
+    const DataSettings& data_;
+    const GroupingState& grouping_;
+    const SectionSettings& sections_;
+    const Lifetime& lifetime_;
+    ClickedColumn& clicked_;
+    ControlSetters& setters_;
+    LoadDriver& driver_;
     ColumnList& columns_;
     ColumnProperties& properties_;
     GroupFactorFlags& flags_;
@@ -82,7 +91,6 @@ private:
     MessageBoxes& boxes_;
     Pointer& pointer_;
     Reporting reporting_;
-    Steps steps_;
 };
 
 } // namespace zkp

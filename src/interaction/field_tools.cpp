@@ -9,11 +9,11 @@
 namespace zkp {
 
 void FieldTools::connect(const std::weak_ptr<void>& owner) {
-    lists_ = menu_.listChanged.add(guardedBy(owner, state_, [this](const Tool& tool) {
+    lists_ = menu_.listChanged.add(guardedBy(owner, lifetime_, [this](const Tool& tool) {
         if (sameName(tool.Name, u"mnuField"))
             fieldChosen(tool);
     }));
-    texts_ = menu_.textChanged.add(guardedBy(owner, state_, [this](const Tool& tool) {
+    texts_ = menu_.textChanged.add(guardedBy(owner, lifetime_, [this](const Tool& tool) {
         if (sameName(tool.Name, u"mnuCaption"))
             captionTyped(tool);
     }));
@@ -25,9 +25,9 @@ bool FieldTools::exists(int col) const {
 
 /// Nothing when the list of fields, which all controls share, has become shorter meanwhile.
 const StatField* FieldTools::chosenField(const Tool& tool) const {
-    if (tool.ListIndex < 0 || tool.ListIndex >= static_cast<int>(state_.FieldIndex.size()))
+    if (tool.ListIndex < 0 || tool.ListIndex >= static_cast<int>(tools_.FieldIndex.size()))
         return nullptr;
-    const int number = state_.FieldIndex[static_cast<std::size_t>(tool.ListIndex)];
+    const int number = tools_.FieldIndex[static_cast<std::size_t>(tool.ListIndex)];
     return number >= 1 && number <= statFields().Count() ? &statFields().Item(number) : nullptr;
 }
 
@@ -37,13 +37,13 @@ void FieldTools::fieldChosen(const Tool& tool) {
     if (!chosen || !exists(col) || chosen->DataField == properties_.ColDataField(col))
         return;
     const StatField field = *chosen; // a handler may load another list
-    if (!state_.RefreshOnChange)
+    if (!data_.RefreshOnChange)
         blankData(col);
     giveField(col, field);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     if (properties_.ColForTot(col))
         groups_.MakeFixedForGroup();
-    fillGrid_();
+    driver_.FillGrid();
 }
 
 /// The selection goes over the column and comes back.
@@ -51,7 +51,7 @@ void FieldTools::blankData(int col) {
     if (surface_.Rows() < 2)
         return;
     const RedrawOff still(surface_);
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     const CellRange before{surface_.Row(), surface_.Col(), surface_.RowSel(), surface_.ColSel()};
     const int fillStyle = surface_.FillStyle();
     surface_.Select(1, col, surface_.Rows() - 1, col);
@@ -72,8 +72,8 @@ void FieldTools::giveField(int col, const StatField& field) {
 }
 
 void FieldTools::captionTyped(const Tool& tool) {
-    if (exists(state_.LastClickedCol))
-        properties_.setColCaption(state_.LastClickedCol, tool.Text);
+    if (exists(clicked_.get()))
+        properties_.setColCaption(clicked_.get(), tool.Text);
 }
 
 } // namespace zkp

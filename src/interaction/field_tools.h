@@ -1,14 +1,18 @@
 #pragma once
 
 #include "base/listeners.h"
+#include "core/clicked_column.h"
 #include "core/column_properties.h"
 #include "core/group_columns.h"
-#include "core/report_state.h"
+#include "core/selection_notices.h"
 #include "core/stat_field.h"
+#include "core/state/data_settings.h"
+#include "core/state/lifetime.h"
+#include "core/state/tool_state.h"
+#include "load/load_driver.h"
 #include "menu/menu_bar.h"
 #include "surface/grid_surface.h"
 
-#include <functional>
 #include <memory>
 
 namespace zkp {
@@ -16,15 +20,20 @@ namespace zkp {
 /// The two tools that stand for the current column: the list of fields that it may show, and its caption.
 class FieldTools {
 public:
-    FieldTools(ReportState& state, ColumnList& columns, ColumnProperties& properties, GroupColumns& groups,
-               GridSurface& surface, MenuBar& menu, std::function<void()> fillGrid)
-        : state_(state)
+    FieldTools(const DataSettings& data, const Lifetime& lifetime, SelectionNotices& notices,
+               const ClickedColumn& clicked, LoadDriver& driver, const ToolState& tools, ColumnList& columns,
+               ColumnProperties& properties, GroupColumns& groups, GridSurface& surface, MenuBar& menu)
+        : data_(data)
+        , lifetime_(lifetime)
+        , notices_(notices)
+        , clicked_(clicked)
+        , driver_(driver)
+        , tools_(tools)
         , columns_(columns)
         , properties_(properties)
         , groups_(groups)
         , surface_(surface)
-        , menu_(menu)
-        , fillGrid_(std::move(fillGrid)) {}
+        , menu_(menu) {}
 
     /// Listens to what the user does with lists and texts of the bar. `owner` keeps everything here alive
     /// meanwhile.
@@ -42,13 +51,17 @@ private:
     void blankData(int col);
     void giveField(int col, const StatField& field);
 
-    ReportState& state_;
+    const DataSettings& data_;
+    const Lifetime& lifetime_;
+    SelectionNotices& notices_;
+    const ClickedColumn& clicked_;
+    LoadDriver& driver_;
+    const ToolState& tools_;
     ColumnList& columns_;
     ColumnProperties& properties_;
     GroupColumns& groups_;
     GridSurface& surface_;
     MenuBar& menu_;
-    std::function<void()> fillGrid_;
     Listening lists_;
     Listening texts_;
 };

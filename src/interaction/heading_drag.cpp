@@ -27,19 +27,19 @@ bool HeadingDrag::exists(int col) const {
 }
 
 bool HeadingDrag::prepare() {
-    const int pressed = state_.LastClickedCol;
+    const int pressed = clicked_.get();
     const bool onHeading = surface_.MouseRow() == 0;
     setTag(surface_, {});
     if (onHeading && surface_.MouseCol() < 0)
         return true; // beside the columns
-    if (state_.TotalForm && onHeading) {
+    if (data_.TotalForm && onHeading) {
         if (!exists(pressed))
             return true;
         if (properties_.Colcnt(pressed)) {
-            state_.MousePointer = kPointerNoDrop;
+            setters_.setMousePointer(kPointerNoDrop);
             return true;
         }
-    } else if (!onHeading || pressed <= state_.GroupFactorCount) {
+    } else if (!onHeading || pressed <= grouping_.GroupFactorCount) {
         return false; // wanted, see the header
     }
     setTag(surface_, QString::number(pressed));
@@ -54,13 +54,13 @@ void HeadingDrag::showPointer(const SurfaceMouse& mouse) {
     GridSurface::Look look = surface_.look();
     look.MousePointer = kPointerDefault;
     surface_.setLook(look);
-    if (!state_.MenusVisible)
+    if (!face_.MenusVisible)
         return;
     if (mouse.row != 0)
-        state_.MousePointer = kPointerDefault;
+        setters_.setMousePointer(kPointerDefault);
     else if ((mouse.button & kLeftButton) != 0)
         // a view shows the carried heading's own picture for the custom pointer
-        state_.MousePointer = isRefused(state_.LastClickedCol, mouse.col) ? kPointerNoDrop : kPointerCustom;
+        setters_.setMousePointer(isRefused(clicked_.get(), mouse.col) ? kPointerNoDrop : kPointerCustom);
 }
 
 bool HeadingDrag::isRefused(int from, int to) const {
@@ -79,20 +79,20 @@ void HeadingDrag::saveWidths() {
 }
 
 void HeadingDrag::drop(int from, int to) {
-    if (state_.ExportRunning)
+    if (exporting_.ExportRunning)
         return;
     reporting_.run([&] {
-        state_.MousePointer = kPointerDefault;
+        setters_.setMousePointer(kPointerDefault);
         pointer_.setPointer(kPointerDefault);
         saveWidths();
-        if (state_.MenusLocked)
+        if (tools_.MenusLocked)
             return;
-        state_.LastClickedCol = from;
+        clicked_.take(from);
         if (isRefused(from, to) || from == to)
             return;
         move(from, to);
-        control_.MenuRefresh();
-        state_.throwIfDestroyed();
+        menuState_.MenuRefresh();
+        lifetime_.throwIfDestroyed();
         if (properties_.ColForTot(to))
             askForRefresh();
         else
@@ -109,12 +109,12 @@ void HeadingDrag::move(int from, int to) {
     surface_.setColPosition(from, to);
     for (int c = 0; c < surface_.Cols(); ++c) {
         writeBack(c);
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
     }
     // A caption typed next is the moved column's. The user has moved no cell: nobody hears of it.
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     surface_.setCol(std::min(to, surface_.Cols() - 1));
-    state_.LastClickedCol = surface_.Col();
+    clicked_.take(surface_.Col());
 }
 
 /// Hosts that listen hear of the properties that the list says, in its order.
@@ -130,12 +130,12 @@ void HeadingDrag::writeBack(int col) {
 
 void HeadingDrag::askForRefresh() {
     const int answer = boxes_.msgBox(texts::moveFactors(), kAskYesNoCancel);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     if (answer != kAnswerYes)
         return;
     flags_.CheckGroupBy(surface_.Cols());
-    state_.throwIfDestroyed();
-    control_.refresh();
+    lifetime_.throwIfDestroyed();
+    refresh_();
 }
 
 } // namespace zkp

@@ -1,11 +1,20 @@
 #pragma once
 
+#include "core/clicked_column.h"
 #include "core/column_properties.h"
+#include "core/control_setters.h"
 #include "core/group_factors.h"
-#include "core/report_state.h"
 #include "core/reporting.h"
+#include "core/selection_notices.h"
+#include "core/state/data_settings.h"
+#include "core/state/export_state.h"
+#include "core/state/face_state.h"
+#include "core/state/grouping_state.h"
+#include "core/state/lifetime.h"
+#include "core/state/tool_state.h"
 #include "host/message_boxes.h"
 #include "host/pointer.h"
+#include "interaction/menu_state.h"
 #include "surface/grid_surface.h"
 
 #include <functional>
@@ -16,16 +25,23 @@ namespace zkp {
 /// the way, and the drop.
 class HeadingDrag {
 public:
-    /// What a drop asks of the control: its `refresh`, and `MenuRefresh`.
-    struct Control {
-        std::function<void()> refresh;
-        std::function<void()> MenuRefresh;
-    };
-
-    HeadingDrag(ReportState& state, ColumnList& columns, ColumnProperties& properties,
+    /// `refresh` is the control's own, which tells the host of failed checks.
+    HeadingDrag(const DataSettings& data, const GroupingState& grouping, const FaceState& face,
+                const Lifetime& lifetime, SelectionNotices& notices, ClickedColumn& clicked,
+                ControlSetters& setters, MenuState& menuState, const ExportState& exporting,
+                const ToolState& tools, ColumnList& columns, ColumnProperties& properties,
                 GroupFactorFlags& flags, GridSurface& surface, MessageBoxes& boxes, Pointer& pointer,
-                const Reporting& reporting, Control control)
-        : state_(state)
+                const Reporting& reporting, std::function<void()> refresh)
+        : data_(data)
+        , grouping_(grouping)
+        , face_(face)
+        , lifetime_(lifetime)
+        , notices_(notices)
+        , clicked_(clicked)
+        , setters_(setters)
+        , menuState_(menuState)
+        , exporting_(exporting)
+        , tools_(tools)
         , columns_(columns)
         , properties_(properties)
         , flags_(flags)
@@ -33,7 +49,7 @@ public:
         , boxes_(boxes)
         , pointer_(pointer)
         , reporting_(reporting)
-        , control_(std::move(control)) {}
+        , refresh_(std::move(refresh)) {}
 
     /// A left press on the column pressed last: the surface's `Tag` takes its number when a drag may start,
     /// and a host that hears of the press may write another there. False when the host is not to hear of the
@@ -61,7 +77,16 @@ private:
     void writeBack(int col);
     void askForRefresh();
 
-    ReportState& state_;
+    const DataSettings& data_;
+    const GroupingState& grouping_;
+    const FaceState& face_;
+    const Lifetime& lifetime_;
+    SelectionNotices& notices_;
+    ClickedColumn& clicked_;
+    ControlSetters& setters_;
+    MenuState& menuState_;
+    const ExportState& exporting_;
+    const ToolState& tools_;
     ColumnList& columns_;
     ColumnProperties& properties_;
     GroupFactorFlags& flags_;
@@ -69,7 +94,7 @@ private:
     MessageBoxes& boxes_;
     Pointer& pointer_;
     Reporting reporting_;
-    Control control_;
+    std::function<void()> refresh_;
 };
 
 } // namespace zkp

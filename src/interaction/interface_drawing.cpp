@@ -46,24 +46,23 @@ void InterfaceDrawing::DrawInterface() {
     const ScopeGuard done([this] { drawing_ = false; });
     const RedrawOff still(surface_);
     reporting_.run([&] {
-        if (state_.ReportRecordset)
+        if (source_.ReportRecordset)
             paintSections();
         Q_EMIT events_.StopInterface(); // alone when there is no record source, as wanted
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
     });
 }
 
 void InterfaceDrawing::paintSections() {
     Q_EMIT events_.StartInterface();
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     const SavedView saved(surface_);
     const ScopeGuard restore([&] {
-        const SelectionQuiet quiet(state_);
+        const SelectionQuiet quiet(notices_);
         saved.putBack(surface_);
-        state_.SavedTopRow = surface_.TopRow(); // what shows from now on is painted
-        state_.SavedLeftCol = surface_.LeftCol();
+        painted_.take(surface_); // what shows from now on is painted
     });
-    state_.PreRow = 0;
+    marking_.forgetRow();
     paintFonts();
     const CellRange page{std::max(surface_.TopRow(), surface_.FixedRows()), 0, surface_.BottomRow(),
                          surface_.Cols() - 1};
@@ -83,11 +82,11 @@ void InterfaceDrawing::paintFonts() {
 }
 
 int InterfaceDrawing::groupColumns() const {
-    return std::min<int>(state_.GroupFactorCount, surface_.Cols());
+    return std::min<int>(grouping_.GroupFactorCount, surface_.Cols());
 }
 
 CellStyle InterfaceDrawing::look(Section section) const {
-    return styleOf(section, state_, surface_);
+    return styleOf(section, sections_, surface_);
 }
 
 void InterfaceDrawing::paintGroupCells(const CellRange& page) {
@@ -97,7 +96,7 @@ void InterfaceDrawing::paintGroupCells(const CellRange& page) {
 }
 
 void InterfaceDrawing::paintRows(const CellRange& page) {
-    if (surface_.Cols() <= state_.GroupFactorCount)
+    if (surface_.Cols() <= grouping_.GroupFactorCount)
         return;
     std::vector<int> kinds; // from the page's first row on
     for (int row = page.top; row <= page.bottom; ++row)
@@ -176,12 +175,12 @@ void InterfaceDrawing::markRow(int row, const CellStyle& colours, const StylePat
 
 /// In a totals report the innermost of several factors is a plain cell.
 void InterfaceDrawing::PaintGroupBlock(bool fromTop) {
-    if (state_.GroupFactorCount == 0)
+    if (grouping_.GroupFactorCount == 0)
         return;
-    const bool innerIsPlain = state_.TotalForm && state_.GroupFactorCount != 1;
-    const int count = std::min(state_.GroupFactorCount - (innerIsPlain ? 1 : 0), surface_.Cols());
+    const bool innerIsPlain = data_.TotalForm && grouping_.GroupFactorCount != 1;
+    const int count = std::min(grouping_.GroupFactorCount - (innerIsPlain ? 1 : 0), surface_.Cols());
     const RedrawOff still(surface_);
-    const SelectionQuiet quiet(state_);
+    const SelectionQuiet quiet(notices_);
     surface_.setMergeCells(0);
     if (surface_.Rows() > surface_.FixedRows() && count > 0) {
         const int last = surface_.Rows() - 1;

@@ -2,10 +2,16 @@
 
 #include "core/cell_fonts.h"
 #include "core/events.h"
-#include "core/report_state.h"
+#include "core/painted_place.h"
 #include "core/reporting.h"
 #include "core/row_marking.h"
 #include "core/section_style.h"
+#include "core/selection_notices.h"
+#include "core/state/data_settings.h"
+#include "core/state/grouping_state.h"
+#include "core/state/lifetime.h"
+#include "core/state/section_settings.h"
+#include "core/state/source_state.h"
 #include "host/pointer.h"
 #include "menu/menu_bar.h"
 #include "surface/grid_surface.h"
@@ -18,9 +24,17 @@ namespace zkp {
 /// the colours and fonts that the control stores for them.
 class InterfaceDrawing {
 public:
-    InterfaceDrawing(ReportState& state, GridSurface& surface, Events& events, FontWriter& fonts,
+    InterfaceDrawing(const DataSettings& data, const SourceState& source, const GroupingState& grouping,
+                     const SectionSettings& sections, const Lifetime& lifetime, SelectionNotices& notices,
+                     PaintedPlace& painted, GridSurface& surface, Events& events, FontWriter& fonts,
                      RowMarking& marking, MenuBar& menu, Pointer& pointer, const Reporting& reporting)
-        : state_(state)
+        : data_(data)
+        , source_(source)
+        , grouping_(grouping)
+        , sections_(sections)
+        , lifetime_(lifetime)
+        , notices_(notices)
+        , painted_(painted)
         , surface_(surface)
         , events_(events)
         , fonts_(fonts)
@@ -50,7 +64,13 @@ private:
     int groupColumns() const;
     CellStyle look(Section section) const;
 
-    ReportState& state_;
+    const DataSettings& data_;
+    const SourceState& source_;
+    const GroupingState& grouping_;
+    const SectionSettings& sections_;
+    const Lifetime& lifetime_;
+    SelectionNotices& notices_;
+    PaintedPlace& painted_;
     GridSurface& surface_;
     Events& events_;
     FontWriter& fonts_;

@@ -29,9 +29,8 @@ void Lifecycle::initProperties() {
     surface.setFontItalic(false);
     surface.setFontUnderline(false);
     surface.setFontStrikethru(false);
-    state_.PreBackColor = surface.BackColor();
-    state_.PreForeColor = surface.ForeColor();
-    const StylePatch heading{.bold = state_.FixedFontBold};
+    marking_.coverSurface();
+    const StylePatch heading{.bold = sections_.FixedFontBold};
     surface.applyStyle({0, 0, surface.FixedRows() - 1, surface.Cols() - 1}, heading);
 }
 
@@ -39,14 +38,14 @@ void Lifecycle::resize() {
     hide(children_.MSFlexGrid2);
     hide(children_.MSFlexGrid3);
     const double band =
-        state_.ChoicesVisible ? children_.Picture1.Bands(u"BndTemplate").Height + kGapBelowBand : 0;
+        face_.ChoicesVisible ? children_.Picture1.Bands(u"BndTemplate").Height + kGapBelowBand : 0;
     GridSurface::Place place = children_.MSFlexGrid1.place();
     place.Left = 0;
     place.Top = band;
-    place.Width = state_.Width;
-    place.Height = std::max(0.0, state_.Height - band);
+    place.Width = face_.Width;
+    place.Height = std::max(0.0, face_.Height - band);
     children_.MSFlexGrid1.setPlace(place);
-    children_.Picture1.Visible = state_.ChoicesVisible;
+    children_.Picture1.Visible = face_.ChoicesVisible;
     children_.Picture1.Refresh();
 }
 
@@ -58,14 +57,13 @@ void Lifecycle::enterFocus() {
 /// Errors are passed over, as wanted.
 void Lifecycle::exitFocus() {
     try {
-        if (drawInterface_)
-            drawInterface_();
+        drawing_.DrawInterface();
     } catch (...) {
     }
 }
 
 int Lifecycle::keyDown(int code, int shift) {
-    if (code == kEscape && state_.GraphVisible)
+    if (code == kEscape && face_.GraphVisible)
         children_.cmdHide.press();
     KeyArgs args{toInt16(code), toInt16(shift)};
     Q_EMIT events_.KeyDown(args);

@@ -2,22 +2,24 @@
 
 #include "core/child_controls.h"
 #include "core/events.h"
-#include "core/report_state.h"
-
-#include <functional>
+#include "core/row_marking.h"
+#include "core/state/face_state.h"
+#include "core/state/section_settings.h"
+#include "interaction/interface_drawing.h"
 
 namespace zkp {
 
 /// What the place that holds the control tells it: size, focus and keys.
 class Lifecycle {
 public:
-    /// `drawInterface` repaints the sections; it may be empty.
-    Lifecycle(ReportState& state, ChildControls& children, Events& events,
-              std::function<void()> drawInterface)
-        : state_(state)
+    Lifecycle(const SectionSettings& sections, const FaceState& face, ChildControls& children, Events& events,
+              RowMarking& marking, InterfaceDrawing& drawing)
+        : sections_(sections)
+        , face_(face)
         , children_(children)
         , events_(events)
-        , drawInterface_(std::move(drawInterface)) {}
+        , marking_(marking)
+        , drawing_(drawing) {}
 
     /// A control that is placed new, with nothing stored.
     void initProperties();
@@ -30,10 +32,12 @@ public:
     int keyPress(int ascii);
 
 private:
-    ReportState& state_;
+    const SectionSettings& sections_;
+    const FaceState& face_;
     ChildControls& children_;
     Events& events_;
-    std::function<void()> drawInterface_;
+    RowMarking& marking_;
+    InterfaceDrawing& drawing_;
 };
 
 } // namespace zkp

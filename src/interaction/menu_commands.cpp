@@ -87,7 +87,7 @@ struct MenuCommands::Table {
 };
 
 void MenuCommands::connect(MenuBar& menu, const std::weak_ptr<void>& owner) {
-    clicks_ = menu.toolClicked.add(guardedBy(owner, state_, [this](Tool& tool) { clicked(tool); }));
+    clicks_ = menu.toolClicked.add(guardedBy(owner, lifetime_, [this](Tool& tool) { clicked(tool); }));
 }
 
 /// The menus follow a command that failed too.
@@ -97,11 +97,11 @@ void MenuCommands::clicked(const Tool& tool) {
     } catch (const ControlDestroyed&) {
         throw;
     } catch (...) {
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
         menus_.MenuRefresh();
         throw;
     }
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     menus_.MenuRefresh();
 }
 
@@ -117,15 +117,14 @@ void MenuCommands::run(const Tool& tool) {
 
 /// A report that is being designed is read again even where changes to it held the rows.
 void MenuCommands::refresh() {
-    if (state_.DesignMode)
-        steps_.setRefreshOnChange(true);
-    state_.throwIfDestroyed();
-    steps_.refresh();
+    if (face_.DesignMode)
+        setters_.setRefreshOnChange(true);
+    lifetime_.throwIfDestroyed();
+    refresh_();
 }
 
 void MenuCommands::sort(bool descending) {
-    state_.SortDescending = descending ? -1 : 0;
-    state_.SortAscending = descending ? 0 : -1;
+    sorting_.setDirection(descending);
     sorting_.SortByDirection();
 }
 
@@ -139,12 +138,12 @@ void MenuCommands::align(int alignment) {
 /// wanted. The host hears of it by the event.
 void MenuCommands::askForTitle() {
     const QString title =
-        boxes_.inputBox(texts::titlePrompt(), texts::titleHeading(), state_.PrintCaption).value_or(QString());
-    state_.throwIfDestroyed();
-    state_.PrintCaption = title;
+        boxes_.inputBox(texts::titlePrompt(), texts::titleHeading(), print_.PrintCaption).value_or(QString());
+    lifetime_.throwIfDestroyed();
+    setters_.keepPrintCaption(title);
     if (!isBlank(title))
-        steps_.setPrintCaption(title);
-    state_.throwIfDestroyed();
+        setters_.setPrintCaption(title);
+    lifetime_.throwIfDestroyed();
     Q_EMIT events_.MenuTitle();
 }
 

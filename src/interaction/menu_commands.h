@@ -2,8 +2,11 @@
 
 #include "base/listeners.h"
 #include "core/column_properties.h"
+#include "core/control_setters.h"
 #include "core/events.h"
-#include "core/report_state.h"
+#include "core/state/face_state.h"
+#include "core/state/lifetime.h"
+#include "core/state/print_settings.h"
 #include "host/message_boxes.h"
 #include "interaction/column_commands.h"
 #include "interaction/menu_state.h"
@@ -21,17 +24,15 @@ namespace zkp {
 /// fails in a command is thrown to whoever clicked.
 class MenuCommands {
 public:
-    /// What the control does for these commands.
-    struct Steps {
-        std::function<void()> refresh;
-        std::function<void(bool)> setRefreshOnChange; ///< the control's own setters
-        std::function<void(const QString&)> setPrintCaption;
-    };
-
-    MenuCommands(ReportState& state, const ColumnList& columns, ColumnProperties& properties,
+    /// `refresh` is the control's own, which tells the host of failed checks.
+    MenuCommands(const PrintSettings& print, const FaceState& face, const Lifetime& lifetime,
+                 ControlSetters& setters, const ColumnList& columns, ColumnProperties& properties,
                  GridSurface& surface, Events& events, RowSorting& sorting, ColumnCommands& columnCommands,
-                 SectionStyles& styles, MenuState& menus, MessageBoxes& boxes, Steps steps)
-        : state_(state)
+                 SectionStyles& styles, MenuState& menus, MessageBoxes& boxes, std::function<void()> refresh)
+        : print_(print)
+        , face_(face)
+        , lifetime_(lifetime)
+        , setters_(setters)
         , columns_(columns)
         , properties_(properties)
         , surface_(surface)
@@ -41,7 +42,7 @@ public:
         , styles_(styles)
         , menus_(menus)
         , boxes_(boxes)
-        , steps_(std::move(steps)) {}
+        , refresh_(std::move(refresh)) {}
 
     /// Listens to the bar's clicks. `owner` keeps everything here alive while a command runs, since a handler
     /// may destroy the control.
@@ -63,7 +64,10 @@ private:
     void style(int section, int what) { styles_.ChooseSectionStyle(section, what); }
     void font(int section) { styles_.ChooseSectionFont(section); }
 
-    ReportState& state_;
+    const PrintSettings& print_;
+    const FaceState& face_;
+    const Lifetime& lifetime_;
+    ControlSetters& setters_;
     const ColumnList& columns_;
     ColumnProperties& properties_;
     GridSurface& surface_;
@@ -73,7 +77,7 @@ private:
     SectionStyles& styles_;
     MenuState& menus_;
     MessageBoxes& boxes_;
-    Steps steps_;
+    std::function<void()> refresh_;
     Listening clicks_;
 };
 

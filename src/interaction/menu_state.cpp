@@ -42,7 +42,7 @@ private:
 };
 
 void MenuState::MenuRefresh() {
-    if (state_.MenusLocked || !state_.MenusVisible)
+    if (tools_.MenusLocked || !face_.MenusVisible)
         return;
     Changes changes(menu_);
     checkAlignment(changes);
@@ -73,7 +73,7 @@ void MenuState::bringInLine(Changes& changes) const {
     changes.enable(u"mnuDelColumn", !fixed);
     changes.enable(u"mnuInsertGroup", factor);
     changes.enable(u"mnuAddGroup", true);
-    changes.enable(u"mnuGraph", factor && state_.TotalForm);
+    changes.enable(u"mnuGraph", factor && data_.TotalForm);
 }
 
 void MenuState::fillBandField() {
@@ -85,7 +85,7 @@ void MenuState::fillBandField() {
 /// Nobody hears of the list and the text that are written here: a caption would go to the column that was
 /// clicked last, which may be another one.
 void MenuState::fillField(Changes& changes) {
-    if (!state_.MenusVisible || !dictionary_.isOpen() || statFields().Count() < 1 || column() < 0)
+    if (!face_.MenusVisible || !dictionary_.isOpen() || statFields().Count() < 1 || column() < 0)
         return;
     listFields(menu_.Tools(u"mnuField"), changes);
     changes.set(menu_.Tools(u"mnuCaption").Text, properties_.ColCaption(column()));
@@ -99,16 +99,16 @@ void MenuState::listFields(Tool& list, Changes& changes) {
     const bool factor = isFactor();
     QStringList captions;
     captions.reserve(fields.Count());
-    state_.FieldIndex.clear();
+    tools_.FieldIndex.clear();
     int chosen = -1;
     for (int i = 1; i <= fields.Count(); ++i) {
         const StatField& entry = fields.Item(i);
-        if (factor ? !entry.IsGroup : state_.TotalForm && entry.IsGroup)
+        if (factor ? !entry.IsGroup : data_.TotalForm && entry.IsGroup)
             continue;
         if (entry.DataField == field)
             chosen = static_cast<int>(captions.size());
         captions.append(entry.Caption);
-        state_.FieldIndex.push_back(toInt16(i));
+        tools_.FieldIndex.push_back(toInt16(i));
     }
     changes.set(list.list, captions);
     changes.set(list.ListIndex, chosen);
@@ -116,7 +116,7 @@ void MenuState::listFields(Tool& list, Changes& changes) {
 }
 
 void MenuState::setLocked(bool locked) {
-    state_.MenusLocked = locked;
+    tools_.MenusLocked = locked;
     Changes changes(menu_);
     for (const char16_t* tool :
          {u"mnuRefresh", u"mnuColumnProperties", u"mnuAddColumn", u"mnuInsertColumn", u"mnuAddGroup",

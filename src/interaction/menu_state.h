@@ -1,7 +1,10 @@
 #pragma once
 
 #include "core/column_properties.h"
-#include "core/report_state.h"
+#include "core/state/data_settings.h"
+#include "core/state/face_state.h"
+#include "core/state/grouping_state.h"
+#include "core/state/tool_state.h"
 #include "menu/menu_bar.h"
 #include "sql/dictionary.h"
 #include "surface/grid_surface.h"
@@ -12,9 +15,13 @@ namespace zkp {
 /// tool has changed, since this runs at every move of the selection.
 class MenuState {
 public:
-    MenuState(ReportState& state, const ColumnList& columns, const ColumnProperties& properties,
+    MenuState(const DataSettings& data, const GroupingState& grouping, const FaceState& face,
+              ToolState& tools, const ColumnList& columns, const ColumnProperties& properties,
               const GridSurface& surface, MenuBar& menu, const Dictionary& dictionary)
-        : state_(state)
+        : data_(data)
+        , grouping_(grouping)
+        , face_(face)
+        , tools_(tools)
         , columns_(columns)
         , properties_(properties)
         , surface_(surface)
@@ -42,9 +49,12 @@ private:
     void setLocked(bool locked);
     /// The surface's current column; -1 where there is none.
     int column() const;
-    bool isFactor() const { return surface_.Col() < state_.GroupFactorCount; }
+    bool isFactor() const { return surface_.Col() < grouping_.GroupFactorCount; }
 
-    ReportState& state_;
+    const DataSettings& data_;
+    const GroupingState& grouping_;
+    const FaceState& face_;
+    ToolState& tools_;
     const ColumnList& columns_;
     const ColumnProperties& properties_;
     const GridSurface& surface_;

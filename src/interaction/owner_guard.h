@@ -2,7 +2,7 @@
 
 #include "base/scope_guard.h"
 #include "core/keep_alive.h"
-#include "core/report_state.h"
+#include "core/state/lifetime.h"
 
 #include <memory>
 
@@ -11,13 +11,13 @@ namespace zkp {
 /// A handler for a model's notifications: it does nothing once the control has ended, keeps `owner` alive
 /// while it runs, and ends quietly when one of its events destroys the control.
 template <class Handler>
-auto guardedBy(const std::weak_ptr<void>& owner, const ReportState& state, Handler handler) {
-    return [owner, &state, handler](auto&&... arguments) {
+auto guardedBy(const std::weak_ptr<void>& owner, const Lifetime& lifetime, Handler handler) {
+    return [owner, &lifetime, handler](auto&&... arguments) {
         const std::shared_ptr<void> alive = owner.lock();
-        if (!alive || state.destroyed)
+        if (!alive || lifetime.destroyed)
             return;
         const ScopeGuard release([&] {
-            if (state.destroyed)
+            if (lifetime.destroyed)
                 releaseLater(alive); // the model itself is still at work below
         });
         try {

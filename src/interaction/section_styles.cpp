@@ -41,7 +41,7 @@ void SectionStyles::ChooseSectionStyle(int number, int what) {
         return;
     const QString name = QString::fromUtf16(property);
     const auto chosen = dialogs_.colorDialog(properties_.read(name).toUInt());
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     if (!chosen)
         return;
     write(name, *chosen);
@@ -57,7 +57,7 @@ void SectionStyles::ChooseSectionFont(int number) {
     const auto chosen =
         dialogs_.fontDialog({value("Name").toString(), value("Size").toDouble(), value("Bold").toBool(),
                              value("Italic").toBool(), value("Underline").toBool()});
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     if (!chosen)
         return;
     write(font + QStringLiteral("Name"), chosen->FontName);
@@ -70,7 +70,7 @@ void SectionStyles::ChooseSectionFont(int number) {
 
 void SectionStyles::write(const QString& name, const QVariant& value) const {
     properties_.write(name, value);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
 }
 
 } // namespace zkp

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/report_state.h"
+#include "core/state/lifetime.h"
 #include "host/dialogs.h"
 #include "interaction/interface_drawing.h"
 
@@ -21,8 +21,8 @@ public:
         std::function<void(const QString&, const QVariant&)> write;
     };
 
-    SectionStyles(const ReportState& state, InterfaceDrawing& drawing, StyleDialogs& dialogs)
-        : state_(state)
+    SectionStyles(const Lifetime& lifetime, InterfaceDrawing& drawing, StyleDialogs& dialogs)
+        : lifetime_(lifetime)
         , drawing_(drawing)
         , dialogs_(dialogs) {}
 
@@ -36,7 +36,7 @@ public:
 private:
     void write(const QString& name, const QVariant& value) const;
 
-    const ReportState& state_;
+    const Lifetime& lifetime_;
     InterfaceDrawing& drawing_;
     StyleDialogs& dialogs_;
     Properties properties_;

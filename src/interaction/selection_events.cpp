@@ -7,9 +7,9 @@ namespace zkp {
 void SelectionEvents::currentCellChanged() {
     if (isQuiet())
         return;
-    if (state_.ContentSeen)
+    if (notices_.isContentSeen())
         key_.takeKey();
-    if (state_.PreRow != surface_.Row())
+    if (marking_.markedRow() != surface_.Row())
         marking_.Selectrow();
     pointer_.setPointer(kPointerDefault);
 }
@@ -17,14 +17,14 @@ void SelectionEvents::currentCellChanged() {
 void SelectionEvents::selectionChanged() {
     if (isQuiet())
         return;
-    state_.LastClickedCol = surface_.Col();
-    if (state_.ContentSeen)
+    clicked_.take(surface_.Col());
+    if (notices_.isContentSeen())
         key_.takeKey();
     menus_.MenuRefresh();
     // An open chart follows the group that the user has reached.
-    if (state_.GraphVisible && surface_.Col() <= state_.GroupFactorCount - 1)
+    if (face_.GraphVisible && surface_.Col() <= grouping_.GroupFactorCount - 1)
         LoadHooks::run(showChart_);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     Q_EMIT events_.Selecting();
 }
 
@@ -33,22 +33,15 @@ void SelectionEvents::selectedAgain() {
     selectionChanged();
 }
 
-/// A move to the side repaints nothing.
 void SelectionEvents::scrolled() {
-    if (!state_.ReportRecordset || !state_.PaintReady)
+    if (!source_.ReportRecordset || !notices_.isHeard())
         return;
-    if (surface_.LeftCol() != state_.SavedLeftCol) {
-        state_.SavedLeftCol = surface_.LeftCol();
-        return;
-    }
-    if (surface_.TopRow() == state_.SavedTopRow)
-        return;
-    state_.SavedTopRow = surface_.TopRow();
-    drawing_.DrawInterface();
+    if (painted_.follow(surface_))
+        drawing_.DrawInterface();
 }
 
 void SelectionEvents::visibleRowsGrew() {
-    if (state_.ReportRecordset && state_.PaintReady)
+    if (source_.ReportRecordset && notices_.isHeard())
         drawing_.DrawInterface();
 }
 

@@ -16,7 +16,7 @@ constexpr int kCtrl = 2;
 } // namespace
 
 void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
-    const auto guarded = [&](auto handler) { return guardedBy(owner, state_, handler); };
+    const auto guarded = [&](auto handler) { return guardedBy(owner, lifetime_, handler); };
     SurfaceNotifications& on = surface_.notifications;
     on.mouseDown = guarded([this](const SurfaceMouse& mouse) { reporting_.run([&] { mouseDown(mouse); }); });
     on.mouseMove =
@@ -26,7 +26,7 @@ void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
     on.keyDown = guarded([this](int& code, int shift) { reporting_.run([&] { keyDown(code, shift); }); });
     on.mayDragHeading = [owner, this](int col) {
         const std::shared_ptr<void> alive = owner.lock();
-        return alive && !state_.destroyed && drag_.mayDrag(col);
+        return alive && !lifetime_.destroyed && drag_.mayDrag(col);
     };
     on.headingDropped = [drop = guarded([this](int from, int to) { drag_.drop(from, to); })](int from,
                                                                                              int to) {
@@ -43,13 +43,13 @@ void SurfaceEvents::connect(const std::weak_ptr<void>& owner) {
 
 void SurfaceEvents::mouseDown(const SurfaceMouse& mouse) {
     if (mouse.col >= 0) {
-        state_.LastClickedCol = mouse.col;
+        clicked_.take(mouse.col);
         surface_.setCol(mouse.col);
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
     }
     if (!isPressTold(mouse))
         return;
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     MouseArgs args{toInt16(mouse.button), toInt16(mouse.shift), mouse.x, mouse.y};
     Q_EMIT events_.MouseDown(args);
 }
@@ -61,9 +61,9 @@ bool SurfaceEvents::isPressTold(const SurfaceMouse& mouse) {
         menu_.popup(QStringView(bands::kContext));
         return true;
     }
-    if (!state_.MenusLocked)
+    if (!tools_.MenusLocked)
         return drag_.prepare();
-    state_.MousePointer = kPointerNoDrop;
+    setters_.setMousePointer(kPointerNoDrop);
     return true;
 }
 
@@ -72,14 +72,14 @@ bool SurfaceEvents::isPressTold(const SurfaceMouse& mouse) {
 void SurfaceEvents::click() {
     if (!dictionary_.isOpen())
         reporting_.run([this] { emptyReport_.prepare(); });
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     const int col = surface_.Col();
     if (col < 0)
         return;
-    state_.LastClickedCol = col;
-    if (state_.GraphVisible && col <= state_.GroupFactorCount && showChart_)
+    clicked_.take(col);
+    if (face_.GraphVisible && col <= grouping_.GroupFactorCount && showChart_)
         showChart_();
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     Q_EMIT events_.Click();
 }
 

@@ -1,9 +1,14 @@
 #pragma once
 
+#include "core/clicked_column.h"
 #include "core/column_properties.h"
+#include "core/control_setters.h"
 #include "core/events.h"
-#include "core/report_state.h"
 #include "core/reporting.h"
+#include "core/state/face_state.h"
+#include "core/state/grouping_state.h"
+#include "core/state/lifetime.h"
+#include "core/state/tool_state.h"
 #include "host/message_boxes.h"
 #include "interaction/heading_drag.h"
 #include "interaction/menu_state.h"
@@ -22,11 +27,18 @@ namespace zkp {
 class SurfaceEvents {
 public:
     /// `showChart` draws the chart anew.
-    SurfaceEvents(ReportState& state, ColumnProperties& properties, GridSurface& surface, MenuBar& menu,
-                  Events& events, const Dictionary& dictionary, EmptyReport& emptyReport,
-                  MenuState& menuState, HeadingDrag& drag, SelectionEvents& selection, MessageBoxes& boxes,
+    SurfaceEvents(const GroupingState& grouping, const FaceState& face, const Lifetime& lifetime,
+                  ClickedColumn& clicked, ControlSetters& setters, const ToolState& tools,
+                  ColumnProperties& properties, GridSurface& surface, MenuBar& menu, Events& events,
+                  const Dictionary& dictionary, EmptyReport& emptyReport, MenuState& menuState,
+                  HeadingDrag& drag, SelectionEvents& selection, MessageBoxes& boxes,
                   const Reporting& reporting, std::function<void()> showChart)
-        : state_(state)
+        : grouping_(grouping)
+        , face_(face)
+        , lifetime_(lifetime)
+        , clicked_(clicked)
+        , setters_(setters)
+        , tools_(tools)
         , properties_(properties)
         , surface_(surface)
         , menu_(menu)
@@ -52,7 +64,12 @@ private:
     void click();
     void keyDown(int code, int shift);
 
-    ReportState& state_;
+    const GroupingState& grouping_;
+    const FaceState& face_;
+    const Lifetime& lifetime_;
+    ClickedColumn& clicked_;
+    ControlSetters& setters_;
+    const ToolState& tools_;
     ColumnProperties& properties_;
     GridSurface& surface_;
     MenuBar& menu_;

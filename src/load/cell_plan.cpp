@@ -20,10 +20,10 @@ void markMissingField(ColumnProperties& properties, int c) {
 } // namespace
 
 CellPlan::CellPlan(ado::Recordset& records, ColumnProperties& properties, const ColumnList& columns,
-                   GridSurface& surface, const ReportState& state, int lastField)
+                   GridSurface& surface, const DataSettings& data, int lastField)
     : values_(records.table().columns)
-    , euro_(state.EuroVer)
-    , totalForm_(state.TotalForm)
+    , euro_(data.EuroVer)
+    , totalForm_(data.TotalForm)
     , lastField_(lastField) {
     for (int c = 0; c < surface.Cols(); ++c) {
         const QString field = columns.ofGridColumn(c).Datafield;
@@ -36,7 +36,7 @@ CellPlan::CellPlan(ado::Recordset& records, ColumnProperties& properties, const 
         }
         const Column& column = columns.ofGridColumn(c);
         basis_.push_back({column.Datafield, column.Totals, column.Balance});
-        cells_.push_back(plan(c, basis_.back(), records, state));
+        cells_.push_back(plan(c, basis_.back(), records, data));
     }
     layout_ = surface.addLayout(cells_);
     for (const int c : numericColumns_)
@@ -45,10 +45,10 @@ CellPlan::CellPlan(ado::Recordset& records, ColumnProperties& properties, const 
 
 /// The first case that holds decides; a "POS_" column of a plain report falls through to the field of
 /// the column before it, as wanted.
-CellBinding CellPlan::plan(int c, const Basis& basis, ado::Recordset& records, const ReportState& state) {
+CellBinding CellPlan::plan(int c, const Basis& basis, ado::Recordset& records, const DataSettings& data) {
     if (isBlank(basis.Datafield))
         return {};
-    if (state.TotalForm && upper(basis.Datafield).startsWith(kPercentPrefix)) {
+    if (data.TotalForm && upper(basis.Datafield).startsWith(kPercentPrefix)) {
         percents_.push_back({c, mid(basis.Datafield, 5)});
         return {};
     }
@@ -70,8 +70,8 @@ std::optional<CellFormat> CellPlan::numberFormat(const Basis& basis, int fieldTy
 }
 
 bool CellPlan::isCurrent(const ado::Recordset& records, const ColumnList& columns, const GridSurface& surface,
-                         const ReportState& state) const {
-    if (!refersTo(records) || state.EuroVer != euro_ || state.TotalForm != totalForm_ ||
+                         const DataSettings& data) const {
+    if (!refersTo(records) || data.EuroVer != euro_ || data.TotalForm != totalForm_ ||
         static_cast<std::size_t>(surface.Cols()) != basis_.size())
         return false;
     for (std::size_t c = 0; c < basis_.size(); ++c) {

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/column_properties.h"
-#include "core/report_state.h"
+#include "core/state/data_settings.h"
 #include "surface/grid_surface.h"
 
 #include <QString>
@@ -25,7 +25,7 @@ public:
     /// none. A field that the records lack costs its column: the column loses its `Datafield` and its
     /// caption becomes "#" caption "# (Λάθος)".
     CellPlan(ado::Recordset& records, ColumnProperties& properties, const ColumnList& columns,
-             GridSurface& surface, const ReportState& state, int lastField);
+             GridSurface& surface, const DataSettings& data, int lastField);
 
     GridSurface::LayoutId layout() const { return layout_; }
     /// What each column shows of a record.
@@ -36,7 +36,7 @@ public:
     bool refersTo(const ado::Recordset& records) const { return records.table().columns == values_; }
     /// Whether records, columns and switches that the plan was made from are still the same.
     bool isCurrent(const ado::Recordset& records, const ColumnList& columns, const GridSurface& surface,
-                   const ReportState& state) const;
+                   const DataSettings& data) const;
 
 private:
     struct Basis {
@@ -46,7 +46,7 @@ private:
         bool operator==(const Basis&) const = default;
     };
 
-    CellBinding plan(int c, const Basis& basis, ado::Recordset& records, const ReportState& state);
+    CellBinding plan(int c, const Basis& basis, ado::Recordset& records, const DataSettings& data);
     std::optional<CellFormat> numberFormat(const Basis& basis, int fieldType) const;
 
     std::vector<std::shared_ptr<const store::Column>> values_;

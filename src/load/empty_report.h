@@ -2,23 +2,31 @@
 
 #include "core/column_properties.h"
 #include "core/record_source.h"
+#include "core/state/data_settings.h"
+#include "core/state/face_state.h"
+#include "core/state/lifetime.h"
 #include "host/pointer.h"
 #include "load/load_hooks.h"
 #include "menu/menu_bar.h"
-#include "sql/dictionary.h"
+#include "sql/statement_parts.h"
 
 namespace zkp {
 
 /// Shows the report's shape without rows: headings, blank rows, dictionary and menus.
 class EmptyReport {
 public:
-    EmptyReport(ReportState& state, ColumnProperties& properties, GridSurface& surface, MenuBar& menu,
-                Dictionary& dictionary, Pointer& pointer, const LoadHooks& hooks)
-        : state_(state)
+    EmptyReport(const DataSettings& data, const FaceState& face, const Lifetime& lifetime,
+                RecordSource& source, ColumnProperties& properties, GridSurface& surface, MenuBar& menu,
+                StatementParts& statements, GroupColumns& groups, Pointer& pointer, const LoadHooks& hooks)
+        : data_(data)
+        , face_(face)
+        , lifetime_(lifetime)
+        , source_(source)
         , properties_(properties)
         , surface_(surface)
         , menu_(menu)
-        , dictionary_(dictionary)
+        , statements_(statements)
+        , groups_(groups)
         , pointer_(pointer)
         , hooks_(hooks) {}
 
@@ -28,11 +36,15 @@ public:
 private:
     void takeSpecialSource();
 
-    ReportState& state_;
+    const DataSettings& data_;
+    const FaceState& face_;
+    const Lifetime& lifetime_;
+    RecordSource& source_;
     ColumnProperties& properties_;
     GridSurface& surface_;
     MenuBar& menu_;
-    Dictionary& dictionary_;
+    StatementParts& statements_;
+    GroupColumns& groups_;
     Pointer& pointer_;
     const LoadHooks& hooks_;
 };

@@ -35,8 +35,8 @@ constexpr int kFirstRow = 1;
 GroupShape GroupRows::shapeOfReport() const {
     GroupShape shape;
     shape.columns = surface_.Cols();
-    shape.factors = std::min<int>(state_.GroupFactorCount, shape.columns);
-    shape.totalForm = state_.TotalForm;
+    shape.factors = std::min<int>(grouping_.GroupFactorCount, shape.columns);
+    shape.totalForm = data_.TotalForm;
     for (int c = 0; c < shape.columns; ++c)
         if (columns_.ofGridColumn(c).Totals)
             shape.summed.push_back(c);
@@ -47,7 +47,7 @@ bool GroupRows::InitTotalsGrid(bool tagIsSeen) {
     sums_.clear(shapeOfReport(), surface_.locale());
     if (sums_.shape().summed.empty())
         return false;
-    state_.TotalsNeeded = true; // only ever raised, as wanted
+    load_.TotalsNeeded = true; // only ever raised, as wanted
     sums_.start(SurfaceRow(surface_, kFirstRow));
     surface_.setRows(surface_.Rows() + 2);
     if (tagIsSeen)
@@ -93,7 +93,7 @@ void GroupRows::ResetGroupLevels(int level, int r) {
 void GroupRows::EmitSubTotalRows(int level, int& r) {
     for (int lvl = sums_.shape().factors - 1; lvl >= std::max(level, 0); --lvl) {
         surface_.AddItem({}, r);
-        state_.RowCapacity += 1;
+        load_.RowCapacity += 1;
         writeSubtotalRow(r, lvl);
         surface_.setRowData(r, ZKPSubTotals);
         ++r;
@@ -124,7 +124,7 @@ void GroupRows::writeSubtotalCell(int row, int level, int c, bool named) {
     const bool balance = columns_.ofGridColumn(c).Balance;
     if (!balance && !named)
         return;
-    const NumberFormat format = balance || state_.EuroVer ? NumberFormat::Grouped2 : NumberFormat::Grouped0;
+    const NumberFormat format = balance || data_.EuroVer ? NumberFormat::Grouped2 : NumberFormat::Grouped0;
     surface_.setTextMatrix(row, c, formatNumber(sums_.number(level + 1, c), format, surface_.locale()));
     surface_.setColDataType(c, ado::adCurrency);
 }

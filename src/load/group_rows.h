@@ -1,7 +1,9 @@
 #pragma once
 
 #include "core/column_list.h"
-#include "core/report_state.h"
+#include "core/state/data_settings.h"
+#include "core/state/grouping_state.h"
+#include "core/state/load_state.h"
 #include "load/group_sums.h"
 #include "load/percentages.h"
 #include "surface/grid_surface.h"
@@ -12,8 +14,11 @@ namespace zkp {
 /// of those that end, where the reader stands. The order of the records decides the groups.
 class GroupRows {
 public:
-    GroupRows(ReportState& state, const ColumnList& columns, GridSurface& surface, Percentages& percentages)
-        : state_(state)
+    GroupRows(const DataSettings& data, const GroupingState& grouping, LoadState& load,
+              const ColumnList& columns, GridSurface& surface, Percentages& percentages)
+        : data_(data)
+        , grouping_(grouping)
+        , load_(load)
         , columns_(columns)
         , surface_(surface)
         , percentages_(percentages) {}
@@ -44,7 +49,9 @@ private:
     void writeSubtotalRow(int row, int level);
     void writeSubtotalCell(int row, int level, int c, bool named);
 
-    ReportState& state_;
+    const DataSettings& data_;
+    const GroupingState& grouping_;
+    LoadState& load_;
     const ColumnList& columns_;
     GridSurface& surface_;
     Percentages& percentages_;

@@ -25,9 +25,9 @@ void LoadDriver::refresh(ErrorSink sink) {
     pointer_.setPointer(kPointerHourglass);
     const ScopeGuard restore([this] {
         pointer_.setPointer(kPointerDefault);
-        state_.MousePointer = kPointerDefault;
+        setters_.setMousePointer(kPointerDefault);
     });
-    const std::vector<Error> failed = failedSourceChecks(state_);
+    const std::vector<Error> failed = failedSourceChecks(source_.state());
     if (!failed.empty())
         refuse(failed.front());
     for (const Error& error : failed)
@@ -59,15 +59,15 @@ void LoadDriver::refuse(const Error& error) {
 
 /// Whoever listens finds a control that can be loaded again.
 void LoadDriver::tell(const LoadOutcome& outcome) {
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     last_ = outcome;
     reporting_.unnoted().run([&] {
         listeners_.tell([&](const LoadListener& listener) {
-            if (listener.ended && !state_.destroyed)
+            if (listener.ended && !lifetime_.destroyed)
                 listener.ended(outcome);
         });
     });
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
 }
 
 LoadOutcome LoadDriver::outcome() const {
@@ -98,23 +98,22 @@ void LoadDriver::load() {
     });
     reporting_.run([this] {
         listeners_.tell([&](const LoadListener& listener) {
-            if (listener.begins && !state_.destroyed)
+            if (listener.begins && !lifetime_.destroyed)
                 listener.begins();
         });
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
         loadRecords();
     });
 }
 
 void LoadDriver::loadRecords() {
-    fields_.forgetSource();
+    statements_.fields.forgetSource();
     surface_.setRedraw(true);
     LoadDictionary();
-    if (!state_.RefreshOnChange)
+    if (!data_.RefreshOnChange)
         return; // the dictionary follows, the rows stay
 
-    state_.SavedLeftCol = surface_.LeftCol();
-    state_.SavedTopRow = surface_.TopRow();
+    painted_.take(surface_);
     if (!MakeRecordset())
         return;
     const std::int64_t records = recordCount();
@@ -131,33 +130,31 @@ void LoadDriver::loadRecords() {
 }
 
 void LoadDriver::LoadDictionary() {
-    if (!dictionary_.isNamed())
+    if (!statements_.dictionary.isNamed())
         return;
-    dictionary_.load();
-    if (state_.SqlOnRunTime)
-        LoadHooks::run(hooks_.FindMaster);
-    buildFieldList(*dictionary_.recordset(), state_.TotalForm, statFields());
+    statements_.dictionary.load();
+    if (data_.SqlOnRunTime)
+        statements_.masterTable.FindMaster();
+    buildFieldList(*statements_.dictionary.recordset(), data_.TotalForm, statFields());
     LoadHooks::run(hooks_.FieldListChanged);
 }
 
 bool LoadDriver::MakeRecordset() {
-    if (!state_.TotalForm)
+    if (!data_.TotalForm)
         OpenDetailRecordset();
-    else if (hooks_.OpenTotalRecordset)
-        hooks_.OpenTotalRecordset();
     else
-        throw Error(kErrNotSupported, QStringLiteral("A totals report needs a statement builder."));
+        statements_.dispatch.OpenTotalRecordset();
 
-    if (!state_.ReportRecordset)
+    if (!source_.get())
         return false;
     underWay_.firstRecordMs = elapsedMs();
-    if (state_.ReportRecordset->RecordCount() == 0) {
+    if (source_.get()->RecordCount() == 0) {
         pointer_.setPointer(kPointerDefault);
     } else {
         surface_.setBackColor(surface_.BackColor());
         surface_.setForeColor(surface_.ForeColor());
         pendingEvents_.runPendingEvents();
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
     }
     return true;
 }
@@ -165,37 +162,37 @@ bool LoadDriver::MakeRecordset() {
 /// A failure here has a box of its own and leaves no record source.
 void LoadDriver::OpenDetailRecordset() {
     const auto open = [this] {
-        LoadHooks::run(hooks_.MakeFixedForGroup);
-        if (!state_.ReportRecordset)
-            state_.ReportRecordset = std::make_shared<ado::Recordset>();
-        if (!state_.Cn)
+        groups_.MakeFixedForGroup();
+        source_.ready();
+        if (!source_.state().Cn)
             throw objectNotSet(QStringLiteral("Cn"));
-        const ado::ConnectionPtr connection = state_.Cn;
+        const ado::ConnectionPtr connection = source_.state().Cn;
         const std::int16_t timeout = toInt16(connection->CommandTimeout());
         const ScopeGuard restore([&] { connection->setCommandTimeout(timeout); });
-        connection->setCommandTimeout(state_.CommandTimeout);
+        connection->setCommandTimeout(data_.CommandTimeout);
         openBySourceType();
     };
     reporting_.run(open, [this](const Error& error) {
-        state_.ReportRecordset.reset();
+        source_.hold({});
         boxes_.msgBox(error.description(), kMsgBoxCritical);
     });
 }
 
 void LoadDriver::openBySourceType() {
-    switch (state_.SourceType) {
+    switch (source_.state().SourceType) {
     case ZKP_SQLStatement:
         openText(source_.text(), ado::adOpenStatic);
         break;
     case ZKP_Table_QUERY:
-        openText(detailStatement(), ado::adOpenKeyset);
+        openText(statements_.dispatch.DetailStatement(), ado::adOpenKeyset);
         break;
     case ZKP_RecordSet: {
         const QString text = source_.text();
-        const QString sort = state_.ReportRecordset->Sort(); // what sorting by a column has just set
-        const auto records = isBlank(text) ? openText(detailStatement(), ado::adOpenKeyset)
-                                           : openText(text, ado::adOpenStatic);
-        notes_.asking(records->Source(), state_.Cn, [&] { records->Requery(); });
+        const QString sort = source_.get()->Sort(); // what sorting by a column has just set
+        const auto records = isBlank(text)
+                                 ? openText(statements_.dispatch.DetailStatement(), ado::adOpenKeyset)
+                                 : openText(text, ado::adOpenStatic);
+        notes_.asking(records->Source(), source_.state().Cn, [&] { records->Requery(); });
         if (!sort.isEmpty())
             records->setSort(sort);
         break;
@@ -210,71 +207,66 @@ void LoadDriver::openBySourceType() {
 
 /// A handler may have taken the recordset away while the statement was built.
 ado::RecordsetPtr LoadDriver::openText(const QString& statement, int cursorType) {
-    const ado::RecordsetPtr records = state_.ReportRecordset;
+    const ado::RecordsetPtr records = source_.get();
     if (!records)
         throw objectNotSet(QStringLiteral("RecordSource"));
     if (records->State() == ado::adStateOpen)
         records->Close();
-    notes_.asking(statement, state_.Cn, [&] { records->Open(statement, state_.Cn, cursorType); });
+    notes_.asking(statement, source_.state().Cn,
+                  [&] { records->Open(statement, source_.state().Cn, cursorType); });
     return records;
-}
-
-QString LoadDriver::detailStatement() const {
-    if (!hooks_.DetailStatement)
-        throw Error(kErrNotSupported, QStringLiteral("A table or query needs a statement builder."));
-    return hooks_.DetailStatement();
 }
 
 /// The last result of the command that has records becomes the record source.
 void LoadDriver::openCommand() {
-    const ado::CommandPtr command = state_.ReportCommand;
+    const ado::CommandPtr command = source_.state().ReportCommand;
     if (!command)
         throw objectNotSet(QStringLiteral("RecordSource"));
-    command->ActiveConnection = state_.Cn;
+    command->ActiveConnection = source_.state().Cn;
     ado::RecordsetPtr last;
-    notes_.asking(command->CommandText, state_.Cn, [&] {
+    notes_.asking(command->CommandText, source_.state().Cn, [&] {
         auto result = std::make_shared<ado::Recordset>();
         result->Open(command, ado::adOpenStatic);
         for (; result; result = result->NextRecordset())
             if (result->State() == ado::adStateOpen)
                 last = result;
     });
-    state_.ReportRecordset = last;
+    source_.hold(last);
     if (last && last->RecordCount() > 0) {
         last->MoveFirst();
-        if (!state_.ProductID.isEmpty() && hooks_.CommandFilter)
-            last->setFilter(hooks_.CommandFilter());
+        if (!statements_.inputs.identity.ProductID.isEmpty())
+            last->setFilter(statements_.hierarchy.recordsetFilter());
     }
 }
 
 std::int64_t LoadDriver::recordCount() const {
-    const ado::RecordsetPtr records = state_.ReportRecordset;
+    const ado::RecordsetPtr records = source_.get();
     if (!records)
         throw objectNotSet(QStringLiteral("RecordSource"));
-    if (!state_.SqlOnRunTime)
-        return state_.RecCount == -1 ? 0 : records->RecordCount();
-    if (!isBlank(state_.RKeyname) && !state_.TotalForm)
-        LoadHooks::run(hooks_.RunTimeSQLCounter); // built for its effect on `Filter`; not run, as wanted
+    if (!data_.SqlOnRunTime)
+        return load_.RecCount == -1 ? 0 : records->RecordCount();
+    if (!isBlank(statements_.inputs.master.RKeyname) && !data_.TotalForm)
+        statements_.runTime.RunTimeSQLCounter(); // built for its effect on `Filter`; not run, as wanted
     return RecordsetIsEmpty(records, {boxes_, pointer_}) ? 0 : records->RecordCount();
 }
 
 void LoadDriver::sizeSurface(int records) {
     surface_.setRows(surface_.FixedRows());
     surface_.setRows(std::max(records + 1, surface_.FixedRows()));
-    state_.RowCapacity = records + 1;
-    state_.RecCount = records;
+    load_.RowCapacity = records + 1;
+    load_.RecCount = records;
 }
 
 void LoadDriver::readRows() {
     surface_.setTopRow(std::min(1, surface_.Rows() - 1));
     Tool& count = menu_.Bands(u"BndTemplate").Tools(u"txtRecs");
-    count.Text = QString::number(state_.RecCount, 'f', 0) + QStringLiteral("# ");
+    count.Text = QString::number(load_.RecCount, 'f', 0) + QStringLiteral("# ");
     menu_.Refresh();
-    state_.LoadFinished = false;
+    load_.LoadFinished = false;
     reader_.LoadRows();
     underWay_.lastRecordMs = elapsedMs();
     LoadHooks::run(hooks_.DrawInterface);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
 }
 
 void LoadDriver::selectFirstRow() {
@@ -282,8 +274,8 @@ void LoadDriver::selectFirstRow() {
     if (surface_.Rows() <= 1 || first >= surface_.Rows() || surface_.RowData(first) != ZKPSingleRow)
         return;
     surface_.setRow(first);
-    LoadHooks::run(hooks_.Selectrow);
-    state_.throwIfDestroyed();
+    marking_.Selectrow();
+    lifetime_.throwIfDestroyed();
 }
 
 } // namespace zkp

@@ -2,10 +2,16 @@
 
 #include "base/error.h"
 #include "base/listeners.h"
+#include "core/control_setters.h"
 #include "core/events.h"
 #include "core/load_notes.h"
+#include "core/painted_place.h"
 #include "core/record_source.h"
 #include "core/reporting.h"
+#include "core/row_marking.h"
+#include "core/state/data_settings.h"
+#include "core/state/lifetime.h"
+#include "core/state/load_state.h"
 #include "host/message_boxes.h"
 #include "host/pending_events.h"
 #include "host/pointer.h"
@@ -13,8 +19,7 @@
 #include "load/load_outcome.h"
 #include "load/row_reader.h"
 #include "menu/menu_bar.h"
-#include "sql/dictionary.h"
-#include "sql/field_expressions.h"
+#include "sql/statement_parts.h"
 #include "surface/grid_surface.h"
 
 #include <QElapsedTimer>
@@ -30,16 +35,22 @@ class LoadDriver {
 public:
     using ErrorSink = std::function<void(const Error&)>;
 
-    LoadDriver(ReportState& state, GridSurface& surface, MenuBar& menu, Dictionary& dictionary,
-               FieldExpressions& fields, RowReader& reader, LoadNotes& notes, MessageBoxes& boxes,
-               Pointer& pointer, PendingEvents& pendingEvents, const Reporting& reporting,
-               const LoadHooks& hooks)
-        : state_(state)
-        , source_(state)
+    LoadDriver(const DataSettings& data, LoadState& load, const Lifetime& lifetime, PaintedPlace& painted,
+               RecordSource& source, ControlSetters& setters, GridSurface& surface, MenuBar& menu,
+               StatementParts& statements, GroupColumns& groups, RowMarking& marking, RowReader& reader,
+               LoadNotes& notes, MessageBoxes& boxes, Pointer& pointer, PendingEvents& pendingEvents,
+               const Reporting& reporting, const LoadHooks& hooks)
+        : data_(data)
+        , load_(load)
+        , lifetime_(lifetime)
+        , painted_(painted)
+        , source_(source)
+        , setters_(setters)
         , surface_(surface)
         , menu_(menu)
-        , dictionary_(dictionary)
-        , fields_(fields)
+        , statements_(statements)
+        , groups_(groups)
+        , marking_(marking)
         , reader_(reader)
         , notes_(notes)
         , boxes_(boxes)
@@ -74,18 +85,22 @@ private:
     void openBySourceType();
     ado::RecordsetPtr openText(const QString& statement, int cursorType);
     void openCommand();
-    QString detailStatement() const;
     std::int64_t recordCount() const;
     void sizeSurface(int records);
     void readRows();
     void selectFirstRow();
 
-    ReportState& state_;
-    RecordSource source_;
+    const DataSettings& data_;
+    LoadState& load_;
+    const Lifetime& lifetime_;
+    PaintedPlace& painted_;
+    RecordSource& source_;
+    ControlSetters& setters_;
     GridSurface& surface_;
     MenuBar& menu_;
-    Dictionary& dictionary_;
-    FieldExpressions& fields_;
+    StatementParts& statements_;
+    GroupColumns& groups_;
+    RowMarking& marking_;
     RowReader& reader_;
     LoadNotes& notes_;
     MessageBoxes& boxes_;

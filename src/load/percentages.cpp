@@ -4,12 +4,13 @@
 #include "base/format.h"
 #include "base/text.h"
 #include "base/texts.h"
+#include "core/state/lifetime.h"
 
 namespace zkp {
 
 QString Percentages::PercentOfParent(const QString& field, int r, std::optional<int> level) {
     try {
-        const int parent = level.value_or(state_.GroupFactorCount - 2);
+        const int parent = level.value_or(grouping_.GroupFactorCount - 2);
         const QString name = field == u"CNT" ? field : QStringLiteral("SUM_") + field;
         const double a = GroupValueSum(parent, name, r);
         const double b = GroupValueSum(parent + 1, name, r);
@@ -38,10 +39,10 @@ double Percentages::GroupValueSum(int level, const QString& name, int r) {
 }
 
 double Percentages::sumOf(int level, const QString& name, int r) {
-    if (!state_.TotalsRecordset)
+    if (!source_.TotalsRecordset)
         throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"),
                     QStringLiteral("TotalsRecordset"));
-    index_.use(state_.TotalsRecordset, surface_.locale());
+    index_.use(source_.TotalsRecordset, surface_.locale());
     return index_.sum(keysOf(level, r), name).toDouble();
 }
 

@@ -2,7 +2,8 @@
 
 #include "core/column_list.h"
 #include "core/load_notes.h"
-#include "core/report_state.h"
+#include "core/state/grouping_state.h"
+#include "core/state/source_state.h"
 #include "host/message_boxes.h"
 #include "load/group_value_index.h"
 #include "surface/grid_surface.h"
@@ -14,9 +15,10 @@ namespace zkp {
 /// The share of a row's group in the group around it, from the records of a totals report.
 class Percentages {
 public:
-    Percentages(ReportState& state, const ColumnList& columns, const GridSurface& surface,
-                MessageBoxes& boxes, LoadNotes& notes)
-        : state_(state)
+    Percentages(const SourceState& source, const GroupingState& grouping, const ColumnList& columns,
+                const GridSurface& surface, MessageBoxes& boxes, LoadNotes& notes)
+        : source_(source)
+        , grouping_(grouping)
         , columns_(columns)
         , surface_(surface)
         , boxes_(boxes)
@@ -36,7 +38,8 @@ private:
     double sumOf(int level, const QString& name, int r);
     std::vector<GroupValueIndex::Key> keysOf(int level, int r) const;
 
-    ReportState& state_;
+    const SourceState& source_;
+    const GroupingState& grouping_;
     const ColumnList& columns_;
     const GridSurface& surface_;
     MessageBoxes& boxes_;

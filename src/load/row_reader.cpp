@@ -11,7 +11,7 @@
 namespace zkp {
 
 void RowReader::LoadRows() {
-    if (!state_.ReportRecordset || state_.ReportRecordset->State() == ado::adStateClosed)
+    if (!source_.ReportRecordset || source_.ReportRecordset->State() == ado::adStateClosed)
         return;
     if (reading_)
         throw Error(kErrIllegalOperation, QStringLiteral("Rows are being read already."),
@@ -21,25 +21,26 @@ void RowReader::LoadRows() {
     const ScopeGuard restore([this] {
         plan_.reset();
         hasTotals_ = reading_ = false;
-        state_.PaintReady = state_.ContentSeen = true;
+        notices_.hear();
+        notices_.seeContent();
         surface_.setRedraw(true);
         pointer_.setPointer(kPointerDefault);
     });
     percentages_.tellFailuresAgain();
     const auto read = [this] {
         Q_EMIT events_.StartFilling();
-        state_.throwIfDestroyed();
+        lifetime_.throwIfDestroyed();
         pointer_.setPointer(kPointerHourglass);
         surface_.setRedraw(false);
-        const ado::RecordsetPtr records = state_.ReportRecordset; // a handler may just have given another
+        const ado::RecordsetPtr records = source_.ReportRecordset; // a handler may just have given another
         if (records && !(records->Bof() && records->Eof()))
             readRecords(records);
         surface_.Refresh();
     };
     reporting_.run(read, [this](const Error&) { boxes_.msgBox(texts::readFailed(), kMsgBoxCritical); });
     Q_EMIT events_.StopFillIng();
-    state_.throwIfDestroyed();
-    if (state_.LoadFinished)
+    lifetime_.throwIfDestroyed();
+    if (load_.LoadFinished)
         removeBlankRows();
 }
 
@@ -48,7 +49,7 @@ void RowReader::readRecords(const ado::RecordsetPtr& records) {
     double r = surface_.FixedRows() - 1; // a handler may leave any number
     makePlan(*records);
     while (!records->Eof()) {
-        if (!plan_->isCurrent(*records, columns_, surface_, state_))
+        if (!plan_->isCurrent(*records, columns_, surface_, data_))
             makePlan(*records);
         if (int row = toInt32(r); canBindTheRest(*records, row)) {
             bindTheRest(*records, row);
@@ -72,7 +73,7 @@ void RowReader::readRecord(const ado::RecordsetPtr& records, double& r) {
 
     RetrieveRowArgs args{r, records};
     Q_EMIT events_.RetrieveRow(args);
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     r = args.rw;
 }
 
@@ -80,7 +81,7 @@ void RowReader::readRecord(const ado::RecordsetPtr& records, double& r) {
 /// has no totals.
 void RowReader::sumRecord(ado::Recordset& records, double& r) {
     if (r == 1) {
-        state_.LoadFinished = false;
+        load_.LoadFinished = false;
         unseen_ = !events_.isRetrieveRowHeard();
         hasTotals_ = groups_.InitTotalsGrid(!unseen_);
     } else if (hasTotals_ && records.AbsolutePosition() <= records.RecordCount()) {
@@ -93,7 +94,7 @@ void RowReader::sumRecord(ado::Recordset& records, double& r) {
 
 void RowReader::makePlan(ado::Recordset& records) {
     const int lastField = plan_ && plan_->refersTo(records) ? plan_->lastField() : -1;
-    plan_.emplace(records, properties_, columns_, surface_, state_, lastField);
+    plan_.emplace(records, properties_, columns_, surface_, data_, lastField);
 }
 
 /// From the row after the first on, when each further row would be written the same way unseen.
@@ -146,7 +147,7 @@ void RowReader::finishTotals(int r) {
     ++r;
     groups_.AccumulateRow(r);
     totals_.FinishTotals(unseen_);
-    state_.LoadFinished = true;
+    load_.LoadFinished = true;
 }
 
 /// The row above a removed one is passed over, as wanted; the last row always stays.

@@ -2,8 +2,12 @@
 
 #include "core/column_properties.h"
 #include "core/events.h"
-#include "core/report_state.h"
 #include "core/reporting.h"
+#include "core/selection_notices.h"
+#include "core/state/data_settings.h"
+#include "core/state/lifetime.h"
+#include "core/state/load_state.h"
+#include "core/state/source_state.h"
 #include "host/message_boxes.h"
 #include "host/pointer.h"
 #include "load/cell_plan.h"
@@ -21,10 +25,15 @@ namespace zkp {
 /// rows, whole runs of records are summed and bound at once.
 class RowReader {
 public:
-    RowReader(ReportState& state, ColumnProperties& properties, const ColumnList& columns,
+    RowReader(const DataSettings& data, const SourceState& source, LoadState& load, const Lifetime& lifetime,
+              SelectionNotices& notices, ColumnProperties& properties, const ColumnList& columns,
               GridSurface& surface, Events& events, MessageBoxes& boxes, Pointer& pointer,
               const Reporting& reporting, GroupRows& groups, TotalsRows& totals, Percentages& percentages)
-        : state_(state)
+        : data_(data)
+        , source_(source)
+        , load_(load)
+        , lifetime_(lifetime)
+        , notices_(notices)
         , properties_(properties)
         , columns_(columns)
         , surface_(surface)
@@ -52,7 +61,11 @@ private:
     void finishTotals(int r);
     void removeBlankRows();
 
-    ReportState& state_;
+    const DataSettings& data_;
+    const SourceState& source_;
+    LoadState& load_;
+    const Lifetime& lifetime_;
+    SelectionNotices& notices_;
     ColumnProperties& properties_;
     const ColumnList& columns_;
     GridSurface& surface_;

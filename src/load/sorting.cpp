@@ -25,7 +25,7 @@ bool isAggregate(const QString& field) {
 // --- In place
 
 void RowSorting::SortGrid(int mv) {
-    reporting_.passOver([this] { LoadHooks::run(hooks_.RedrawRow, state_.PreRow); });
+    reporting_.passOver([this] { marking_.redrawMarkedRow(); });
     reporting_.passOver([&] { surface_.setSort(mv); });
 }
 
@@ -33,24 +33,24 @@ void RowSorting::Sort(int mv) {
     const bool redraw = surface_.Redraw();
     const ScopeGuard restore([&] { surface_.setRedraw(redraw); });
     surface_.setRedraw(false); // a view hears once of all that happens here
-    reporting_.passOver([this] { LoadHooks::run(hooks_.RedrawRow, state_.PreRow); });
-    state_.sortOut = true; // for good, as wanted
+    reporting_.passOver([this] { marking_.redrawMarkedRow(); });
+    sorting_.sortOut = true; // for good, as wanted
     {
-        const SelectionQuiet quiet(state_); // the mark goes on once the rows stand
+        const SelectionQuiet quiet(notices_); // the mark goes on once the rows stand
         sortAllButLast(mv);
     }
     surface_.Refresh();
-    reporting_.passOver([this] { LoadHooks::run(hooks_.Selectrow); });
+    reporting_.passOver([this] { marking_.Selectrow(); });
     reporting_.passOver([this] { numberRows(); });
 }
 
 void RowSorting::sortAllButLast(int mv) {
-    reporting_.passOver([this] { control_.setRow(1); });
+    reporting_.passOver([this] { setters_.setRow(1); });
     reporting_.passOver([this] {
-        if (state_.SortColumn)
-            surface_.setCol(*state_.SortColumn);
+        if (sorting_.SortColumn)
+            surface_.setCol(*sorting_.SortColumn);
     });
-    reporting_.passOver([this] { control_.setRow(1); });
+    reporting_.passOver([this] { setters_.setRow(1); });
     reporting_.passOver([this] { surface_.setRowSel(surface_.Rows() - 2); });
     // With one row selected the surface would take the whole body, the last row with it.
     if (surface_.RowSel() != surface_.Row())
@@ -76,6 +76,11 @@ bool RowSorting::showsText(int row, int butColumn) const {
     return false;
 }
 
+void RowSorting::setDirection(bool descending) {
+    sorting_.SortDescending = descending ? -1 : 0;
+    sorting_.SortAscending = descending ? 0 : -1;
+}
+
 // --- By the database
 
 void RowSorting::SortByColumn(const QString& previous) {
@@ -83,7 +88,7 @@ void RowSorting::SortByColumn(const QString& previous) {
 }
 
 void RowSorting::SortByDirection() {
-    sortAndTell([descending = state_.SortDescending == -1](const QString&) { return descending; });
+    sortAndTell([descending = sorting_.SortDescending == -1](const QString&) { return descending; });
 }
 
 void RowSorting::sortAndTell(const IsDescending& isDescending) {
@@ -93,28 +98,29 @@ void RowSorting::sortAndTell(const IsDescending& isDescending) {
 
 void RowSorting::sortAndLoad(const IsDescending& isDescending) {
     const int column = surface_.Col();
-    state_.SortColumn = column;
+    sorting_.SortColumn = column;
     Q_EMIT events_.StartSorting();
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
     pointer_.setPointer(kPointerHourglass);
-    LoadHooks::run(hooks_.RedrawRow, state_.PreRow);
-    if (!state_.TotalForm && state_.SqlOnRunTime)
+    marking_.redrawMarkedRow();
+    if (!data_.TotalForm && data_.SqlOnRunTime)
         orderDetailReport(column, isDescending);
     else
         orderOtherReport(column, isDescending);
-    control_.FillGrid();
-    state_.throwIfDestroyed();
-    control_.setRow(1);
-    state_.throwIfDestroyed();
+    driver_.FillGrid();
+    lifetime_.throwIfDestroyed();
+    setters_.setRow(1);
+    lifetime_.throwIfDestroyed();
     pointer_.setPointer(kPointerDefault);
     Q_EMIT events_.StopSorting();
-    state_.throwIfDestroyed();
+    lifetime_.throwIfDestroyed();
 }
 
 void RowSorting::orderDetailReport(int column, const IsDescending& isDescending) {
     const QString expr = expressionOf(properties_.ColDataField(column));
     if (!isBlank(expr))
-        inputs_.setOrderBy(expr + (isDescending(expr) ? QStringLiteral(" DESC") : QStringLiteral(" ASC")));
+        statements_.inputs.setOrderBy(
+            expr + (isDescending(expr) ? QStringLiteral(" DESC") : QStringLiteral(" ASC")));
 }
 
 /// The small letters of " desc" belong to this road, as wanted. An aggregate that no statement can be
@@ -122,27 +128,28 @@ void RowSorting::orderDetailReport(int column, const IsDescending& isDescending)
 /// load undoes a custom sort, unless `RefreshOnChange` holds the rows.
 void RowSorting::orderOtherReport(int column, const IsDescending& isDescending) {
     const QString field = properties_.ColDataField(column);
-    state_.OrderByAlias = field;
-    state_.OrderByPhysical = field.size() >= 6 ? mid(field, 5) : QString();
-    const QString expr = state_.SqlOnRunTime && isAggregate(field) ? field : expressionOf(field);
+    sorting_.OrderByAlias = field;
+    sorting_.OrderByPhysical = field.size() >= 6 ? mid(field, 5) : QString();
+    const QString expr = data_.SqlOnRunTime && isAggregate(field) ? field : expressionOf(field);
     if (field.isEmpty())
         surface_.setSort(kSortCustom);
     else if (isBlank(expr))
-        inputs_.setOrderBy({});
+        statements_.inputs.setOrderBy({});
     else
-        inputs_.setOrderBy(expr + (isDescending(expr) ? QStringLiteral(" desc") : QStringLiteral(" ASC")));
-    state_.throwIfDestroyed();
-    if (state_.SourceType == ZKP_RecordSet) {
-        if (!state_.ReportRecordset)
+        statements_.inputs.setOrderBy(
+            expr + (isDescending(expr) ? QStringLiteral(" desc") : QStringLiteral(" ASC")));
+    lifetime_.throwIfDestroyed();
+    if (source_.SourceType == ZKP_RecordSet) {
+        if (!source_.ReportRecordset)
             throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"),
                         QStringLiteral("RecordSource"));
-        state_.ReportRecordset->setSort(state_.OrderBy);
+        source_.ReportRecordset->setSort(data_.OrderBy);
     }
 }
 
 QString RowSorting::expressionOf(const QString& field) {
     QString tables;
-    return fields_.makefldSql(field, tables, false);
+    return statements_.fields.makefldSql(field, tables, false);
 }
 
 // --- The custom sort
@@ -150,17 +157,17 @@ QString RowSorting::expressionOf(const QString& field) {
 void RowSorting::connect(const std::weak_ptr<void>& owner) {
     surface_.notifications.compare = [this, owner](int firstRow, int lastRow) -> RowCompare {
         const std::shared_ptr<void> alive = owner.lock();
-        if (!alive || state_.destroyed)
+        if (!alive || lifetime_.destroyed)
             return {};
-        state_.SortColumn = surface_.Col();
-        if (!state_.sortOut)
+        sorting_.SortColumn = surface_.Col();
+        if (!sorting_.sortOut)
             return ownOrder(firstRow, lastRow);
         return [this, owner](int row1, int row2) {
             const std::shared_ptr<void> stillAlive = owner.lock();
-            if (!stillAlive || state_.destroyed)
+            if (!stillAlive || lifetime_.destroyed)
                 return 0; // a handler has destroyed the control; the surface sorts on to its end
             const ScopeGuard release([&] {
-                if (state_.destroyed)
+                if (lifetime_.destroyed)
                     releaseLater(stillAlive);
             });
             return askHost(row1, row2);
@@ -178,8 +185,8 @@ int RowSorting::askHost(int row1, int row2) {
 
 /// Keys and values are worked out once for each row, not for each comparison.
 RowCompare RowSorting::ownOrder(int firstRow, int lastRow) const {
-    return [rows = sortRows(firstRow, lastRow), firstRow, descending = state_.SortDescending != 0](int row1,
-                                                                                                   int row2) {
+    return [rows = sortRows(firstRow, lastRow), firstRow,
+            descending = sorting_.SortDescending != 0](int row1, int row2) {
         return compareRows(rows[static_cast<std::size_t>(row1 - firstRow)],
                            rows[static_cast<std::size_t>(row2 - firstRow)], descending);
     };
@@ -187,7 +194,8 @@ RowCompare RowSorting::ownOrder(int firstRow, int lastRow) const {
 
 std::vector<SortRow> RowSorting::sortRows(int firstRow, int lastRow) const {
     const int count = lastRow - firstRow + 1;
-    const int factors = std::clamp(state_.GroupFactorCount - (state_.TotalForm ? 1 : 0), 0, surface_.Cols());
+    const int factors =
+        std::clamp(grouping_.GroupFactorCount - (data_.TotalForm ? 1 : 0), 0, surface_.Cols());
     const DistinctTexts keys = distinctTexts(count, [&](int i) {
         QStringList cells;
         for (int c = 0; c < factors; ++c)
@@ -196,7 +204,7 @@ std::vector<SortRow> RowSorting::sortRows(int firstRow, int lastRow) const {
     });
     const std::vector<int> places = groupPlaces(keys.texts, surface_.locale());
 
-    const int column = *state_.SortColumn;
+    const int column = *sorting_.SortColumn;
     const QString field = properties_.ColDataField(column);
     const DistinctTexts texts =
         distinctTexts(count, [&](int i) { return surface_.TextMatrix(firstRow + i, column); });
@@ -213,7 +221,7 @@ std::vector<SortRow> RowSorting::sortRows(int firstRow, int lastRow) const {
 }
 
 std::optional<int> RowSorting::fieldType(const QString& field) const {
-    const ado::RecordsetPtr records = state_.ReportRecordset;
+    const ado::RecordsetPtr records = source_.ReportRecordset;
     if (!records || records->State() == ado::adStateClosed)
         return std::nullopt;
     const int index = records->Fields().indexOf(field);

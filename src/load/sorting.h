@@ -1,13 +1,20 @@
 #pragma once
 
 #include "core/column_properties.h"
+#include "core/control_setters.h"
 #include "core/events.h"
-#include "core/report_state.h"
 #include "core/reporting.h"
+#include "core/row_marking.h"
+#include "core/selection_notices.h"
+#include "core/state/data_settings.h"
+#include "core/state/grouping_state.h"
+#include "core/state/lifetime.h"
+#include "core/state/sorting_state.h"
+#include "core/state/source_state.h"
 #include "host/pointer.h"
-#include "load/load_hooks.h"
+#include "load/load_driver.h"
 #include "load/row_comparison.h"
-#include "sql/field_expressions.h"
+#include "sql/statement_parts.h"
 #include "surface/grid_surface.h"
 
 #include <functional>
@@ -19,25 +26,26 @@ namespace zkp {
 /// (Sort, SortGrid). The surface's custom sort asks either the host or the control's own order.
 class RowSorting {
 public:
-    /// What the sorts ask of the control: its `Row` setter and a load.
-    struct Control {
-        std::function<void(int)> setRow;
-        std::function<void()> FillGrid;
-    };
-
-    RowSorting(BuilderInputs& inputs, FieldExpressions& fields, ColumnProperties& properties,
-               GridSurface& surface, Events& events, Pointer& pointer, const Reporting& reporting,
-               const LoadHooks& hooks, Control control)
-        : inputs_(inputs)
-        , state_(inputs.state)
-        , fields_(fields)
+    RowSorting(const DataSettings& data, const SourceState& source, const GroupingState& grouping,
+               SortingState& sorting, const Lifetime& lifetime, SelectionNotices& notices,
+               StatementParts& statements, LoadDriver& driver, RowMarking& marking, ControlSetters& setters,
+               ColumnProperties& properties, GridSurface& surface, Events& events, Pointer& pointer,
+               const Reporting& reporting)
+        : data_(data)
+        , source_(source)
+        , grouping_(grouping)
+        , sorting_(sorting)
+        , lifetime_(lifetime)
+        , notices_(notices)
+        , statements_(statements)
+        , driver_(driver)
+        , marking_(marking)
+        , setters_(setters)
         , properties_(properties)
         , surface_(surface)
         , events_(events)
         , pointer_(pointer)
-        , reporting_(reporting)
-        , hooks_(hooks)
-        , control_(std::move(control)) {}
+        , reporting_(reporting) {}
 
     /// Answers the surface's custom sort. `owner` keeps everything here alive while a handler runs.
     void connect(const std::weak_ptr<void>& owner);
@@ -50,7 +58,9 @@ public:
     /// Sorts by the current column and loads again, descending when `previous` is the column's own
     /// expression. A failure shows the error box.
     void SortByColumn(const QString& previous);
-    /// The same in the direction of `SortDescending`: descending when it is -1.
+    /// The direction of the control's own order.
+    void setDirection(bool descending);
+    /// The same in that direction.
     void SortByDirection();
 
 private:
@@ -72,16 +82,21 @@ private:
     std::vector<SortRow> sortRows(int firstRow, int lastRow) const;
     std::optional<int> fieldType(const QString& field) const;
 
-    BuilderInputs& inputs_;
-    ReportState& state_;
-    FieldExpressions& fields_;
+    const DataSettings& data_;
+    const SourceState& source_;
+    const GroupingState& grouping_;
+    SortingState& sorting_;
+    const Lifetime& lifetime_;
+    SelectionNotices& notices_;
+    StatementParts& statements_;
+    LoadDriver& driver_;
+    RowMarking& marking_;
+    ControlSetters& setters_;
     ColumnProperties& properties_;
     GridSurface& surface_;
     Events& events_;
     Pointer& pointer_;
     Reporting reporting_;
-    const LoadHooks& hooks_;
-    Control control_;
 };
 
 } // namespace zkp

@@ -4,25 +4,25 @@
 
 namespace zkp {
 
-std::vector<Error> failedSourceChecks(const ReportState& state) {
+std::vector<Error> failedSourceChecks(const SourceState& given) {
     const QString source = QStringLiteral("ZkpGrid.refresh");
     const auto needConnection = [&](std::vector<Error>& failed) {
-        if (!state.Cn)
+        if (!given.Cn)
             failed.emplace_back(kErrPropertyNotSet, texts::connectionNotSet(), source);
     };
 
     std::vector<Error> failed;
-    switch (state.SourceType) {
+    switch (given.SourceType) {
     case ZKP_SQLStatement:
     case ZKP_Table_QUERY:
         needConnection(failed);
         break;
     case ZKP_RecordSet:
-        if (!state.ReportRecordset)
+        if (!given.ReportRecordset)
             failed.emplace_back(kErrPropertyNotSet, texts::recordSourceNotSet(), source);
         break;
     case ZKP_Command:
-        if (!state.ReportCommand)
+        if (!given.ReportCommand)
             failed.emplace_back(kErrCommandNotSet, texts::commandNotSet(), source);
         needConnection(failed);
         break;

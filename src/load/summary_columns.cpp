@@ -32,9 +32,9 @@ int SummaryColumns::levelOf(int row) const {
     if (surface_.RowData(row) == ZKPTotals)
         return -1;
     if (surface_.RowData(row) == ZKPSingleRow) // in a totals report it is a group of the innermost factor
-        return state_.GroupFactorCount - (state_.TotalForm ? 1 : 0);
+        return grouping_.GroupFactorCount - (data_.TotalForm ? 1 : 0);
     int level = -1;
-    for (int k = 0; k < std::min<int>(state_.GroupFactorCount, surface_.Cols()); ++k)
+    for (int k = 0; k < std::min<int>(grouping_.GroupFactorCount, surface_.Cols()); ++k)
         if (!isBlank(surface_.TextMatrix(row, k)))
             level = k;
     return level;

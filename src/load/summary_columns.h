@@ -1,7 +1,8 @@
 #pragma once
 
 #include "core/column_list.h"
-#include "core/report_state.h"
+#include "core/state/data_settings.h"
+#include "core/state/grouping_state.h"
 #include "surface/grid_surface.h"
 
 #include <utility>
@@ -13,8 +14,10 @@ namespace zkp {
 /// No part of the system calls these; hosts reach them by name.
 class SummaryColumns {
 public:
-    SummaryColumns(const ReportState& state, const ColumnList& columns, GridSurface& surface)
-        : state_(state)
+    SummaryColumns(const DataSettings& data, const GroupingState& grouping, const ColumnList& columns,
+                   GridSurface& surface)
+        : data_(data)
+        , grouping_(grouping)
         , columns_(columns)
         , surface_(surface) {}
 
@@ -34,7 +37,8 @@ private:
     /// Each summary row that has a parent, with that.
     std::vector<std::pair<int, int>> parents() const;
 
-    const ReportState& state_;
+    const DataSettings& data_;
+    const GroupingState& grouping_;
     const ColumnList& columns_;
     GridSurface& surface_;
 };

@@ -18,7 +18,7 @@ constexpr int kNobodysTag = 90;
 
 void TotalsRows::FinishTotals(bool rowsAreAsCounted) {
     surface_.RemoveItem(surface_.Rows() - 1);
-    state_.RowCapacity -= 1;
+    load_.RowCapacity -= 1;
     const int last = surface_.Rows() - 1;
     for (int c = 0; c < sums_.shape().columns; ++c)
         surface_.setTextMatrix(last, c, totalText(c, rowsAreAsCounted));
@@ -37,7 +37,7 @@ QString TotalsRows::totalText(int c, bool rowsAreAsCounted) const {
         return formatNumber(grand, NumberFormat::Grouped2, surface_.locale());
     const bool stands = grand.isZero() || (rowsAreAsCounted && grand.units());
     return formatNumber(stands ? grand : sumOfRecords(c),
-                        state_.EuroVer ? NumberFormat::Grouped2 : NumberFormat::Grouped0, surface_.locale());
+                        data_.EuroVer ? NumberFormat::Grouped2 : NumberFormat::Grouped0, surface_.locale());
 }
 
 Decimal TotalsRows::sumOfRecords(int c) const {
@@ -54,12 +54,12 @@ void TotalsRows::PaintTotalsRows() {
     surface_.setRedraw(false);
     const int lastCol = surface_.Cols() - 1;
 
-    const StylePatch subtotals = coloursAndFontOf(styleOf(Section::SubTotals, state_, surface_));
+    const StylePatch subtotals = coloursAndFontOf(styleOf(Section::SubTotals, sections_, surface_));
     if (lastCol >= 1) // column 0 keeps the look of its group
         for (int row = surface_.Rows() - 1; row >= surface_.FixedRows(); --row)
             if (surface_.RowData(row) == ZKPSubTotals)
                 surface_.applyStyle({row, 1, row, lastCol}, subtotals);
-    const StylePatch totals = coloursAndFontOf(styleOf(Section::Totals, state_, surface_));
+    const StylePatch totals = coloursAndFontOf(styleOf(Section::Totals, sections_, surface_));
     surface_.applyStyle({surface_.Rows() - 1, 0, surface_.Rows() - 1, lastCol}, totals);
     seekContent();
 }
@@ -67,7 +67,7 @@ void TotalsRows::PaintTotalsRows() {
 void TotalsRows::seekContent() {
     for (int row = 0; row < surface_.Rows(); ++row)
         if (!surface_.IsRowBlank(row)) {
-            state_.ContentSeen = true;
+            notices_.seeContent();
             return;
         }
 }
@@ -75,7 +75,7 @@ void TotalsRows::seekContent() {
 void TotalsRows::AppendTotalsRow() {
     surface_.AddItem({});
     const int last = surface_.Rows() - 1;
-    const StylePatch colours = coloursOf(styleOf(Section::Totals, state_, surface_));
+    const StylePatch colours = coloursOf(styleOf(Section::Totals, sections_, surface_));
     surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, colours);
     surface_.setRowData(last, kAppendedTotals);
 }

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "core/column_list.h"
-#include "core/report_state.h"
+#include "core/selection_notices.h"
+#include "core/state/data_settings.h"
+#include "core/state/load_state.h"
+#include "core/state/section_settings.h"
 #include "load/group_sums.h"
 #include "load/load_hooks.h"
 #include "surface/grid_surface.h"
@@ -11,9 +14,13 @@ namespace zkp {
 /// The row that closes a report, and the look of subtotal and totals rows.
 class TotalsRows {
 public:
-    TotalsRows(ReportState& state, const ColumnList& columns, GridSurface& surface, const GroupSums& sums,
-               const LoadHooks& hooks)
-        : state_(state)
+    TotalsRows(const DataSettings& data, LoadState& load, SelectionNotices& notices,
+               const SectionSettings& sections, const ColumnList& columns, GridSurface& surface,
+               const GroupSums& sums, const LoadHooks& hooks)
+        : data_(data)
+        , load_(load)
+        , notices_(notices)
+        , sections_(sections)
         , columns_(columns)
         , surface_(surface)
         , sums_(sums)
@@ -38,7 +45,10 @@ private:
     Decimal sumOfRecords(int c) const;
     void seekContent();
 
-    ReportState& state_;
+    const DataSettings& data_;
+    LoadState& load_;
+    SelectionNotices& notices_;
+    const SectionSettings& sections_;
     const ColumnList& columns_;
     GridSurface& surface_;
     const GroupSums& sums_;

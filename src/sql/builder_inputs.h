@@ -2,9 +2,13 @@
 
 #include "core/column_list.h"
 #include "core/events.h"
+#include "core/group_factors.h"
 #include "core/load_notes.h"
 #include "core/record_source.h"
-#include "core/report_state.h"
+#include "core/state/data_settings.h"
+#include "core/state/identity_state.h"
+#include "core/state/master_table_state.h"
+#include "core/state/sorting_state.h"
 #include "surface/grid_surface.h"
 
 namespace zkp {
@@ -12,16 +16,29 @@ namespace zkp {
 /// What every statement builder reads of the report, and the properties that it writes back.
 class BuilderInputs {
 public:
-    BuilderInputs(ReportState& state, const ColumnList& columns, const GridSurface& surface, Events& events,
-                  LoadNotes& notes)
-        : state(state)
+    BuilderInputs(DataSettings& data, const RecordSource& source, const MasterTableState& master,
+                  const IdentityState& identity, const SortingState& sorting, GroupFactorFlags& flags,
+                  const ColumnList& columns, const GridSurface& surface, Events& events, LoadNotes& notes)
+        : data(data)
+        , source(source.state())
+        , master(master)
+        , identity(identity)
+        , grouping(flags.state())
+        , sorting(sorting)
         , columns(columns)
         , notes(notes)
+        , data_(data)
+        , source_(source)
+        , flags_(flags)
         , surface_(surface)
-        , source_(state)
         , events_(events) {}
 
-    ReportState& state;
+    const DataSettings& data;
+    const SourceState& source;
+    const MasterTableState& master;
+    const IdentityState& identity;
+    const GroupingState& grouping;
+    const SortingState& sorting;
     const ColumnList& columns;
     /// Takes what fails here behind a box.
     LoadNotes& notes;
@@ -35,30 +52,34 @@ public:
 
     /// How many group factors have a name to walk: `GroupFactorCount`, bounded by the names.
     int factorCount() const {
-        return std::min<int>(state.GroupFactorCount, static_cast<int>(state.GroupFactors.size()));
+        return std::min<int>(grouping.GroupFactorCount, static_cast<int>(grouping.GroupFactors.size()));
     }
-    const QString& factor(int i) const { return state.GroupFactors[i]; }
+    const QString& factor(int i) const { return grouping.GroupFactors[i]; }
 
     void setFilter(const QString& text) {
         if (isFilterTyped())
             typedInForce_ = text;
-        write(state.Filter, text, QStringLiteral("Filter"));
+        write(data_.Filter, text, QStringLiteral("Filter"));
     }
     /// Gives `Filter` a condition that a person typed.
     void setTypedFilter(const QString& condition) {
         typed_ = condition;
         typedInForce_ = condition;
-        write(state.Filter, condition, QStringLiteral("Filter"));
+        write(data_.Filter, condition, QStringLiteral("Filter"));
     }
     /// Whether `Filter` is what a person typed, or what the builders have made of it.
-    bool isFilterTyped() const { return !typed_.isEmpty() && state.Filter == typedInForce_; }
+    bool isFilterTyped() const { return !typed_.isEmpty() && data.Filter == typedInForce_; }
     /// Puts a typed filter back as it was before the builders wrote over it.
     void beginFilter() {
-        if (isFilterTyped() && state.Filter != typed_)
+        if (isFilterTyped() && data.Filter != typed_)
             setFilter(typed_);
     }
-    void setGroupby(const QString& text) { write(state.Groupby, text, QStringLiteral("Groupby")); }
-    void setOrderBy(const QString& text) { write(state.OrderBy, text, QStringLiteral("OrderBy")); }
+    void setGroupby(const QString& text) { flags_.setGroupby(text); }
+    void setOrderBy(const QString& text) { write(data_.OrderBy, text, QStringLiteral("OrderBy")); }
+    /// `SQLRun`.
+    void keepStatement(const QString& text) { data_.SQLRun = text; }
+    /// `HasPercentColumns`.
+    void wantPercentColumns(bool wanted) { data_.HasPercentColumns = wanted; }
 
 private:
     void write(QString& member, const QString& text, const QString& key) {
@@ -66,8 +87,10 @@ private:
         events_.notify(key);
     }
 
+    DataSettings& data_;
+    const RecordSource& source_;
+    GroupFactorFlags& flags_;
     const GridSurface& surface_;
-    RecordSource source_;
     QString typed_;        ///< the last condition that a person typed
     QString typedInForce_; ///< `Filter` as it was last written for that condition
     Events& events_;

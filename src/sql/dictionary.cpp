@@ -5,7 +5,7 @@
 namespace zkp {
 
 bool Dictionary::isNamed() const {
-    return !isBlank(state_.clmns);
+    return !isBlank(data_.clmns);
 }
 
 ado::RecordsetPtr Dictionary::recordset() {
@@ -33,15 +33,15 @@ void Dictionary::loadForEmptyReport() {
     if (rows->State() == ado::adStateOpen)
         rows->Close();
     open(
-        state_.TotalForm
+        data_.TotalForm
             ? QStringLiteral(" where visbl=1 and (isGroup or [Sum] or [Avg] or [Min] or [Max]) order by cptn")
             : QStringLiteral(" where visbl = 1  order by cptn"));
 }
 
 /// The blanks are as the statements have always had them.
 QString Dictionary::whereClause() const {
-    const bool restricted = !state_.ProductID.isEmpty();
-    if (!state_.TotalForm)
+    const bool restricted = !identity_.ProductID.isEmpty();
+    if (!data_.TotalForm)
         return restricted ? QStringLiteral(" where visbl = 1 and IsPublic <> 0 order by cptn")
                           : QStringLiteral(" where visbl = 1  order by cptn");
     const QString aggregates = QStringLiteral(
@@ -52,7 +52,7 @@ QString Dictionary::whereClause() const {
 }
 
 void Dictionary::open(const QString& where) {
-    recordset()->Open(QStringLiteral("Select * from ") + state_.clmns + where, state_.Cn, ado::adOpenStatic);
+    recordset()->Open(QStringLiteral("Select * from ") + data_.clmns + where, source_.Cn, ado::adOpenStatic);
 }
 
 } // namespace zkp

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "core/report_state.h"
+#include "core/state/data_settings.h"
+#include "core/state/identity_state.h"
+#include "core/state/source_state.h"
 
 namespace zkp {
 
@@ -8,8 +10,10 @@ namespace zkp {
 /// them in `DictionaryRS`.
 class Dictionary {
 public:
-    explicit Dictionary(ReportState& state)
-        : state_(state) {}
+    explicit Dictionary(const DataSettings& data, const SourceState& source, const IdentityState& identity)
+        : data_(data)
+        , source_(source)
+        , identity_(identity) {}
 
     /// Whether the report has a dictionary at all.
     bool isNamed() const;
@@ -27,7 +31,9 @@ private:
     QString whereClause() const;
     void open(const QString& where);
 
-    ReportState& state_;
+    const DataSettings& data_;
+    const SourceState& source_;
+    const IdentityState& identity_;
     ado::RecordsetPtr recordset_;
 };
 

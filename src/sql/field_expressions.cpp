@@ -16,16 +16,15 @@ QVariant read(ado::Recordset& row, const char16_t* field) {
 } // namespace
 
 QString FieldExpressions::makefldSql(const QString& FieldName, QString& Tables, bool WithAlias) {
-    const ReportState& state = inputs_.state;
-    if (isBlank(state.clmns))
+    if (isBlank(inputs_.data.clmns))
         return {};
     QString item;
     try {
         ado::Recordset row;
         // The key is not escaped, as wanted: the statement is the host's to see as it is.
-        row.Open(QStringLiteral("Select * From ") + state.clmns + QStringLiteral(" Where DtFld = '") +
+        row.Open(QStringLiteral("Select * From ") + inputs_.data.clmns + QStringLiteral(" Where DtFld = '") +
                      upper(FieldName) + u'\'',
-                 state.Cn, ado::adOpenDynamic, ado::adLockBatchOptimistic, ado::adCmdText);
+                 inputs_.source.Cn, ado::adOpenDynamic, ado::adLockBatchOptimistic, ado::adCmdText);
         if (row.Eof())
             return {};
         item = itemOf(row);
@@ -45,7 +44,7 @@ QString FieldExpressions::itemOf(ado::Recordset& row) const {
     const QString field = textOrEmpty(read(row, u"SOURCEFIELDNAME"));
     if (isBlank(field))
         return textOf(read(row, u"Expr"));
-    if (inputs_.state.SourceType != ZKP_Table_QUERY)
+    if (inputs_.source.SourceType != ZKP_Table_QUERY)
         return u'[' + field + u']';
     const QString kind = upper(inputs_.sourceText().left(3));
     if (kind == QStringLiteral("QRY") || kind == QStringLiteral("VI_"))
@@ -57,19 +56,18 @@ QString FieldExpressions::itemOf(ado::Recordset& row) const {
 /// Asks for the source's columns. Whether the field is among them changes nothing, as wanted; only a
 /// failure counts, so that one answer does for all fields of a load. The catalogue's name is a fixed one.
 bool FieldExpressions::canReadSourceColumns(ado::Recordset& row) {
-    const ReportState& state = inputs_.state;
     try {
         const QString source = inputs_.sourceText();
-        if (state.SourceType != ZKP_Table_QUERY || isBlank(source))
+        if (inputs_.source.SourceType != ZKP_Table_QUERY || isBlank(source))
             return true;
         if (nameKey(textOrEmpty(read(row, u"SOURCEFIELDNAME"))).isEmpty())
             return true;
-        if (readSource_ && readSource_->text == source && readSource_->connection.lock() == state.Cn)
+        if (readSource_ && readSource_->text == source && readSource_->connection.lock() == inputs_.source.Cn)
             return true;
-        const ado::RecordsetPtr schema = state.Cn->OpenSchema(
+        const ado::RecordsetPtr schema = inputs_.source.Cn->OpenSchema(
             ado::adSchemaColumns, {QStringLiteral("OrtolFunds"), QStringLiteral("dbo"), source});
         schema->Close();
-        readSource_ = {state.Cn, source};
+        readSource_ = {inputs_.source.Cn, source};
         return true;
     } catch (const std::exception&) {
         return false;

@@ -35,8 +35,8 @@ bool replaceKey(QString& filter, const QString& key, const QString& physical) {
     return true;
 }
 
-FilterKeys::FilterKeys(const ReportState& state) {
-    row_.Open(state.clmns, state.Cn, -1, -1, ado::adCmdTable);
+FilterKeys::FilterKeys(const DataSettings& data, const SourceState& source) {
+    row_.Open(data.clmns, source.Cn, -1, -1, ado::adCmdTable);
 }
 
 bool FilterKeys::next() {

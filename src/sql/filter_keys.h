@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/report_state.h"
+#include "core/state/data_settings.h"
+#include "core/state/source_state.h"
 
 namespace zkp {
 
@@ -12,7 +13,7 @@ bool replaceKey(QString& filter, const QString& key, const QString& physical);
 /// rows count, visible or not. Failures reach the caller.
 class FilterKeys {
 public:
-    explicit FilterKeys(const ReportState& state);
+    FilterKeys(const DataSettings& data, const SourceState& source);
 
     /// Goes to the next row, the first at the first call; false behind the last one.
     bool next();

@@ -24,9 +24,9 @@ class FilterTranslation::Text {
 public:
     /// The report's standing condition in front. An empty filter leaves a dangling " and ", as wanted, and a
     /// host's filter that holds the condition's text already does not get it again.
-    Text(const ReportState& state, bool isTyped) {
-        const QString given = nameKey(state.Filter);
-        const QString standing = nameKey(state.MasterFilter);
+    Text(const BuilderInputs& inputs, bool isTyped) {
+        const QString given = nameKey(inputs.data.Filter);
+        const QString standing = nameKey(inputs.master.MasterFilter);
         if (!standing.isEmpty() && (isTyped || !given.contains(standing)))
             hosts_ = u'(' + standing + QStringLiteral(") and ");
         if (isTyped)
@@ -50,16 +50,15 @@ private:
 };
 
 void FilterTranslation::TranslateFilter(QString& Tables) {
-    const ReportState& state = inputs_.state;
     inputs_.beginFilter();
     const bool isTyped = inputs_.isFilterTyped();
-    const QString given = nameKey(state.Filter);
+    const QString given = nameKey(inputs_.data.Filter);
     const bool letsAllPass =
         given.isEmpty() || given == QStringLiteral("TRUE") || (isTyped && given == kEverything);
-    if (isBlank(state.clmns) || (isBlank(state.MasterFilter) && letsAllPass))
+    if (isBlank(inputs_.data.clmns) || (isBlank(inputs_.master.MasterFilter) && letsAllPass))
         return;
     try {
-        Text text(state, isTyped);
+        Text text(inputs_, isTyped);
         translate(text, Tables);
         if (!text.refusal().isEmpty())
             throw Error(kErrInvalidCall, text.refusal());
@@ -73,10 +72,10 @@ void FilterTranslation::TranslateFilter(QString& Tables) {
 }
 
 void FilterTranslation::translate(Text& text, QString& Tables) {
-    const QString master = nameKey(inputs_.state.MasterTable);
+    const QString master = nameKey(inputs_.master.MasterTable);
     QString capitals; // of the filter, while `isCurrent`; made only for a row that asks
     bool isCurrent = false;
-    for (FilterKeys keys(inputs_.state); keys.next();) {
+    for (FilterKeys keys(inputs_.data, inputs_.source); keys.next();) {
         if (keys.hasPhysical() && text.replaceKey(keys.key(), keys.physical()))
             isCurrent = false;
         const std::optional<QString>& table = keys.table();

@@ -25,11 +25,10 @@ bool wants(const QString& wanted, const char* prefix, const QString& key) {
 } // namespace
 
 QString GroupedStatement::GroupedSQL() {
-    const ReportState& state = inputs_.state;
-    if (isBlank(state.Groupby))
+    if (isBlank(inputs_.grouping.Groupby))
         return {};
     inputs_.beginFilter();
-    QString select = state.Groupby + QStringLiteral(", Count(*) As Cnt");
+    QString select = inputs_.grouping.Groupby + QStringLiteral(", Count(*) As Cnt");
     const QString order = orderText();
     const QString wanted = wantedColumns();
 
@@ -39,31 +38,32 @@ QString GroupedStatement::GroupedSQL() {
     if (wanted.contains(QStringLiteral("[POS_CNT]")))
         select += u',' + countPercentage();
     for (; !row.Eof(); row.MoveNext()) {
-        if (state.LossRatio && isLossRatioKey(textOf(row.Fields().Item(u"dtfld").Value())))
+        if (inputs_.data.LossRatio && isLossRatioKey(textOf(row.Fields().Item(u"dtfld").Value())))
             continue;
         addAggregates(select, wanted, row);
     }
-    if (state.LossRatio)
+    if (inputs_.data.LossRatio)
         select += kLossRatioColumns;
 
     hierarchy_.restrictFilter();
     const QString source = inputs_.sourceText();
     const QString from =
-        state.SourceType == ZKP_Table_QUERY ? source : u'(' + source + QStringLiteral(") AA");
+        inputs_.source.SourceType == ZKP_Table_QUERY ? source : u'(' + source + QStringLiteral(") AA");
     return QStringLiteral("SELECT DISTINCT ") + select + QStringLiteral(" FROM ") + from +
-           QStringLiteral(" Where ") + state.Filter + QStringLiteral(" Group By ") + state.Groupby + order;
+           QStringLiteral(" Where ") + inputs_.data.Filter + QStringLiteral(" Group By ") +
+           inputs_.grouping.Groupby + order;
 }
 
 /// The last of several factors isn't sorted on, as wanted.
 QString GroupedStatement::orderText() const {
-    const ReportState& state = inputs_.state;
     const QString by = QStringLiteral(" order by ");
-    const bool sorted = !isBlank(state.OrderBy);
-    const QString sort = ReplaceStringIntoAString(state.OrderBy, state.OrderByPhysical, state.OrderByAlias);
-    const qsizetype lastComma = state.Groupby.lastIndexOf(u',');
+    const bool sorted = !isBlank(inputs_.data.OrderBy);
+    const QString sort = ReplaceStringIntoAString(inputs_.data.OrderBy, inputs_.sorting.OrderByPhysical,
+                                                  inputs_.sorting.OrderByAlias);
+    const qsizetype lastComma = inputs_.grouping.Groupby.lastIndexOf(u',');
     if (lastComma >= 0)
-        return by + state.Groupby.left(lastComma) + (sorted ? u',' + sort : QString());
-    return by + (sorted ? sort : state.Groupby);
+        return by + inputs_.grouping.Groupby.left(lastComma) + (sorted ? u',' + sort : QString());
+    return by + (sorted ? sort : inputs_.grouping.Groupby);
 }
 
 /// The bracketed names of the grid's aggregate columns. A blank field counts among them, as wanted.
@@ -73,7 +73,7 @@ QString GroupedStatement::wantedColumns() {
         const QString field = inputs_.dataField(i);
         if (!QStringLiteral("POS_AVG_MIN_MAX_").contains(nameKey(field.left(4))) && !inputs_.isTotalled(i))
             continue;
-        inputs_.state.HasPercentColumns = true;
+        inputs_.wantPercentColumns(true);
         appendItem(wanted, u'[' + nameKey(field) + u']');
     }
     return wanted;
@@ -82,8 +82,8 @@ QString GroupedStatement::wantedColumns() {
 /// The parent group: all factors but the innermost, each equal to the outer row's.
 QString GroupedStatement::correlation(const QString& alias) const {
     QString conditions;
-    for (int j = 0; j <= inputs_.state.GroupFactorCount - 2; ++j) {
-        if (j >= inputs_.state.GroupFactors.size())
+    for (int j = 0; j <= inputs_.grouping.GroupFactorCount - 2; ++j) {
+        if (j >= inputs_.grouping.GroupFactors.size())
             throw Error(kErrSubscript, QStringLiteral("Subscript out of range"),
                         QStringLiteral("GroupedSQL"));
         const QString& factor = inputs_.factor(j);
@@ -97,8 +97,8 @@ QString GroupedStatement::correlation(const QString& alias) const {
 
 QString GroupedStatement::parentFilter(const QString& alias) const {
     const QString conditions = correlation(alias);
-    return isBlank(conditions) ? inputs_.state.Filter
-                               : inputs_.state.Filter + QStringLiteral(" and ") + conditions;
+    return isBlank(conditions) ? inputs_.data.Filter
+                               : inputs_.data.Filter + QStringLiteral(" and ") + conditions;
 }
 
 QString GroupedStatement::countPercentage() const {

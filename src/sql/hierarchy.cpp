@@ -42,11 +42,10 @@ QString fieldText(ado::Recordset& row, int index) {
 } // namespace
 
 void Hierarchy::LoadIerarxia() {
-    ReportState& state = inputs_.state;
     ado::Recordset row;
-    row.Open(QStringLiteral(" exec Sec_GetUserIerarxiaID ") + quoted(state.ProductID), state.Cn);
-    state.Ierarxia = fieldText(row, 0);
-    state.IerID = fieldText(row, 1);
+    row.Open(QStringLiteral(" exec Sec_GetUserIerarxiaID ") + quoted(identity_.ProductID), inputs_.source.Cn);
+    identity_.Ierarxia = fieldText(row, 0);
+    identity_.IerID = fieldText(row, 1);
     row.Close();
 }
 
@@ -56,48 +55,47 @@ QString Hierarchy::normalized(const QString& filter) {
 }
 
 void Hierarchy::restrictFilter() {
-    const ReportState& state = inputs_.state;
-    QString filter = normalized(state.Filter);
-    if (!state.ProductID.isEmpty()) {
-        const QString column = secondColumn(state.Ierarxia);
-        if (isOwnRowsOnly(state.Ierarxia)) {
-            filter += QStringLiteral(" and ProductIdentity = ") + quoted(trimmed(state.ProductID).toString());
+    QString filter = normalized(inputs_.data.Filter);
+    if (!identity_.ProductID.isEmpty()) {
+        const QString column = secondColumn(identity_.Ierarxia);
+        if (isOwnRowsOnly(identity_.Ierarxia)) {
+            filter +=
+                QStringLiteral(" and ProductIdentity = ") + quoted(trimmed(identity_.ProductID).toString());
         } else if (!column.isEmpty()) {
             // Two blanks at the front for level 1 alone, as wanted.
-            filter += (state.Ierarxia == QStringLiteral("1") ? QStringLiteral("  and (")
-                                                             : QStringLiteral(" and (")) +
-                      QStringLiteral("ProductIdentity = ") + quoted(state.ProductID) +
-                      QStringLiteral(" or ") + column + QStringLiteral(" = ") + quoted(state.IerID) + u')';
+            filter += (identity_.Ierarxia == QStringLiteral("1") ? QStringLiteral("  and (")
+                                                                 : QStringLiteral(" and (")) +
+                      QStringLiteral("ProductIdentity = ") + quoted(identity_.ProductID) +
+                      QStringLiteral(" or ") + column + QStringLiteral(" = ") + quoted(identity_.IerID) +
+                      u')';
         }
     }
-    if (filter != state.Filter)
+    if (filter != inputs_.data.Filter)
         inputs_.setFilter(filter);
 }
 
 QString Hierarchy::restricted(const QString& filter) const {
-    const ReportState& state = inputs_.state;
-    if (state.ProductID.isEmpty())
+    if (identity_.ProductID.isEmpty())
         return filter;
-    if (isOwnRowsOnly(state.Ierarxia))
-        return filter + QStringLiteral("  and (ProductIdentity) = ") + quoted(state.ProductID);
-    QString column = secondColumn(state.Ierarxia);
+    if (isOwnRowsOnly(identity_.Ierarxia))
+        return filter + QStringLiteral("  and (ProductIdentity) = ") + quoted(identity_.ProductID);
+    QString column = secondColumn(identity_.Ierarxia);
     if (column.isEmpty())
         return filter;
-    if (state.Ierarxia == QStringLiteral("2"))
+    if (identity_.Ierarxia == QStringLiteral("2"))
         column = QStringLiteral("assistantIdentity"); // a small a here, as wanted
-    return filter + QStringLiteral(" and ((ProductIdentity) = ") + quoted(state.ProductID) +
-           QStringLiteral(" or (") + column + QStringLiteral(") = ") + quoted(state.IerID) + u')';
+    return filter + QStringLiteral(" and ((ProductIdentity) = ") + quoted(identity_.ProductID) +
+           QStringLiteral(" or (") + column + QStringLiteral(") = ") + quoted(identity_.IerID) + u')';
 }
 
 QString Hierarchy::recordsetFilter() const {
-    const ReportState& state = inputs_.state;
-    if (isOwnRowsOnly(state.Ierarxia))
-        return QStringLiteral(" ProductIdentity = ") + quoted(state.ProductID);
-    const QString column = secondColumn(state.Ierarxia);
+    if (isOwnRowsOnly(identity_.Ierarxia))
+        return QStringLiteral(" ProductIdentity = ") + quoted(identity_.ProductID);
+    const QString column = secondColumn(identity_.Ierarxia);
     if (column.isEmpty())
         return {};
-    return QStringLiteral(" (ProductIdentity = ") + quoted(state.ProductID) + QStringLiteral(" or ") +
-           column + QStringLiteral(" = ") + quoted(state.IerID) + u')';
+    return QStringLiteral(" (ProductIdentity = ") + quoted(identity_.ProductID) + QStringLiteral(" or ") +
+           column + QStringLiteral(" = ") + quoted(identity_.IerID) + u')';
 }
 
 } // namespace zkp

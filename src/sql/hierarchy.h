@@ -8,8 +8,9 @@ namespace zkp {
 /// The three forms differ in blanks and brackets, and the differences are wanted.
 class Hierarchy {
 public:
-    explicit Hierarchy(BuilderInputs& inputs)
-        : inputs_(inputs) {}
+    Hierarchy(BuilderInputs& inputs, IdentityState& identity)
+        : inputs_(inputs)
+        , identity_(identity) {}
 
     /// Asks the database for the level (`Ierarxia`) and the identity at that level (`IerID`) of
     /// `ProductID`. Failures reach the caller.
@@ -28,6 +29,7 @@ public:
 
 private:
     BuilderInputs& inputs_;
+    IdentityState& identity_;
 };
 
 } // namespace zkp

@@ -8,12 +8,11 @@
 namespace zkp {
 
 QString Joins::MakeFromAndJoins(QString& Tables) {
-    const ReportState& state = inputs_.state;
     QString from;
     try {
-        if (!isBlank(state.FilterTables))
-            Tables += QStringLiteral(", ") + state.FilterTables;
-        const QString master = nameKey(state.MasterTable);
+        if (!isBlank(inputs_.data.FilterTables))
+            Tables += QStringLiteral(", ") + inputs_.data.FilterTables;
+        const QString master = nameKey(inputs_.master.MasterTable);
         const QStringList parts = Tables.split(u',');
         from = u' ' + master + u' ';
         // What stands before the first comma is no table.
@@ -33,18 +32,17 @@ QString Joins::MakeFromAndJoins(QString& Tables) {
 }
 
 QString Joins::FindJoinON(const QString& Table) {
-    const ReportState& state = inputs_.state;
-    if (isBlank(state.clmns))
+    if (isBlank(inputs_.data.clmns))
         return {};
     try {
         ado::Recordset row;
-        row.Open(QStringLiteral("Select TOP 1 * From ") + state.clmns +
+        row.Open(QStringLiteral("Select TOP 1 * From ") + inputs_.data.clmns +
                      QStringLiteral(" Where SourceTableName = '") + upper(Table) + u'\'',
-                 state.Cn, ado::adOpenStatic);
+                 inputs_.source.Cn, ado::adOpenStatic);
         const QString masterKey = nameKey(textOrEmpty(row.Fields().Item(u"KeyMaster").Value()));
         // The foreign key alone keeps its case, as wanted.
         const QString foreignKey = trimmed(textOrEmpty(row.Fields().Item(u"foreignkey").Value())).toString();
-        return u'[' + nameKey(state.MasterTable) + QStringLiteral("].[") + masterKey +
+        return u'[' + nameKey(inputs_.master.MasterTable) + QStringLiteral("].[") + masterKey +
                QStringLiteral("] = [") + nameKey(Table) + QStringLiteral("].[") + foreignKey + u']';
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());

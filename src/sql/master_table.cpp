@@ -8,22 +8,21 @@
 namespace zkp {
 
 void MasterTableLookup::FindMaster() {
-    ReportState& state = inputs_.state;
-    state.MasterTable.clear();
+    master_.MasterTable.clear();
     try {
-        if (state.SourceType != ZKP_Table_QUERY || isBlank(inputs_.sourceText()))
+        if (inputs_.source.SourceType != ZKP_Table_QUERY || isBlank(inputs_.sourceText()))
             return;
         ado::Recordset row;
         row.Open(QStringLiteral("Select * From Reports Where RecSource = '") + upper(inputs_.sourceText()) +
                      u'\'',
-                 state.Cn, ado::adOpenStatic);
+                 inputs_.source.Cn, ado::adOpenStatic);
         if (row.Eof()) {
-            state.RKeyname.clear();
+            master_.RKeyname.clear();
             return;
         }
-        state.MasterTable = textOrEmpty(row.Fields().Item(u"MasterTable").Value());
-        state.RKeyname = textOrEmpty(row.Fields().Item(u"RKeyname").Value());
-        state.MasterFilter = textOrEmpty(row.Fields().Item(u"MasterFilter").Value());
+        master_.MasterTable = textOrEmpty(row.Fields().Item(u"MasterTable").Value());
+        master_.RKeyname = textOrEmpty(row.Fields().Item(u"RKeyname").Value());
+        master_.MasterFilter = textOrEmpty(row.Fields().Item(u"MasterFilter").Value());
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
         boxes_.msgBox(texts::masterTableFailed(), kMsgBoxCritical);

@@ -8,8 +8,9 @@ namespace zkp {
 /// The report's master table, its key and its standing condition, as table `Reports` has them.
 class MasterTableLookup {
 public:
-    MasterTableLookup(BuilderInputs& inputs, MessageBoxes& boxes)
+    MasterTableLookup(BuilderInputs& inputs, MasterTableState& master, MessageBoxes& boxes)
         : inputs_(inputs)
+        , master_(master)
         , boxes_(boxes) {}
 
     /// Sets `MasterTable`, `RKeyname` and `MasterFilter`. A source without a row there has no master
@@ -18,6 +19,7 @@ public:
 
 private:
     BuilderInputs& inputs_;
+    MasterTableState& master_;
     MessageBoxes& boxes_;
 };
 

@@ -20,7 +20,7 @@ QString NormalStatement::NormalSQL() {
     QString statement;
     try {
         inputs_.beginFilter();
-        if (isBlank(inputs_.state.Filter))
+        if (isBlank(inputs_.data.Filter))
             inputs_.setFilter(QStringLiteral(" true "));
         const QString fields = selectList();
         const QString order = orderList();
@@ -30,7 +30,7 @@ QString NormalStatement::NormalSQL() {
             source = QStringLiteral("QRYProductNik");
             select = QStringLiteral("SELECT DISTINCT ");
         }
-        const QString filter = hierarchy_.restricted(Hierarchy::normalized(inputs_.state.Filter));
+        const QString filter = hierarchy_.restricted(Hierarchy::normalized(inputs_.data.Filter));
         statement = select + fields + QStringLiteral(" From ") + bracketed(source) +
                     QStringLiteral(" Where ") + filter;
         if (!isBlank(order))
@@ -44,7 +44,7 @@ QString NormalStatement::NormalSQL() {
 
 /// The group factors and each column's key once; the comparison is exact.
 QString NormalStatement::selectList() const {
-    if (inputs_.state.Fund)
+    if (inputs_.data.Fund)
         return QStringLiteral(" * ");
     QString list;
     for (int i = 0; i < inputs_.factorCount(); ++i)
@@ -61,19 +61,19 @@ QString NormalStatement::selectList() const {
 /// Without an `OrderBy` the group factors are dropped and the first four columns sort, as wanted: a
 /// source with fewer columns fails at the database.
 QString NormalStatement::orderList() const {
-    if (isBlank(inputs_.state.OrderBy))
+    if (isBlank(inputs_.data.OrderBy))
         return QStringLiteral(" 1,2,3,4 ");
     QString order;
     for (int i = 0; i < inputs_.factorCount(); ++i)
         appendItem(order, bracketed(inputs_.factor(i)));
-    appendItem(order, inputs_.state.OrderBy);
+    appendItem(order, inputs_.data.OrderBy);
     return order;
 }
 
 bool NormalStatement::isProductOfCode151() const {
     ado::Recordset setting;
     setting.Open(QStringLiteral("SELECT GenValue from QRN_MAIN where GenKEY = 2 and GenSubKey=18"),
-                 inputs_.state.Cn, ado::adOpenStatic);
+                 inputs_.source.Cn, ado::adOpenStatic);
     return !(setting.Bof() && setting.Eof()) && toInt16(setting.Fields().Item(0).Value()) == 151;
 }
 

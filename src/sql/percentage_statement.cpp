@@ -18,11 +18,10 @@ QString PercentageStatement::RunTimePosSql() {
 }
 
 QString PercentageStatement::build() {
-    const ReportState& state = inputs_.state;
-    if (isBlank(state.MasterTable))
+    if (isBlank(inputs_.master.MasterTable))
         master_.FindMaster();
-    QString tables = QStringLiteral(", ") + state.MasterTable + u' ';
-    if (isBlank(state.Groupby))
+    QString tables = QStringLiteral(", ") + inputs_.master.MasterTable + u' ';
+    if (isBlank(inputs_.grouping.Groupby))
         return {};
 
     QString groups;
@@ -33,7 +32,7 @@ QString PercentageStatement::build() {
     }
     // Never cleared, so that each percentage column adds all of it once more; wanted.
     QString percentTables;
-    for (int i = state.GroupFactorCount; i < inputs_.cols(); ++i) {
+    for (int i = inputs_.grouping.GroupFactorCount; i < inputs_.cols(); ++i) {
         const QString column = nameKey(inputs_.dataField(i));
         if (!column.startsWith(QStringLiteral("POS_")))
             continue;
@@ -49,16 +48,16 @@ QString PercentageStatement::build() {
     const QString from = joins_.MakeFromAndJoins(tables);
     hierarchy_.restrictFilter();
     QString statement = QStringLiteral("SELECT DISTINCT ") + select + QStringLiteral(" FROM ") + from +
-                        QStringLiteral(" Where ") + state.Filter;
+                        QStringLiteral(" Where ") + inputs_.data.Filter;
     if (!isBlank(groups))
         statement += QStringLiteral(" Group By ") + groups;
     return statement;
 }
 
 QString PercentageStatement::countKey() const {
-    const ReportState& state = inputs_.state;
-    return isBlank(state.RKeyname) ? QStringLiteral("*")
-                                   : trimmed(QString(state.MasterTable + u'.' + state.RKeyname)).toString();
+    return isBlank(inputs_.master.RKeyname)
+               ? QStringLiteral("*")
+               : trimmed(QString(inputs_.master.MasterTable + u'.' + inputs_.master.RKeyname)).toString();
 }
 
 } // namespace zkp

@@ -8,7 +8,7 @@
 namespace zkp {
 
 QString RunTimeStatement::tablesAtStart() const {
-    return QStringLiteral(" , ") + inputs_.state.MasterTable + u' ';
+    return QStringLiteral(" , ") + inputs_.master.MasterTable + u' ';
 }
 
 QString RunTimeStatement::RunTimeSQL() {
@@ -21,14 +21,14 @@ QString RunTimeStatement::RunTimeSQL() {
         const QString from = joins_.MakeFromAndJoins(tables);
         hierarchy_.restrictFilter(); // behind the joins, so that it adds none
         statement = QStringLiteral("SELECT ") + fields + QStringLiteral(" FROM ") + from +
-                    QStringLiteral(" Where ") + inputs_.state.Filter;
+                    QStringLiteral(" Where ") + inputs_.data.Filter;
         if (!isBlank(order))
             statement += QStringLiteral(" Order By ") + order;
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
         boxes_.msgBox(texts::runTimeFailed(), kMsgBoxCritical);
     }
-    inputs_.state.SQLRun = statement;
+    inputs_.keepStatement(statement);
     return statement;
 }
 
@@ -39,7 +39,7 @@ QString RunTimeStatement::RunTimeSQLCounter() {
         const QString from = joins_.MakeFromAndJoins(tables);
         hierarchy_.restrictFilter();
         return QStringLiteral("SELECT Count(*) As Cnt FROM ") + from + QStringLiteral(" Where ") +
-               inputs_.state.Filter;
+               inputs_.data.Filter;
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
         boxes_.msgBox(texts::counterFailed(), kMsgBoxCritical);
@@ -75,8 +75,8 @@ QString RunTimeStatement::orderList(QString& Tables) {
         else
             order += u',' + item;
     }
-    if (!isBlank(inputs_.state.OrderBy))
-        appendItem(order, inputs_.state.OrderBy);
+    if (!isBlank(inputs_.data.OrderBy))
+        appendItem(order, inputs_.data.OrderBy);
     return order;
 }
 

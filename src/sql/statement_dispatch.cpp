@@ -17,7 +17,7 @@ constexpr int kTotalsTime = 7;
 } // namespace
 
 bool StatementDispatch::composesAtRunTime() const {
-    return inputs_.state.SqlOnRunTime && !isBlank(inputs_.state.MasterTable);
+    return inputs_.data.SqlOnRunTime && !isBlank(inputs_.master.MasterTable);
 }
 
 QString StatementDispatch::DetailStatement() {
@@ -25,27 +25,24 @@ QString StatementDispatch::DetailStatement() {
 }
 
 void StatementDispatch::OpenTotalRecordset() {
-    ReportState& state = inputs_.state;
     groups_.recallFactors();
-    if (!isBlank(state.Groupby))
+    if (!isBlank(inputs_.grouping.Groupby))
         groups_.MakeFixedForGroup();
     const QString statement = composesAtRunTime() ? statistics_.RunTimeStatsSQL() : grouped_.GroupedSQL();
 
-    if (!state.ReportRecordset)
-        state.ReportRecordset = std::make_shared<ado::Recordset>();
-    const ado::RecordsetPtr records = state.ReportRecordset;
+    const ado::RecordsetPtr records = source_.ready();
     if (records->State() == ado::adStateOpen)
         records->Close();
-    if (!state.Cn)
+    if (!inputs_.source.Cn)
         throw Error(kErrObjectNotSet, QStringLiteral("Object variable not set"), QStringLiteral("Cn"));
-    state.Cn->setCommandTimeout(seconds(kTotalsTime));
-    inputs_.notes.asking(statement, state.Cn,
-                         [&] { records->Open(statement, state.Cn, ado::adOpenStatic); });
+    inputs_.source.Cn->setCommandTimeout(seconds(kTotalsTime));
+    inputs_.notes.asking(statement, inputs_.source.Cn,
+                         [&] { records->Open(statement, inputs_.source.Cn, ado::adOpenStatic); });
     if (composesAtRunTime() && !statement.contains(u"order by", Qt::CaseInsensitive))
-        keepGroupsTogether(*records, state.GroupFactors);
-    if (state.HasPercentColumns)
-        state.TotalsRecordset = records->Clone();
-    state.Cn->setCommandTimeout(seconds(kNormalTime));
+        keepGroupsTogether(*records, inputs_.grouping.GroupFactors);
+    if (inputs_.data.HasPercentColumns)
+        source_.keepForPercentages(records->Clone());
+    inputs_.source.Cn->setCommandTimeout(seconds(kNormalTime));
 }
 
 int StatementDispatch::seconds(int subKey) {

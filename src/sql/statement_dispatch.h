@@ -12,10 +12,11 @@ namespace zkp {
 /// Which statement a load runs, and the opening of a totals report.
 class StatementDispatch {
 public:
-    StatementDispatch(BuilderInputs& inputs, GroupColumns& groups, SettingsStore& settings,
-                      NormalStatement& normal, RunTimeStatement& runTime, GroupedStatement& grouped,
-                      StatisticsStatement& statistics)
+    StatementDispatch(BuilderInputs& inputs, RecordSource& source, GroupColumns& groups,
+                      SettingsStore& settings, NormalStatement& normal, RunTimeStatement& runTime,
+                      GroupedStatement& grouped, StatisticsStatement& statistics)
         : inputs_(inputs)
+        , source_(source)
         , groups_(groups)
         , settings_(settings)
         , normal_(normal)
@@ -35,6 +36,7 @@ private:
     int seconds(int subKey);
 
     BuilderInputs& inputs_;
+    RecordSource& source_;
     GroupColumns& groups_;
     SettingsStore& settings_;
     NormalStatement& normal_;

@@ -44,37 +44,36 @@ bool isWanted(const QString& wanted, const Aggregate& aggregate, const QString& 
 QString StatisticsStatement::RunTimeStatsSQL() {
     QString statement;
     try {
-        QString tables = QStringLiteral(" , ") + inputs_.state.MasterTable + u' ';
+        QString tables = QStringLiteral(" , ") + inputs_.master.MasterTable + u' ';
         translation_.TranslateFilter(tables);
-        if (isBlank(inputs_.state.Groupby))
+        if (isBlank(inputs_.grouping.Groupby))
             return {}; // `SQLRun` keeps the statement before
         statement = build(tables);
     } catch (const std::exception&) {
         inputs_.notes.failed(errorInFlight());
         boxes_.msgBox(texts::statisticsFailed(), kMsgBoxCritical);
     }
-    inputs_.state.SQLRun = statement;
+    inputs_.keepStatement(statement);
     return statement;
 }
 
 QString StatisticsStatement::build(QString& tables) {
-    ReportState& state = inputs_.state;
     QString select = groupItems(tables) + QStringLiteral(", Count(*) as cnt ");
     const QString wanted = wantedColumns();
     select += aggregates(wanted, tables);
-    if (state.LossRatio)
+    if (inputs_.data.LossRatio)
         select += kLossRatioColumns;
     inputs_.setGroupby(groupList(tables));
     // With its alias, as wanted: a single key becomes a text that the database refuses.
-    if (!isBlank(state.OrderBy))
-        inputs_.setOrderBy(fields_.makefldSql(state.OrderBy, tables));
+    if (!isBlank(inputs_.data.OrderBy))
+        inputs_.setOrderBy(fields_.makefldSql(inputs_.data.OrderBy, tables));
     const QString from = joins_.MakeFromAndJoins(tables);
     hierarchy_.restrictFilter();
     QString statement = QStringLiteral("SELECT DISTINCT ") + select + QStringLiteral(" FROM ") + from +
-                        QStringLiteral(" Where ") + state.Filter + QStringLiteral(" Group By ") +
-                        state.Groupby;
-    if (!isBlank(state.OrderBy))
-        statement += QStringLiteral(" Order by ") + state.OrderBy;
+                        QStringLiteral(" Where ") + inputs_.data.Filter + QStringLiteral(" Group By ") +
+                        inputs_.grouping.Groupby;
+    if (!isBlank(inputs_.data.OrderBy))
+        statement += QStringLiteral(" Order by ") + inputs_.data.OrderBy;
     return statement;
 }
 
@@ -88,11 +87,11 @@ QString StatisticsStatement::groupItems(QString& tables) {
 /// The keys of the grid's aggregate columns. The first keeps its case, as wanted.
 QString StatisticsStatement::wantedColumns() {
     QString wanted;
-    inputs_.state.HasPercentColumns = false;
+    inputs_.wantPercentColumns(false);
     for (int i = 0; i < inputs_.cols(); ++i) {
         const QString field = inputs_.dataField(i);
         if (upper(field.left(4)) == QStringLiteral("POS_"))
-            inputs_.state.HasPercentColumns = true;
+            inputs_.wantPercentColumns(true);
         if (!QStringLiteral("SUM_AVG_MIN_MAX_").contains(nameKey(field.left(4))) && !inputs_.isTotalled(i))
             continue;
         if (nameKey(wanted).contains(nameKey(field)))
@@ -110,7 +109,7 @@ QString StatisticsStatement::aggregates(const QString& wanted, QString& tables) 
         row.MoveFirst();
     for (; !row.Eof(); row.MoveNext()) {
         const QString stored = textOf(row.Fields().Item(u"dtfld").Value());
-        if (inputs_.state.LossRatio && isLossRatioKey(stored))
+        if (inputs_.data.LossRatio && isLossRatioKey(stored))
             continue;
         bool any = false;
         for (const Aggregate& aggregate : kAggregates)

@@ -7,7 +7,7 @@
 namespace zkp {
 
 QString UserFilter::set(const QString& text) {
-    const GuardedFilter filter = guardedFilter(text, inputs_.state.AllowSubselects);
+    const GuardedFilter filter = guardedFilter(text, inputs_.data.AllowSubselects);
     if (!filter.refusal.isEmpty())
         return filter.refusal;
     QString refusal = refusalOfKeys(filter.condition, filter.offset);
@@ -18,12 +18,12 @@ QString UserFilter::set(const QString& text) {
 
 /// A dictionary that can't be read yet has the load look again.
 QString UserFilter::refusalOfKeys(const QString& condition, qsizetype offset) const {
-    const ReportState& state = inputs_.state;
-    if (!state.SqlOnRunTime || isBlank(state.clmns) || !state.Cn || state.Cn->State() != ado::adStateOpen)
+    if (!inputs_.data.SqlOnRunTime || isBlank(inputs_.data.clmns) || !inputs_.source.Cn ||
+        inputs_.source.Cn->State() != ado::adStateOpen)
         return {};
     WatchedCondition watched(condition);
     try {
-        for (FilterKeys keys(state); keys.next();)
+        for (FilterKeys keys(inputs_.data, inputs_.source); keys.next();)
             if (keys.hasPhysical())
                 watched.replaceKey(keys.key(), keys.physical());
     } catch (const std::exception&) {

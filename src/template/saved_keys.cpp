@@ -18,13 +18,12 @@ const QString same = u"="_s;
 const SavedDefault ambientFont{BagValue(BagFont{u"Arial"_s, 8})};
 
 BagValue groupbyOf(const SavedControl& control) {
-    return control.state.Groupby;
+    return control.state.grouping.Groupby;
 }
 
 /// Given from outside, as by the property: a load makes columns of it when none is flagged.
 void setGroupby(const SavedControl& control, const BagValue& value, const QString& key) {
-    control.state.Groupby = valueAs<QString>(value, key);
-    control.state.givenGroupby = control.state.Groupby;
+    control.state.grouping.give(valueAs<QString>(value, key));
 }
 
 /// Nothing fills it; it is stored all the same, as wanted.

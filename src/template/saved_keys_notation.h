@@ -31,5 +31,5 @@ inline SavedDefault text(const char16_t* value) {
 
 #define ZKP_GRID(Name) saved::surface<&GridSurface::Name, &GridSurface::set##Name>()
 #define ZKP_LOOK(Name) saved::look<&GridSurface::Look::Name>()
-#define ZKP_MEMBER(Name) saved::member<&ReportState::Name>()
+#define ZKP_MEMBER(Name) saved::member<&saved::places::Name>()
 #define ZKP_COLUMN(Name) saved::column<&Column::Name>()

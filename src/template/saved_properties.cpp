@@ -168,8 +168,8 @@ void SavedProperties::readRest(const PropertyBag& bag) {
     passEach(bag, saved::kReadRows);
     readFonts(bag);
     passEach(bag, saved::kReadStyles);
-    children_.lbltemplate.Caption = state_.PrintCaption;
-    children_.lblfilter.Caption = state_.PrintFilter;
+    children_.lbltemplate.Caption = state_.print.PrintCaption;
+    children_.lblfilter.Caption = state_.print.PrintFilter;
     passEach(bag, saved::kReadBehaviour);
     passEach(bag, saved::kReadLast);
 }

@@ -11,7 +11,8 @@
 
 namespace zkp {
 
-/// What saved properties are read from and written to.
+/// What saved properties are read from and written to: the whole state, since a saved shape is written as a
+/// host writes properties.
 struct SavedControl {
     ReportState& state;
     GridSurface& surface;
@@ -55,13 +56,28 @@ T typeOf(T Owner::*);
 template <class Owner, class T>
 T typeOf(T (Owner::*)() const);
 
-/// A member of the control.
-template <auto Member>
+/// Where a stored property stands, under its name.
+namespace places {
+#define ZKP_PLACE(Type, Name, Key, Subject, ...)                                                             \
+    inline Type& Name(ReportState& state) {                                                                  \
+        return state.Subject.Name;                                                                           \
+    }
+#define ZKP_SILENT_PLACE(Type, Name, Subject, ...) ZKP_PLACE(Type, Name, "", Subject)
+ZKP_STORED_ROWS(ZKP_PLACE, ZKP_PLACE, ZKP_SILENT_PLACE, ZKP_SILENT_PLACE)
+#undef ZKP_PLACE
+#undef ZKP_SILENT_PLACE
+} // namespace places
+
+template <class T>
+T storedAt(T& (*)(ReportState&));
+
+/// A stored property of the control.
+template <auto Place>
 constexpr SavedTarget member() {
-    using T = decltype(typeOf(Member));
-    return {[](const SavedControl& control) { return held<T>(control.state.*Member); },
+    using T = decltype(storedAt(Place));
+    return {[](const SavedControl& control) { return held<T>(Place(control.state)); },
             [](const SavedControl& control, const BagValue& value, const QString& key) {
-                control.state.*Member = takenAs<T>(value, key);
+                Place(control.state) = takenAs<T>(value, key);
             }};
 }
 

@@ -49,10 +49,10 @@ std::vector<std::optional<clsList>> TemplateStore::FillTemplates(const QVariant&
     const QString place = folder(isForms ? u"Forms" : u"Reports");
     std::vector<std::optional<clsList>> entries;
     for (const QString& name : templateFileNames(place)) {
-        state_.FileName = name;
+        templates_.FileName = name;
         entries.emplace_back(entryOf(*bagOf(contentOf(place, name), name)));
     }
-    state_.FileName.clear();
+    templates_.FileName.clear();
     if (!entries.empty())
         entries.emplace_back();
     return entries;
@@ -62,15 +62,15 @@ void TemplateStore::SaveTemplate(const QString& mfilename) {
     PropertyBag bag;
     properties_.writeWhole(bag);
     const TemplatePlace place = placeToSave(mfilename);
-    TemplateRows(state_.Cn).store(place, bag.Contents());
+    TemplateRows(source_.state().Cn).store(place, bag.Contents());
 }
 
 void TemplateStore::opentemplate(const ado::ConnectionPtr& connection, const QVariant& mPath,
                                  const QVariant& mfilename) {
-    const QString name = mfilename.isValid() ? mfilename.toString() : state_.FileName;
+    const QString name = mfilename.isValid() ? mfilename.toString() : templates_.FileName;
     const QString path =
-        mPath.isValid() ? mPath.toString() : folder(state_.fileno < 0 ? u"Forms" : u"Reports");
-    state_.Cn = connection;
+        mPath.isValid() ? mPath.toString() : folder(templates_.fileno < 0 ? u"Forms" : u"Reports");
+    source_.connect(connection);
     const QVariant held = bytesOf({placeToOpen(name), path, name}, TemplateRows(connection));
     if (isNull(held))
         return;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/report_state.h"
+#include "core/record_source.h"
+#include "core/state/template_state.h"
 #include "host/message_boxes.h"
 #include "template/saved_properties.h"
 #include "template/template_rows.h"
@@ -26,9 +27,10 @@ struct clsList {
 class TemplateStore {
 public:
     /// `applicationFolder` tells where the folders of the older files stand.
-    TemplateStore(ReportState& state, SavedProperties& properties, MessageBoxes& boxes,
-                  std::function<QString()> applicationFolder)
-        : state_(state)
+    TemplateStore(TemplateState& templates, RecordSource& source, SavedProperties& properties,
+                  MessageBoxes& boxes, std::function<QString()> applicationFolder)
+        : templates_(templates)
+        , source_(source)
         , properties_(properties)
         , boxes_(boxes)
         , applicationFolder_(std::move(applicationFolder)) {}
@@ -52,7 +54,8 @@ private:
     QVariant migrated(const Source& source, const TemplateRows& rows);
     void apply(const QByteArray& bytes, const QString& name);
 
-    ReportState& state_;
+    TemplateState& templates_;
+    RecordSource& source_;
     SavedProperties& properties_;
     MessageBoxes& boxes_;
     std::function<QString()> applicationFolder_;

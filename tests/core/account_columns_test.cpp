@@ -1,4 +1,5 @@
 #include "core/account_columns.h"
+#include "core/report_state.h"
 
 #include "print_qt.h"
 
@@ -35,7 +36,8 @@ protected:
     ReportState state;
     ColumnList columns;
     GridSurface surface;
-    AccountColumns account{state, columns, surface, [](const QString& text) { return 10.0 * text.size(); }};
+    AccountColumns account{state.sections, state.account, columns, surface,
+                           [](const QString& text) { return 10.0 * text.size(); }};
 };
 
 } // namespace
@@ -51,23 +53,23 @@ TEST_F(AccountColumnsTest, FindsTheLastColumnOfEachKind) {
     columns.Item(2).Debit = true;
     columns.Item(3).Credit = true;
     EXPECT_TRUE(account.FindAccountColumns());
-    EXPECT_EQ(state.DebitColumn, 1);
-    EXPECT_EQ(state.CreditColumn, 2);
-    EXPECT_EQ(state.BalanceColumn, -1);
+    EXPECT_EQ(state.account.DebitColumn, 1);
+    EXPECT_EQ(state.account.CreditColumn, 2);
+    EXPECT_EQ(state.account.BalanceColumn, -1);
 }
 
 TEST_F(AccountColumnsTest, WithoutSuchColumnsAllAreAbsent) {
-    state.DebitColumn = 3;
+    state.account.DebitColumn = 3;
     EXPECT_FALSE(account.FindAccountColumns());
-    EXPECT_EQ(state.DebitColumn, -1);
+    EXPECT_EQ(state.account.DebitColumn, -1);
 }
 
 TEST_F(AccountColumnsTest, RunsTheBalanceAndSumsIntoTheLastRow) {
     columns.Item(2).Debit = columns.Item(2).Totals = true;
     columns.Item(3).Credit = columns.Item(3).Totals = true;
     columns.Item(4).Balance = true;
-    state.TotalsBackcolor = 0x00112233;
-    state.TotalsForeColor = 0x00445566;
+    state.sections.TotalsBackcolor = 0x00112233;
+    state.sections.TotalsForeColor = 0x00445566;
     fill({{u"α"_s, u"100"_s, u"30"_s, u""_s},
           {u"β"_s, u""_s, u"20"_s, u""_s},
           {u"γ"_s, u"10"_s, u""_s, u""_s}});

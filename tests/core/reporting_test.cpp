@@ -1,3 +1,4 @@
+#include "core/report_state.h"
 #include "core/reporting.h"
 
 #include "host/scripted_host.h"
@@ -16,13 +17,13 @@ class ReportingTest : public testing::Test {
 protected:
     /// A failure under which a handler has destroyed the control.
     void failAfterTheEnd() {
-        state.destroyed = true;
+        state.lifetime.destroyed = true;
         throw Error(kErrDatabase, u"too late"_s);
     }
 
     ReportState state;
     ScriptedHost host;
-    Reporting reporting{state, host};
+    Reporting reporting{state.lifetime, host};
 };
 
 } // namespace
@@ -67,6 +68,6 @@ TEST_F(ReportingTest, AStepWhoseFailureIsPassedOverShowsNothing) {
     reporting.passOver([] { throw Error(kErrDatabase, u"locked"_s); });
     EXPECT_TRUE(host.messages.empty());
     EXPECT_THROW(reporting.passOver([] { throw ControlDestroyed{}; }), ControlDestroyed);
-    EXPECT_THROW(reporting.passOver([this] { state.destroyed = true; }), ControlDestroyed)
+    EXPECT_THROW(reporting.passOver([this] { state.lifetime.destroyed = true; }), ControlDestroyed)
         << "a step that ended well, but destroyed the control";
 }

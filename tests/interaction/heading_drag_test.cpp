@@ -1,5 +1,7 @@
+#include "core/report_state.h"
 #include "grid_fixture.h"
 #include "interaction/heading_drag.h"
+#include "interaction/menu_bands.h"
 
 using namespace Qt::StringLiterals;
 using namespace zkp;
@@ -10,6 +12,7 @@ namespace {
 class HeadingDragTest : public testing::Test {
 protected:
     HeadingDragTest() {
+        buildMenuBands(children.Picture1);
         surface.setCols(5);
         properties.resize(5);
         for (int c = 0; c < 5; ++c) {
@@ -45,24 +48,31 @@ protected:
 
     /// The control's pointer while the left button drags `from` over the heading of `to`.
     int pointerOver(int from, int to) {
-        state.LastClickedCol = from;
+        state.clicked.take(from);
         drag.showPointer({1, 0, 0, 0, 0, to});
-        return state.MousePointer;
+        return state.face.MousePointer;
     }
 
     ReportState state;
     ColumnList columns;
     Events events;
-    GridSurface surface;
+    ChildControls children;
+    GridSurface& surface = children.MSFlexGrid1;
     ScriptedHost host;
-    Reporting reporting{state, host};
+    Reporting reporting{state.lifetime, host};
     ColumnProperties properties{columns, surface, events};
-    GroupFactorFlags flags{state, columns, events};
+    ControlSetters setters{state.data, state.print, state.face, children, properties, events};
+    GroupFactorFlags flags{state.grouping, columns, events};
+    Dictionary dictionary{state.data, state.source, state.identity};
+    MenuState menus{state.data, state.grouping, state.face,        state.tools, columns,
+                    properties, surface,        children.Picture1, dictionary};
     int refreshed = 0;
-    int menus = 0;
-    HeadingDrag drag{state, columns,   properties,
-                     flags, surface,   host,
-                     host,  reporting, {[this] { ++refreshed; }, [this] { ++menus; }}};
+    HeadingDrag drag{state.data,     state.grouping, state.face,
+                     state.lifetime, state.notices,  state.clicked,
+                     setters,        menus,          state.exporting,
+                     state.tools,    columns,        properties,
+                     flags,          surface,        host,
+                     host,           reporting,      [this] { ++refreshed; }};
     int answer = kAnswerNo;
     ScriptedHost::Message asked;
 };
@@ -88,7 +98,7 @@ TEST_P(DragRefusals, AreTheSameOnTheWayAndAtTheDrop) {
     drag.drop(1, 2);
     EXPECT_EQ(surface.TextMatrix(0, 1), one.refused ? u"B"_s : u"C"_s) << one.title;
     EXPECT_EQ(host.messages.size(), !one.refused && one.fromFactor ? 1u : 0u) << "refused without a word";
-    EXPECT_EQ(state.MousePointer, kPointerDefault);
+    EXPECT_EQ(state.face.MousePointer, kPointerDefault);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -194,11 +204,12 @@ TEST_F(HeadingDragTest, EveryPropertyOfEveryColumnIsReportedInItsOrder) {
 TEST_F(HeadingDragTest, TheViewSeesOneChangeAndAPlainColumnIsDrawnAgain) {
     int changes = 0;
     const Listening view = surface.views.add({.changed = [&] { ++changes; }});
+    children.Picture1.Tools(u"mnuAddGroup").Enabled = false;
     drag.drop(1, 3);
     EXPECT_EQ(changes, 2) << "the move and the repaint";
     EXPECT_TRUE(surface.Redraw());
     EXPECT_EQ(surface.Col(), 3) << "the current cell goes along";
-    EXPECT_EQ(menus, 1) << "and the tools with it";
+    EXPECT_TRUE(children.Picture1.Tools(u"mnuAddGroup").Enabled) << "and the tools with it";
 }
 
 // --- The steps before it
@@ -206,17 +217,17 @@ TEST_F(HeadingDragTest, TheViewSeesOneChangeAndAPlainColumnIsDrawnAgain) {
 TEST_F(HeadingDragTest, TheWidthsAreTakenAndThePointerReturnsEvenWhenItIsRefused) {
     factors(1);
     surface.setColWidth(4, 777);
-    state.MousePointer = kPointerNoDrop;
+    state.face.MousePointer = kPointerNoDrop;
     host.setPointer(kPointerHourglass);
     drag.drop(0, 3);
     EXPECT_EQ(columns.Item(5).Width, 777);
-    EXPECT_EQ(state.MousePointer, kPointerDefault);
+    EXPECT_EQ(state.face.MousePointer, kPointerDefault);
     EXPECT_EQ(host.pointer(), kPointerDefault);
     EXPECT_EQ(order(), u"abcde ABCDE 01234"_s);
 }
 
 TEST_F(HeadingDragTest, LockedMenusEndItAfterTheWidths) {
-    state.MenusLocked = true;
+    state.tools.MenusLocked = true;
     surface.setColWidth(4, 777);
     drag.drop(1, 3);
     EXPECT_EQ(columns.Item(5).Width, 777);
@@ -224,12 +235,12 @@ TEST_F(HeadingDragTest, LockedMenusEndItAfterTheWidths) {
 }
 
 TEST_F(HeadingDragTest, WhileASpreadsheetIsWrittenADropIsNotHeardOf) {
-    state.ExportRunning = true;
-    state.MousePointer = kPointerCustom;
+    state.exporting.ExportRunning = true;
+    state.face.MousePointer = kPointerCustom;
     surface.setColWidth(4, 777);
     drag.drop(1, 3);
     EXPECT_EQ(columns.Item(5).Width, 500);
-    EXPECT_EQ(state.MousePointer, kPointerCustom);
+    EXPECT_EQ(state.face.MousePointer, kPointerCustom);
     EXPECT_EQ(order(), u"abcde ABCDE 01234"_s);
 }
 
@@ -270,7 +281,7 @@ TEST_F(HeadingDragTest, NoAndCancelLeaveTheGroupingAsItWas) {
     for (const int said : {kAnswerNo, kAnswerCancel}) {
         answer = said;
         drag.drop(0, 1);
-        EXPECT_EQ(state.Groupby, u"a,b"_s);
+        EXPECT_EQ(state.grouping.Groupby, u"a,b"_s);
     }
     EXPECT_EQ(order(), u"abcde ABCDE 01234"_s) << "there and back";
     EXPECT_EQ(refreshed, 0);
@@ -280,7 +291,7 @@ TEST_F(HeadingDragTest, YesRebuildsTheGroupingAndLoads) {
     factors(2);
     answer = kAnswerYes;
     drag.drop(0, 1);
-    EXPECT_EQ(state.Groupby, u"b,a"_s);
+    EXPECT_EQ(state.grouping.Groupby, u"b,a"_s);
     EXPECT_EQ(refreshed, 1);
     EXPECT_EQ(order(), u"bacde BACDE 10234"_s);
 }
@@ -307,11 +318,11 @@ TEST_F(HeadingDragTest, ThePointerTellsOnlyOverTheHeadingWithTheLeftButtonDown) 
     factors(1);
     EXPECT_EQ(pointerOver(0, 2), kPointerNoDrop);
     drag.showPointer({0, 0, 0, 0, 0, 2});
-    EXPECT_EQ(state.MousePointer, kPointerNoDrop) << "with the button up it stays as it was";
+    EXPECT_EQ(state.face.MousePointer, kPointerNoDrop) << "with the button up it stays as it was";
     drag.showPointer({1, 0, 0, 0, 3, 2});
-    EXPECT_EQ(state.MousePointer, kPointerDefault) << "over the rows";
+    EXPECT_EQ(state.face.MousePointer, kPointerDefault) << "over the rows";
     drag.showPointer({2, 0, 0, 0, 0, 2});
-    EXPECT_EQ(state.MousePointer, kPointerDefault) << "the right button drags nothing";
+    EXPECT_EQ(state.face.MousePointer, kPointerDefault) << "the right button drags nothing";
     EXPECT_EQ(pointerOver(1, 2), kPointerCustom);
     EXPECT_EQ(pointerOver(1, -1), kPointerNoDrop) << "beside the columns";
 }
@@ -320,8 +331,8 @@ TEST_F(HeadingDragTest, WithoutMenusOnlyTheSurfacesOwnPointerReturns) {
     GridSurface::Look look = surface.look();
     look.MousePointer = 5;
     surface.setLook(look);
-    state.MenusVisible = false;
-    state.MousePointer = kPointerCustom;
+    state.face.MenusVisible = false;
+    state.face.MousePointer = kPointerCustom;
     EXPECT_EQ(pointerOver(0, 2), kPointerCustom);
     EXPECT_EQ(surface.look().MousePointer, 0);
 }

@@ -1,3 +1,4 @@
+#include "core/report_state.h"
 #include "load/load_fixture.h"
 
 #include "interaction/menu_bands.h"
@@ -25,17 +26,17 @@ protected:
         buildMenuBands(bar);
         surface.setCols(4);
         properties.resize(4);
-        state.GroupFactorCount = 1;
+        state.grouping.GroupFactorCount = 1;
         connection->Open(u"sqlite:"_s);
         makeDictionary(*connection);
-        state.Cn = connection;
-        state.clmns = u"CLMNS"_s;
+        state.source.Cn = connection;
+        state.data.clmns = u"CLMNS"_s;
     }
 
     void loadFields() {
         dictionary.load();
         statFields().Clear();
-        if (state.TotalForm)
+        if (state.data.TotalForm)
             buildStatisticsFields(*dictionary.recordset(), statFields());
         else
             appendPlainFields(*dictionary.recordset(), statFields());
@@ -67,7 +68,7 @@ protected:
 
     QString fieldIndexes() const {
         QString text;
-        for (const short index : state.FieldIndex)
+        for (const short index : state.tools.FieldIndex)
             text += QString::number(index) + u' ';
         return text;
     }
@@ -79,8 +80,9 @@ protected:
     ColumnProperties properties{columns, surface, events};
     MenuBar bar;
     std::shared_ptr<ado::Connection> connection = std::make_shared<ado::Connection>();
-    Dictionary dictionary{state};
-    MenuState menus{state, columns, properties, surface, bar, dictionary};
+    Dictionary dictionary{state.data, state.source, state.identity};
+    MenuState menus{state.data, state.grouping, state.face, state.tools, columns,
+                    properties, surface,        bar,        dictionary};
 };
 
 const QStringList kByColumn{u"mnuInsertColumn"_s, u"mnuSort"_s,        u"mnuColumnProperties"_s,
@@ -113,7 +115,7 @@ TEST_F(MenuStateTest, WhatAColumnAllows) {
     for (const auto& row : cases)
         for (const bool before : {false, true}) {
             enableAll(before);
-            state.TotalForm = row.totals;
+            state.data.TotalForm = row.totals;
             properties.setColStatic(row.col, row.fixed);
             surface.setCol(row.col);
             menus.MenuRefresh();
@@ -148,10 +150,10 @@ TEST_F(MenuStateTest, TheWaysIntoTemplatesColoursAndFontsAreOpen) {
 
 TEST_F(MenuStateTest, WithoutMenusVisibleAllStaysAsItWas) {
     loadFields();
-    state.MenusVisible = false;
+    state.face.MenusVisible = false;
     enableAll(false);
     field().list = {u"old"_s};
-    state.FieldIndex = {7};
+    state.tools.FieldIndex = {7};
     menus.MenuRefresh();
     menus.fillBandField();
     EXPECT_EQ(enabled(kByColumn), u"0000000"_s);
@@ -162,14 +164,14 @@ TEST_F(MenuStateTest, WithoutMenusVisibleAllStaysAsItWas) {
 
 TEST_F(MenuStateTest, LockedMenusStayAsTheyAre) {
     menus.LockMenus();
-    EXPECT_TRUE(state.MenusLocked);
+    EXPECT_TRUE(state.tools.MenusLocked);
     EXPECT_EQ(enabled(kLocked), u"00000000000"_s);
     EXPECT_TRUE(tool(u"mnuTitle").Enabled) << "not among the locked ones";
     menus.MenuRefresh();
     EXPECT_EQ(enabled(kLocked), u"00000000000"_s);
     EXPECT_EQ(checks(), u"000"_s);
     menus.UnlockMenus();
-    EXPECT_FALSE(state.MenusLocked);
+    EXPECT_FALSE(state.tools.MenusLocked);
     EXPECT_EQ(enabled(kLocked), u"11111111111"_s);
 }
 
@@ -211,7 +213,7 @@ TEST_F(MenuStateTest, AColumnIsOfferedTheFieldsThatItMayShow) {
          u"1 2 4 5 "_s},
     };
     for (const auto& row : cases) {
-        state.TotalForm = row.totals;
+        state.data.TotalForm = row.totals;
         loadFields();
         surface.setCol(row.col);
         menus.fillBandField();

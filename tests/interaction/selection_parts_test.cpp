@@ -1,4 +1,6 @@
 #include "core/child_controls.h"
+#include "core/paint_scopes.h"
+#include "core/report_state.h"
 #include "grid_fixture.h"
 #include "interaction/menu_bands.h"
 #include "interaction/selection_events.h"
@@ -24,19 +26,24 @@ protected:
     Events events;
     ChildControls children;
     ScriptedHost host;
-    Reporting reporting{state, host};
+    Reporting reporting{state.lifetime, host};
     GridSurface& surface = children.MSFlexGrid1;
     ColumnProperties properties{columns, surface, events};
-    KeyColumn key{state, columns, surface};
-    FontWriter fonts{state, surface, events};
-    RowMarking marking{state, key, surface, events};
-    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host, reporting};
-    Dictionary dictionary{state};
-    MenuState menus{state, columns, properties, surface, children.Picture1, dictionary};
+    KeyColumn key{state.key, columns, surface};
+    FontWriter fonts{state.grouping, state.sections, state.notices, state.lifetime, surface, events};
+    RowMarking marking{state.grouping, state.marking, state.notices, state.lifetime, key, surface, events};
+    InterfaceDrawing drawing{state.data,    state.source,      state.grouping, state.sections, state.lifetime,
+                             state.notices, state.painted,     surface,        events,         fonts,
+                             marking,       children.Picture1, host,           reporting};
+    Dictionary dictionary{state.data, state.source, state.identity};
+    MenuState menus{state.data, state.grouping, state.face,        state.tools, columns,
+                    properties, surface,        children.Picture1, dictionary};
     int charts = 0;
     int selecting = 0;
-    SelectionEvents selection{
-        state, key, surface, events, marking, drawing, menus, host, [this] { ++charts; }};
+    SelectionEvents selection{state.source,  state.grouping, state.face,    state.lifetime,
+                              state.notices, state.painted,  state.clicked, state.exporting,
+                              key,           surface,        events,        marking,
+                              drawing,       menus,          host,          [this] { ++charts; }};
 };
 
 } // namespace
@@ -51,8 +58,8 @@ TEST_F(SelectionPartsTest, AnOpenChartFollowsTheGroupFactors) {
                  {true, 0, 0, 0}, {false, 2, 0, 0}, {false, 2, 2, 0}};
     for (const auto& row : cases) {
         charts = 0;
-        state.GraphVisible = row.open;
-        state.GroupFactorCount = static_cast<short>(row.factors);
+        state.face.GraphVisible = row.open;
+        state.grouping.GroupFactorCount = static_cast<short>(row.factors);
         surface.setCol(row.col);
         selection.selectionChanged();
         EXPECT_EQ(charts, row.charts) << row.factors << " factors, column " << row.col;
@@ -60,8 +67,8 @@ TEST_F(SelectionPartsTest, AnOpenChartFollowsTheGroupFactors) {
 }
 
 TEST_F(SelectionPartsTest, TheMenusAndTheChartAreBroughtUpBeforeSelectingIsRaised) {
-    state.GraphVisible = true;
-    state.GroupFactorCount = 1;
+    state.face.GraphVisible = true;
+    state.grouping.GroupFactorCount = 1;
     QString seen;
     QObject::connect(&events, &Events::Selecting, [&] {
         seen = u"%1 charts, sort %2"_s.arg(charts).arg(children.Picture1.Tools(u"mnuSort").Enabled);
@@ -71,9 +78,9 @@ TEST_F(SelectionPartsTest, TheMenusAndTheChartAreBroughtUpBeforeSelectingIsRaise
 }
 
 TEST_F(SelectionPartsTest, WhileAReportIsExportedNothingFollows) {
-    state.ExportRunning = true;
-    state.GraphVisible = state.RowSelect = true;
-    state.GroupFactorCount = 1;
+    state.exporting.ExportRunning = true;
+    state.face.GraphVisible = state.marking.RowSelect = true;
+    state.grouping.GroupFactorCount = 1;
     host.setPointer(kPointerHourglass);
     properties.setColIndexKey(1, true);
     surface.setTextMatrix(2, 1, u"7"_s);
@@ -82,16 +89,16 @@ TEST_F(SelectionPartsTest, WhileAReportIsExportedNothingFollows) {
     selection.selectionChanged();
     EXPECT_EQ(selecting, 0);
     EXPECT_EQ(charts, 0);
-    EXPECT_EQ(state.PreRow, 0);
-    EXPECT_EQ(state.indkey, 0);
+    EXPECT_EQ(state.marking.PreRow, 0);
+    EXPECT_EQ(state.key.indkey, 0);
     EXPECT_EQ(host.pointer(), kPointerHourglass);
     EXPECT_TRUE(children.Picture1.Tools(u"mnuSort").Enabled) << "the menus stay";
 }
 
 TEST_F(SelectionPartsTest, WhileTheControlPaintsNothingFollows) {
-    state.PaintReady = false;
-    state.GraphVisible = true;
-    state.GroupFactorCount = 1;
+    state.notices.hush();
+    state.face.GraphVisible = true;
+    state.grouping.GroupFactorCount = 1;
     surface.Select(2, 0);
     selection.currentCellChanged();
     selection.selectionChanged();
@@ -105,19 +112,23 @@ TEST_F(SelectionPartsTest, TheKeyIsTakenOnlyOnceContentIsSeen) {
     surface.setTextMatrix(2, 1, u"7"_s);
     surface.setTextMatrix(2, 2, u"8"_s);
     surface.Select(2, 0);
-    state.ContentSeen = false;
+    const SelectionQuiet quiet(state.notices);
+    state.notices.hear();
     selection.selectionChanged();
     selection.currentCellChanged();
-    EXPECT_EQ(state.indkey, 0);
-    state.ContentSeen = true;
+    EXPECT_EQ(state.key.indkey, 0);
+    state.notices.seeContent();
     selection.selectionChanged();
-    EXPECT_EQ(state.indkey, 7) << "of the first key column";
+    EXPECT_EQ(state.key.indkey, 7) << "of the first key column";
 }
 
 TEST_F(SelectionPartsTest, WithoutAChartASelectionIsASelection) {
-    SelectionEvents bare{state, key, surface, events, marking, drawing, menus, host, {}};
-    state.GraphVisible = true;
-    state.GroupFactorCount = 2;
+    SelectionEvents bare{state.source,  state.grouping, state.face,    state.lifetime,
+                         state.notices, state.painted,  state.clicked, state.exporting,
+                         key,           surface,        events,        marking,
+                         drawing,       menus,          host,          {}};
+    state.face.GraphVisible = true;
+    state.grouping.GroupFactorCount = 2;
     bare.selectionChanged();
     EXPECT_EQ(selecting, 1);
 }

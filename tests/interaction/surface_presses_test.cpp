@@ -1,3 +1,4 @@
+#include "grid/load_parts.h"
 #include "interaction/menu_bands.h"
 #include "interaction/surface_events.h"
 #include "load/load_fixture.h"
@@ -234,44 +235,52 @@ protected:
 
     std::shared_ptr<int> owner = std::make_shared<int>();
     QStringList log;
-    ReportState state;
-    ColumnList columns;
-    Events events;
-    ChildControls children;
-    ScriptedHost host;
-    Reporting reporting{state, host};
-    LoadHooks hooks;
-    GridSurface& surface = children.MSFlexGrid1;
-    ColumnProperties properties{columns, surface, events};
-    GroupFactorFlags flags{state, columns, events};
-    KeyColumn key{state, columns, surface};
-    FontWriter fonts{state, surface, events};
-    RowMarking marking{state, key, surface, events};
-    InterfaceDrawing drawing{state, surface, events, fonts, marking, children.Picture1, host, reporting};
-    Dictionary dictionary{state};
-    EmptyReport empty{state, properties, surface, children.Picture1, dictionary, host, hooks};
-    MenuState menus{state, columns, properties, surface, children.Picture1, dictionary};
-    SelectionEvents selection{state, key, surface, events, marking, drawing, menus, host, {}};
-    HeadingDrag drag{state, columns, properties, flags, surface, host, host, reporting, {[] {}, [] {}}};
-    SurfaceEvents events_{state,
+    CoreParts core{std::make_shared<ScriptedHost>()};
+    StatementParts statements{core.forStatements()};
+    LoadParts load{core, statements};
+    ReportState& state = core.state;
+    Events& events = core.events;
+    ChildControls& children = core.children;
+    GridSurface& surface = core.surface;
+    ColumnProperties& properties = core.columnProperties;
+    InterfaceDrawing drawing{state.data,    state.source,      state.grouping, state.sections, state.lifetime,
+                             state.notices, state.painted,     surface,        events,         core.fonts,
+                             core.marking,  children.Picture1, core.pointer,   core.reporting};
+    MenuState menus{state.data, state.grouping, state.face,        state.tools,          core.columns,
+                    properties, surface,        children.Picture1, statements.dictionary};
+    SelectionEvents selection{state.source,   state.grouping, state.face,    state.lifetime,
+                              state.notices,  state.painted,  state.clicked, state.exporting,
+                              core.keyColumn, surface,        events,        core.marking,
+                              drawing,        menus,          core.pointer,  {}};
+    HeadingDrag drag{
+        state.data,        state.grouping, state.face,      state.lifetime, state.notices,  state.clicked,
+        core.setters,      menus,          state.exporting, state.tools,    core.columns,   properties,
+        core.groupFactors, surface,        core.boxes,      core.pointer,   core.reporting, [] {}};
+    SurfaceEvents events_{state.grouping,
+                          state.face,
+                          state.lifetime,
+                          state.clicked,
+                          core.setters,
+                          state.tools,
                           properties,
                           surface,
                           children.Picture1,
                           events,
-                          dictionary,
-                          empty,
+                          statements.dictionary,
+                          load.emptyReport,
                           menus,
                           drag,
                           selection,
-                          host,
-                          reporting,
-                          [this] { log << u"chart of %1"_s.arg(state.LastClickedCol); }};
+                          core.boxes,
+                          core.reporting,
+                          [this] { log << u"chart of %1"_s.arg(state.clicked.get()); }};
+};
 };
 
 TEST_F(ClickTest, AClickUpToTheFirstColumnBehindTheFactorsChartsAgainBeforeItIsRaised) {
-    state.GroupFactorCount = 1;
+    state.grouping.GroupFactorCount = 1;
     for (const bool open : {false, true}) {
-        state.GraphVisible = open;
+        state.face.GraphVisible = open;
         for (int col = 0; col < 4; ++col) {
             log.clear();
             surface.setCol(col);

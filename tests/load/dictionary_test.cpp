@@ -1,3 +1,4 @@
+#include "core/report_state.h"
 #include "core/stat_field.h"
 #include "load_fixture.h"
 #include "sql/dictionary.h"
@@ -11,14 +12,15 @@ namespace {
 class DictionaryTest : public testing::Test {
 protected:
     DictionaryTest() {
-        state.Cn = std::make_shared<ado::Connection>();
-        state.Cn->Open(u"sqlite:"_s);
-        state.Cn->Execute(u"create table CLMNS (dtfld text, Cptn text, visbl integer, IsPublic integer, "
-                          "isGroup integer, [Sum] integer, [Avg] integer, [Min] integer, [Max] integer)"_s);
-        state.Cn->Execute(
+        state.source.Cn = std::make_shared<ado::Connection>();
+        state.source.Cn->Open(u"sqlite:"_s);
+        state.source.Cn->Execute(
+            u"create table CLMNS (dtfld text, Cptn text, visbl integer, IsPublic integer, "
+            "isGroup integer, [Sum] integer, [Avg] integer, [Min] integer, [Max] integer)"_s);
+        state.source.Cn->Execute(
             u"insert into CLMNS values ('PLAIN','β',1,1,0,0,0,0,0), ('SECRET','α',1,0,0,0,0,0,0),"
             "('HIDDEN','γ',0,1,1,1,0,0,0), ('GROUP','ε',1,1,1,0,0,0,0), ('SUMS','δ',1,0,0,1,0,0,0)"_s);
-        state.clmns = u"CLMNS"_s;
+        state.data.clmns = u"CLMNS"_s;
     }
 
     QStringList keys() {
@@ -31,7 +33,7 @@ protected:
     }
 
     ReportState state;
-    Dictionary dictionary{state};
+    Dictionary dictionary{state.data, state.source, state.identity};
 };
 
 } // namespace
@@ -62,8 +64,8 @@ TEST_F(DictionaryTest, TheStatementGoesByModeAndUser) {
     };
     for (const auto& c : cases) {
         dictionary.release();
-        state.TotalForm = c.totals;
-        state.ProductID = c.user;
+        state.data.TotalForm = c.totals;
+        state.identity.ProductID = c.user;
         dictionary.load();
         EXPECT_EQ(dictionary.recordset()->Source(), c.statement);
         EXPECT_EQ(keys(), c.keys);
@@ -74,8 +76,8 @@ TEST_F(DictionaryTest, RowsThatAreOpenAreReusedFromTheFirst) {
     dictionary.load();
     keys();
     const auto rows = dictionary.recordset();
-    state.Cn->Execute(u"delete from CLMNS"_s);
-    state.TotalForm = true;
+    state.source.Cn->Execute(u"delete from CLMNS"_s);
+    state.data.TotalForm = true;
     dictionary.load();
     EXPECT_EQ(dictionary.recordset(), rows);
     EXPECT_EQ(rows->AbsolutePosition(), 1);
@@ -83,19 +85,19 @@ TEST_F(DictionaryTest, RowsThatAreOpenAreReusedFromTheFirst) {
 }
 
 TEST_F(DictionaryTest, ABlankNameMeansNoDictionary) {
-    state.clmns = u"  "_s;
+    state.data.clmns = u"  "_s;
     dictionary.load();
     EXPECT_EQ(dictionary.recordset()->State(), ado::adStateClosed);
 }
 
 TEST_F(DictionaryTest, TheEmptyReportAsksInTheBooleanDialect) {
-    state.TotalForm = true;
+    state.data.TotalForm = true;
     dictionary.loadForEmptyReport();
     EXPECT_EQ(
         dictionary.recordset()->Source(),
         u"Select * from CLMNS where visbl=1 and (isGroup or [Sum] or [Avg] or [Min] or [Max]) order by cptn"_s);
     EXPECT_EQ(keys(), (QStringList{u"SUMS"_s, u"GROUP"_s}));
-    state.TotalForm = false;
+    state.data.TotalForm = false;
     dictionary.loadForEmptyReport();
     EXPECT_EQ(dictionary.recordset()->Source(), u"Select * from CLMNS where visbl = 1  order by cptn"_s);
 }

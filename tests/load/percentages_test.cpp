@@ -1,3 +1,4 @@
+#include "core/report_state.h"
 #include "load/percentages.h"
 
 #include "base/texts.h"
@@ -26,9 +27,9 @@ protected:
         surface.setLocale(ReportLocale(QLocale(u"el_GR"_s)));
         surface.setCols(3);
         surface.setRows(3);
-        state.TotalsRecordset = std::make_shared<ado::Recordset>();
-        state.TotalsRecordset->Open(u"select * from GROUPED"_s, connection);
-        state.GroupFactorCount = 2;
+        state.source.TotalsRecordset = std::make_shared<ado::Recordset>();
+        state.source.TotalsRecordset->Open(u"select * from GROUPED"_s, connection);
+        state.grouping.GroupFactorCount = 2;
         fields({u"BRANCH"_s, u"CITY"_s, u"SUM_PREMIUM"_s});
     }
 
@@ -61,7 +62,7 @@ protected:
     GridSurface surface;
     ScriptedHost host;
     LoadNotes notes;
-    Percentages percentages{state, columns, surface, host, notes};
+    Percentages percentages{state.source, state.grouping, columns, surface, host, notes};
 };
 
 } // namespace
@@ -138,7 +139,7 @@ TEST_F(PercentagesTest, AFieldThatIsNotThereIsToldOnceUntilAskedAnew) {
 }
 
 TEST_F(PercentagesTest, WithoutRecordsTheSumsCannotBeWorkedOut) {
-    state.TotalsRecordset.reset();
+    state.source.TotalsRecordset.reset();
     EXPECT_EQ(percentages.PercentOfParent(u"PREMIUM"_s, 1), u"0.00"_s);
     EXPECT_EQ(boxes(), QStringList{u"Δεν μπορώ να υπολογίσω τα υποσύνολα"_s});
 }
@@ -146,23 +147,23 @@ TEST_F(PercentagesTest, WithoutRecordsTheSumsCannotBeWorkedOut) {
 TEST_F(PercentagesTest, AnotherRecordsetGivesItsOwnSums) {
     keys(u"Βορράς"_s, u"Βόλος"_s);
     EXPECT_EQ(sum(0), 60);
-    state.TotalsRecordset = std::make_shared<ado::Recordset>();
-    state.TotalsRecordset->Open(u"select 'Βορράς' as BRANCH, 'Βόλος' as CITY, 4 as SUM_PREMIUM"_s,
-                                connection);
+    state.source.TotalsRecordset = std::make_shared<ado::Recordset>();
+    state.source.TotalsRecordset->Open(u"select 'Βορράς' as BRANCH, 'Βόλος' as CITY, 4 as SUM_PREMIUM"_s,
+                                       connection);
     EXPECT_EQ(sum(0), 4);
 }
 
 // The cost of a sum is that of finding it, not of a walk over all groups.
 TEST_F(PercentagesTest, ManyGroupsAreWalkedOnce) {
-    state.TotalsRecordset = std::make_shared<ado::Recordset>();
-    state.TotalsRecordset->Open(
+    state.source.TotalsRecordset = std::make_shared<ado::Recordset>();
+    state.source.TotalsRecordset->Open(
         u"with recursive n(i) as (select 1 union all select i + 1 from n where i < 50000) "
         "select 'B' || (i / 10) as BRANCH, i as CITY, 1 as SUM_PREMIUM from n"_s,
         connection);
-    const std::uint64_t before = state.TotalsRecordset->rowsWalked();
+    const std::uint64_t before = state.source.TotalsRecordset->rowsWalked();
     for (int i = 10; i < 50'000; i += 5) {
         keys(u"B%1"_s.arg(i / 10), QString::number(i));
         ASSERT_EQ(percentages.PercentOfParent(u"PREMIUM"_s, 1), u"10,00"_s);
     }
-    EXPECT_EQ(state.TotalsRecordset->rowsWalked(), before);
+    EXPECT_EQ(state.source.TotalsRecordset->rowsWalked(), before);
 }

@@ -1,3 +1,5 @@
+#include "core/paint_scopes.h"
+#include "core/report_state.h"
 #include "load/row_reader.h"
 
 #include "host/scripted_host.h"
@@ -27,7 +29,7 @@ protected:
 
     void factor() {
         columns.Item(1).ForTot = true;
-        state.GroupFactorCount = 1;
+        state.grouping.GroupFactorCount = 1;
     }
 
     void hear() {
@@ -36,8 +38,8 @@ protected:
     }
 
     void load(const QString& statement, int rows) {
-        state.ReportRecordset = std::make_shared<ado::Recordset>();
-        state.ReportRecordset->Open(statement, connection);
+        state.source.ReportRecordset = std::make_shared<ado::Recordset>();
+        state.source.ReportRecordset->Open(statement, connection);
         surface.setRows(surface.FixedRows());
         surface.setRows(rows);
         reader.LoadRows();
@@ -58,15 +60,17 @@ protected:
     GridSurface surface;
     Events events;
     ScriptedHost host;
-    Reporting reporting{state, host};
+    Reporting reporting{state.lifetime, host};
     LoadHooks hooks;
     ColumnProperties properties{columns, surface, events};
     LoadNotes notes;
-    Percentages percentages{state, columns, surface, host, notes};
-    GroupRows groups{state, columns, surface, percentages};
-    TotalsRows totals{state, columns, surface, groups.sums(), hooks};
-    RowReader reader{state, properties, columns, surface, events,     host,
-                     host,  reporting,  groups,  totals,  percentages};
+    Percentages percentages{state.source, state.grouping, columns, surface, host, notes};
+    GroupRows groups{state.data, state.grouping, state.load, columns, surface, percentages};
+    TotalsRows totals{state.data, state.load, state.notices, state.sections,
+                      columns,    surface,    groups.sums(), hooks};
+    RowReader reader{state.data, state.source, state.load, state.lifetime, state.notices,
+                     properties, columns,      surface,    events,         host,
+                     host,       reporting,    groups,     totals,         percentages};
     QStringList log;
 };
 
@@ -83,7 +87,7 @@ TEST_F(RowReaderTotalsTest, ASubtotalRowMovesTheFollowingRecordsOn) {
     load(kThree, 4);
     EXPECT_EQ(log, (QStringList{u"row 1"_s, u"row 2"_s, u"row 4"_s, u"draw"_s}));
     EXPECT_EQ(report(), kGrouped);
-    EXPECT_TRUE(state.LoadFinished);
+    EXPECT_TRUE(state.load.LoadFinished);
 }
 
 // Rows that nobody hears about are summed and bound by runs of equal keys; the report is the same.
@@ -99,8 +103,8 @@ TEST_F(RowReaderTotalsTest, WithoutSumsThereAreNoTotals) {
     factor();
     load(kThree, 4);
     EXPECT_EQ(report(), (QStringList{u"1: a | 1"_s, u"1: b | 2"_s, u"1: b | 4"_s}));
-    EXPECT_FALSE(state.TotalsNeeded);
-    EXPECT_FALSE(state.LoadFinished);
+    EXPECT_FALSE(state.load.TotalsNeeded);
+    EXPECT_FALSE(state.load.LoadFinished);
 }
 
 // The mark of a report with sums is only ever raised; a later report without them keeps all its rows.
@@ -108,7 +112,7 @@ TEST_F(RowReaderTotalsTest, TheMarkOfTotalsStaysAndHarmsNoLaterReport) {
     load(kThree, 4);
     columns.Item(2).Totals = false;
     load(kThree, 4);
-    EXPECT_TRUE(state.TotalsNeeded);
+    EXPECT_TRUE(state.load.TotalsNeeded);
     EXPECT_EQ(report(), (QStringList{u"1: a | 1"_s, u"1: b | 2"_s, u"1: b | 4"_s}));
 }
 
@@ -117,7 +121,7 @@ TEST_F(RowReaderTotalsTest, WithTwoFixedRowsThereAreNoTotals) {
     surface.setRows(5);
     surface.setFixedRows(2);
     load(kThree, 5);
-    EXPECT_FALSE(state.TotalsNeeded);
+    EXPECT_FALSE(state.load.TotalsNeeded);
     EXPECT_EQ(surface.Rows(), 5);
 }
 
@@ -129,9 +133,9 @@ TEST_F(RowReaderTotalsTest, WithNoFixedRowTheSecondRecordStartsTheTotals) {
 
 TEST_F(RowReaderTotalsTest, RowCapacityFollowsItsOwnCount) {
     factor();
-    state.RowCapacity = 4; // records + 1
+    state.load.RowCapacity = 4; // records + 1
     load(kThree, 4);
-    EXPECT_EQ(state.RowCapacity, 4 + 2 - 1); // two subtotal rows, less the row that goes at the end
+    EXPECT_EQ(state.load.RowCapacity, 4 + 2 - 1); // two subtotal rows, less the row that goes at the end
 }
 
 TEST_F(RowReaderTotalsTest, BlankRowsGoAfterTotalsButTheLastRowStays) {
@@ -156,9 +160,9 @@ TEST_F(RowReaderTotalsTest, AnEmptyRecordsetRaisesStartAndStop) {
 
 TEST_F(RowReaderTotalsTest, AClosedRecordsetRaisesNothing) {
     QObject::connect(&events, &Events::StartFilling, [this] { log << u"start"_s; });
-    state.ReportRecordset = std::make_shared<ado::Recordset>();
+    state.source.ReportRecordset = std::make_shared<ado::Recordset>();
     reader.LoadRows();
-    state.ReportRecordset.reset();
+    state.source.ReportRecordset.reset();
     reader.LoadRows();
     EXPECT_EQ(log, QStringList{});
 }
@@ -166,7 +170,7 @@ TEST_F(RowReaderTotalsTest, AClosedRecordsetRaisesNothing) {
 TEST_F(RowReaderTotalsTest, TheSurfaceIsNotRedrawnWhileRowsAreRead) {
     bool drawn = true;
     int pointer = 0;
-    state.PaintReady = state.ContentSeen = false;
+    const SelectionQuiet quiet(state.notices);
     QObject::connect(&events, &Events::RetrieveRow, [&](RetrieveRowArgs&) {
         drawn = surface.Redraw();
         pointer = host.pointer();
@@ -175,7 +179,7 @@ TEST_F(RowReaderTotalsTest, TheSurfaceIsNotRedrawnWhileRowsAreRead) {
     EXPECT_FALSE(drawn);
     EXPECT_EQ(pointer, kPointerHourglass);
     EXPECT_TRUE(surface.Redraw());
-    EXPECT_TRUE(state.PaintReady && state.ContentSeen);
+    EXPECT_TRUE(state.notices.isHeard() && state.notices.isContentSeen());
     EXPECT_EQ(host.pointer(), kPointerDefault);
 }
 

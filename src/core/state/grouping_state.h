@@ -20,6 +20,13 @@ struct GroupingState {
     short GroupFactorCount = 0;
     /// A `Groupby` that a host (or a saved shape) set and no rebuild from the flags has seen yet.
     std::optional<QString> givenGroupby;
+
+    /// Takes a text from outside. It is remembered until the flags of the columns have been looked at, so
+    /// that a host that only sets the text gets its groups.
+    void give(const QString& text) {
+        Groupby = text;
+        givenGroupby = text;
+    }
 };
 
 } // namespace zkp
