@@ -24,8 +24,7 @@ FindTool::FindTool(QObject* parent)
     , line_(new FindLine) {
     addCommand(texts::findAction(), "find", {Qt::CTRL | Qt::Key_F}, [this] { open(); });
     addCommand(texts::findNextAction(), "findNext", {Qt::Key_F3}, [this] { next(); });
-    addCommand(texts::findPreviousAction(), "findPrevious", {Qt::SHIFT | Qt::Key_F3},
-               [this] { previous(); });
+    addCommand(texts::findPreviousAction(), "findPrevious", {Qt::SHIFT | Qt::Key_F3}, [this] { previous(); });
     setWidget(line_);
     line_->hide();
     timer_.setInterval(0);
@@ -175,9 +174,7 @@ void FindTool::tell(FindSearch::State state) {
         note(texts::findNothing());
     if (state != FindSearch::State::Found)
         return;
-    note(!search_->hasWrapped() ? QString()
-                  : forward_             ? texts::findFromTop()
-                                         : texts::findFromEnd());
+    note(!search_->hasWrapped() ? QString() : forward_ ? texts::findFromTop() : texts::findFromEnd());
     showFound(search_->found());
 }
 

@@ -32,8 +32,8 @@ void ProgressTool::reportChanged() {
 
 void ProgressTool::watch(ZkpGridWidget& report) {
     ZkpGrid& grid = report.grid();
-    const auto loads = std::make_shared<Listening>(grid.listenToLoads(
-        {.begins = [this] { begin(); }, .ended = [this](const LoadOutcome&) { end(); }}));
+    const auto loads = std::make_shared<Listening>(
+        grid.listenToLoads({.begins = [this] { begin(); }, .ended = [this](const LoadOutcome&) { end(); }}));
     connect(&report, &QObject::destroyed, this, [loads] {}); // kept as long as both stand
     connect(&grid.events(), &Events::StartFilling, this,
             [this, &grid] { layOut(static_cast<std::int64_t>(grid.RecCount())); });
