@@ -8,7 +8,12 @@
 
 namespace zkp::app {
 
-ReportTools::ReportTools(QMainWindow& window) {
+ReportTools::ReportTools(QMainWindow& window)
+    : undo(&window)
+    , copy(&window)
+    , find(&window)
+    , sums(&window)
+    , progress(&window) {
     QMenu* menu = window.menuBar()->addMenu(texts::editMenu());
     menu->addActions(undo.actions());
     menu->addSeparator();
