@@ -4,12 +4,13 @@
 #include "paint_data.h"
 
 #include "widgets/grid/grid_view.h"
+#include "widgets/tools/find_tool.h"
+#include "widgets/tools/sums_tool.h"
 #include "widgets/zkp_grid_widget.h"
-#include "widgets/tools/report_find.h"
-#include "widgets/tools/selection_status.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QLabel>
 #include <QLineEdit>
 
 #include <cstdio>
@@ -54,9 +55,8 @@ void tell(const char* what, double start, const Waited& waited, double raw) {
 
 void measureFind(ZkpGridWidget& report, int rows) {
     GridSurface& surface = report.grid().MSFlexGrid1();
-    FindLine line;
-    ReportFind find(line, [] { return false; });
-    line.show();
+    FindTool find;
+    QWidget& line = *find.widget();
     find.setReport(&report);
     find.open();
     auto* edit = line.findChild<QLineEdit*>(QStringLiteral("findText"));
@@ -85,9 +85,9 @@ void measureFind(ZkpGridWidget& report, int rows) {
 
 void measureSums(ZkpGridWidget& report, int rows) {
     GridSurface& surface = report.grid().MSFlexGrid1();
-    QLabel label;
-    SelectionStatus status(label, [] { return false; });
-    status.setReport(&report);
+    SumsTool sums;
+    const QLabel& label = static_cast<QLabel&>(*sums.widget());
+    sums.setReport(&report);
     constexpr int kAmounts = 6; // the first column of amounts
     Decimal sum;
     const double raw = millisecondsOf([&] {

@@ -27,11 +27,11 @@ if(TARGET zkpgrid-widgets)
     widgets/zkp_grid_widget.h
     widgets/band/band_bar.h
     widgets/grid/grid_view.h widgets/grid/palette_colors.h
-    widgets/tools/clipboard_copy.h
-    widgets/tools/load_progress.h
-    widgets/tools/report_find.h
-    widgets/tools/reshape_recorder.h
-    widgets/tools/selection_status.h)
+    widgets/tools/copy_tool.h widgets/tools/clipboard_copy.h
+    widgets/tools/find_tool.h
+    widgets/tools/progress_tool.h
+    widgets/tools/sums_tool.h
+    widgets/tools/undo_tool.h)
   list(APPEND libraries zkpgrid-widgets)
   list(APPEND qt_components Svg Widgets)
   set_target_properties(zkpgrid-widgets PROPERTIES EXPORT_NAME Widgets)

@@ -1,7 +1,6 @@
 #include "base/texts_tools.h"
 #include "widgets/tools/find_line.h"
 #include "widgets/tools/find_marks.h"
-#include "widgets/tools/report_find.h"
 #include "window_fixture.h"
 
 #include <QAction>

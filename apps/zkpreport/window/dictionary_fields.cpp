@@ -65,4 +65,13 @@ const DictionaryField* findField(const std::vector<DictionaryField>& fields, con
     return found == fields.end() ? nullptr : &*found;
 }
 
+QStringList offeredFactors(const std::vector<DictionaryField>& fields, const QStringList& factors) {
+    QStringList offered;
+    for (const QString& factor : factors)
+        if (const DictionaryField* field = findField(fields, factor);
+            field && field->isGroup && !offered.contains(field->key) && offered.size() < kMostFactors)
+            offered += field->key;
+    return offered;
+}
+
 } // namespace zkp::app

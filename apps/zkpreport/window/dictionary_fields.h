@@ -2,7 +2,7 @@
 
 #include "ado/connection.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <vector>
 
@@ -40,5 +40,10 @@ void markCounts(std::vector<DictionaryField>& fields, const ado::ConnectionPtr& 
 
 /// The field with that key; null when there is none.
 const DictionaryField* findField(const std::vector<DictionaryField>& fields, const QString& key);
+
+/// How many group factors a report may have.
+constexpr int kMostFactors = 4;
+/// Of the keys of group factors those that the fields have, as the dictionary spells them, each once.
+QStringList offeredFactors(const std::vector<DictionaryField>& fields, const QStringList& factors);
 
 } // namespace zkp::app

@@ -62,12 +62,7 @@ bool GroupChoice::isTotals() const {
 }
 
 void GroupChoice::fill() {
-    QStringList kept;
-    for (const QString& factor : factors_)
-        if (const DictionaryField* field = findField(offered_, factor);
-            field && !kept.contains(field->key) && kept.size() < kMostFactors)
-            kept += field->key;
-    factors_ = kept;
+    factors_ = offeredFactors(offered_, factors_);
     for (int place = 0; place < kMostFactors; ++place)
         fillList(place);
     setEnabled(!offered_.empty());

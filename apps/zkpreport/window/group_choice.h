@@ -17,8 +17,6 @@ class GroupChoice : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int kMostFactors = 4;
-
     explicit GroupChoice(QWidget* parent = nullptr);
 
     /// Offers the group factors of a report; of the chosen ones those stay that it has.

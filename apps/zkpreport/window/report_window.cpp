@@ -1,27 +1,25 @@
 #include "window/report_window.h"
 
-#include "base/error.h"
-#include "base/texts.h"
-#include "host/error_box.h"
 #include "widgets/qt_host.h"
 #include "window/filter_line.h"
 #include "window/group_choice.h"
 #include "window/message_strip.h"
-#include "window/report_colours.h"
-#include "window/report_filter.h"
 #include "window/report_tools.h"
+#include "window/showing_errors.h"
 #include "window/shrinking_list.h"
-#include "window/sqlite_file.h"
 #include "window/statement_panel.h"
+#include "window/template_controller.h"
 #include "window/template_pane.h"
 #include "window/texts.h"
 
 #include <QAction>
+#include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QListView>
 #include <QSignalBlocker>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace zkp::app {
@@ -48,42 +46,70 @@ ReportWindow::ReportWindow(std::shared_ptr<Host> host)
     , rights_(new QLabel)
     , filter_(new FilterLine)
     , groups_(new GroupChoice)
-    , saveAction_(new QAction(texts::saveTemplate(), this))
-    , saveAsAction_(new QAction(texts::saveTemplateAs(), this))
-    , templates_(new TemplatePane(saveAction_, saveAsAction_))
     , sortAction_(new QAction(texts::sortAction(), this))
     , panelToggle_(new QAction(texts::statementToggle(), this))
     , message_(new MessageStrip)
     , place_(new QVBoxLayout)
-    , panel_(new StatementPanel)
-    , tools_(new ReportTools(*this, *host_, {[this] { return isLoading(); }, [this] { reloadReshaped(); }})) {
+    , panel_(new StatementPanel) {
+    tools_ = std::make_unique<ReportTools>(*this);
+    session_ = std::make_unique<ReportSession>(host_, *tools_, palette(),
+                                               [this](ZkpGridWidget& control) { placeControl(control); });
+    templates_ = std::make_unique<TemplateController>(*session_, *reports_, host_);
     setWindowTitle(QStringLiteral("zkpreport"));
-    colours_ = palette();
     buildWidgets();
-    replaceControl();
     connectWidgets();
+    connectSession();
     resize(kUsualSize);
 }
 
-/// The control goes while the host that it asks still stands.
+/// What the session's control does on its way out finds the widgets still there.
 ReportWindow::~ReportWindow() {
-    delete report_;
+    templates_.reset();
+    session_.reset();
+}
+
+void ReportWindow::placeControl(ZkpGridWidget& control) {
+    place_->addWidget(&control);
+    const Events* events = &control.grid().events();
+    connect(events, &Events::MenuSaveTemplate, this, [this] { templates_->save(); });
+    connect(events, &Events::MenuSaveTemplateAs, this, [this] { templates_->saveAs(); });
+    connect(events, &Events::MenuLoadTemplate, this, [this] { templates_->pane().focusList(); });
 }
 
 void ReportWindow::connectWidgets() {
     connect(reportList_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             &ReportWindow::reportChosen);
     connect(userList_, &QComboBox::currentIndexChanged, this, &ReportWindow::userChosen);
-    connect(filter_, &FilterLine::applied, this, [this](const QString& filter) { openReport(filter); });
-    connect(groups_, &GroupChoice::changed, this, [this] {
-        replaceControl();
-        openReport(filter_->inForce());
-    });
-    connect(sortAction_, &QAction::triggered, this, &ReportWindow::sortByCurrentColumn);
+    connect(filter_, &FilterLine::applied, this, [this](const QString& filter) { session_->open(filter); });
+    connect(groups_, &GroupChoice::changed, this,
+            [this] { session_->regroup(groups_->factors(), groups_->isTotals()); });
+    connect(sortAction_, &QAction::triggered, this, [this] { session_->sortByCurrentColumn(); });
     connect(panelToggle_, &QAction::toggled, panel_, &QWidget::setVisible);
-    connect(tools_, &ReportTools::settled, this, &ReportWindow::followControl);
-    message_->mayGo = [this] { return isLoaded_; };
-    connectTemplates();
+    connect(&templates_->pane(), &TemplatePane::opened, this,
+            [this](const QString& name) { templates_->open(name, reportList_->currentIndex().row()); });
+    message_->mayGo = [this] { return !session_ || session_->isLoaded(); };
+    for (QAction* action : templates_->actions())
+        addAction(action); // the keys work wherever the focus is
+}
+
+void ReportWindow::connectSession() {
+    ReportSession* session = session_.get();
+    connect(session, &ReportSession::told, this, &ReportWindow::setMessage);
+    connect(session, &ReportSession::titleChanged, this, &ReportWindow::showTitle);
+    connect(session, &ReportSession::fieldsChanged, this, &ReportWindow::showFields);
+    connect(session, &ReportSession::filterTaken, filter_, &FilterLine::setInForce);
+    connect(session, &ReportSession::filterRefused, filter_, &QLineEdit::setText);
+    connect(session, &ReportSession::rightsChanged, this, [this](const QString& rights) {
+        rights_->setText(rights);
+        rights_->setToolTip(rights);
+    });
+    connect(session, &ReportSession::loaded, panel_, &StatementPanel::setOutcome);
+    connect(session, &ReportSession::emptied, this, [this] {
+        panel_->clear();
+        rights_->clear();
+    });
+    connect(templates_.get(), &TemplateController::told, this, &ReportWindow::setMessage);
+    connect(templates_.get(), &TemplateController::opened, this, &ReportWindow::showChosenReport);
 }
 
 QString ReportWindow::message() const {
@@ -95,66 +121,45 @@ void ReportWindow::setMessage(const QString& text) {
 }
 
 bool ReportWindow::showDatabase(const QString& named, const FirstReport& first) {
-    forgetShape();
-    database_ = DatabasePlace(named);
-    if (const QString reason = openDatabase(); !reason.isEmpty()) {
+    session_->forgetShape();
+    if (const QString reason = session_->openDatabase(DatabasePlace(named)); !reason.isEmpty()) {
         showNoDatabase(reason);
         return false;
     }
-    return guarded([&] {
+    return showingErrors(*host_, [&] {
         readDatabase();
         return choose(first);
     });
 }
 
-QString ReportWindow::openDatabase() {
-    if (!database_.isServer())
-        if (const QString reason = whyNoDatabase(database_.file()); !reason.isEmpty())
-            return reason;
-    try {
-        connection_ = database_.open(ado::adModeRead);
-        return {};
-    } catch (const Error& error) {
-        return texts::notOpened(database_.name(), error.description().simplified());
-    }
-}
-
-void ReportWindow::reconnectDatabase() {
-    if (connection_)
-        database_.reconnect(*connection_);
-}
-
 /// The choices are those of a database without reports.
 void ReportWindow::showNoDatabase(const QString& reason) {
-    setWindowTitle(QStringLiteral("zkpreport"));
-    connection_.reset();
     const QSignalBlocker quietReports(reportList_->selectionModel());
     reports_->setReports({});
     const QSignalBlocker quietUsers(userList_);
     users_.clear();
     userList_->clear();
-    groups_->setFields({});
+    session_->closeDatabase();
+    setWindowTitle(QStringLiteral("zkpreport"));
     for (QWidget* choice : {static_cast<QWidget*>(userList_), static_cast<QWidget*>(filter_)})
         choice->setEnabled(false);
-    for (QWidget* list : {static_cast<QWidget*>(reportList_), static_cast<QWidget*>(templates_)})
-        list->hide();
-    for (QAction* action : {saveAction_, saveAsAction_})
-        action->setEnabled(false);
+    reportList_->hide();
+    templates_->close();
     setMessage(reason);
 }
 
 void ReportWindow::readDatabase() {
-    setWindowTitle(texts::windowTitle({}, {}, database_.name()));
-    tools_->watch(*connection_);
+    const ado::ConnectionPtr& connection = session_->connection();
+    setWindowTitle(texts::windowTitle({}, {}, session_->database().name()));
 
-    const auto reports = readReports(connection_);
+    const auto reports = readReports(connection);
     if (!reports)
         setMessage(texts::noReportsTable());
     else if (reports->empty())
         setMessage(texts::noReports());
     const QSignalBlocker quietReports(reportList_->selectionModel());
     reports_->setReports(reports.value_or(std::vector<ReportEntry>{}));
-    users_ = readUsers(connection_);
+    users_ = readUsers(connection);
     const QSignalBlocker quietUsers(userList_);
     userList_->clear();
     for (const UserEntry& user : users_)
@@ -163,7 +168,7 @@ void ReportWindow::readDatabase() {
     userList_->setEnabled(users_.size() > 1);
     filter_->setEnabled(reports_->rowCount() > 0);
     reportList_->setVisible(reports_->rowCount() > 0);
-    listTemplates();
+    templates_->list();
 }
 
 /// The first report is opened here and not by the choices' signals, so that it is loaded once.
@@ -185,10 +190,11 @@ bool ReportWindow::choose(const FirstReport& first) {
         reportList_->setCurrentIndex(reports_->index(row));
     }
     reportList_->setFocus();
-    groups_->choose(first.groups, first.isTotals);
-    if (!openReport(first.filter))
+    session_->choose(reports_->report(row), user->id);
+    session_->setGroups(first.groups, first.isTotals);
+    if (!session_->open(first.filter))
         return false;
-    if (groups_->factors().size() == first.groups.size())
+    if (session_->shape().factors.size() == first.groups.size())
         return true;
     setMessage(texts::noSuchGroup(first.groups.join(u',')));
     return false;
@@ -199,212 +205,73 @@ const ReportEntry* ReportWindow::chosenReport() const {
     return index.isValid() ? &reports_->report(index.row()) : nullptr;
 }
 
-QString ReportWindow::chosenUser() const {
-    const int index = userList_->currentIndex();
-    return index < 0 ? QString() : users_[static_cast<std::size_t>(index)].id;
-}
-
-bool ReportWindow::openReport(const QString& filter) {
-    setMessage({});
-    return guarded([&] {
-        const ReportEntry* report = chosenReport();
-        if (!report)
-            return false;
-        showTitle();
-        reconnectDatabase();
-        const ReportFilter checked = reportFilter(*report, connection_, filter);
-        if (!checked.isAccepted()) {
-            filter_->setText(filter);
-            setMessage(checked.refusal);
-            return false;
-        }
-        filter_->setInForce(filter);
-        return load(*report, checked.text);
-    });
-}
-
-/// A loaded control is still that of the report and the user: only its filter is another.
-bool ReportWindow::load(const ReportEntry& report, const QString& filter) {
-    if (isLoaded_)
-        return reload(report, filter);
-    return rebuild(report) && tell(loadReport(grid(), filter));
-}
-
-bool ReportWindow::reload(const ReportEntry& report, const QString& filter) {
-    keepShape(); // before a failure leaves its marks
-    const LoadRecord record = loadReport(grid(), filter);
-    if (!record.isLoaded()) {
-        isLoaded_ = false;
-        rebuild(report);
-    }
-    return tell(record);
-}
-
-bool ReportWindow::rebuild(const ReportEntry& report) {
-    replaceControl();
-    const QString user = chosenUser();
-    if (!readReport(report, user))
-        return false;
-    prepareReport(grid(), connection_, report, user);
-    layOut(user);
-    report_->show();
-    showRights(user);
-    return true;
-}
-
-void ReportWindow::showRights(const QString& user) {
-    rights_->setText(rightsText(connection_, user));
-    rights_->setToolTip(rights_->text());
-}
-
-std::vector<DictionaryField> ReportWindow::fieldsOf(const ReportEntry& report, const QString& user) const {
-    std::vector<DictionaryField> fields;
-    if (!report.dictionary.isEmpty())
-        fields = readFields(connection_, report.dictionary, !user.isEmpty());
-    markCounts(fields, connection_, report.source);
-    return fields;
-}
-
-bool ReportWindow::readReport(const ReportEntry& report, const QString& user) {
-    if (user.contains(u'\'')) { // identities go into statements as they are
-        setMessage(texts::badIdentity(user));
-        return false;
-    }
-    fields_ = fieldsOf(report, user);
-    if (fields_.empty()) {
-        setMessage(texts::noDictionary(report.title));
-        return false;
-    }
-    groups_->setFields(fields_);
-    showFilterKeys();
-    return true;
-}
-
-bool ReportWindow::tell(const LoadRecord& record) {
-    panel_->setOutcome(record.outcome);
-    isLoaded_ = record.isLoaded();
-    if (!isLoaded_)
-        setMessage(texts::loadFailed());
-    else if (database_.isMissing())
-        setMessage(texts::fileGone(database_.name())); // the rows come from what the system still keeps of it
-    if (isLoaded_ && !groups_->isTotals())
-        showSort(grid(), sort_);
-    loadFilter_ = record.filter;
-    hasLoadedItself_ = false;
-    tools_->showReport(report_);
-    return isLoaded_;
-}
-
-ReportShape ReportWindow::shape() const {
-    return {groups_->factors(), groups_->isTotals(), sort_};
-}
-
-void ReportWindow::sortIfHeading() {
-    const GridSurface& surface = grid().MSFlexGrid1();
-    if (surface.MouseRow() >= 0 && surface.MouseRow() < surface.FixedRows())
-        sortByCurrentColumn();
-}
-
-/// The statement of a totals report has no order of its own.
-void ReportWindow::sortByCurrentColumn() {
-    const ReportEntry* report = chosenReport();
-    if (!isLoaded_ || !report)
-        return;
-    setMessage({});
-    if (groups_->isTotals()) {
-        setMessage(texts::totalsKeepOrder());
+/// The list asks from within its own handling of a click, and marks a row when that is over; until there is
+/// an answer it shows the report that is open.
+void ReportWindow::reportChosen(const QModelIndex& now, const QModelIndex& before) {
+    if (!templates_->hasChanges()) {
+        startReport();
         return;
     }
-    guarded([&] {
-        reconnectDatabase();
-        const ReportFilter filter = reportFilter(*report, connection_, filter_->inForce());
-        return tell(sortReport(grid(), filter.text, sort_));
+    QTimer::singleShot(0, this, [this, now = now.row(), before = before.row()] {
+        showChosenReport(before);
+        if (!templates_->mayLeaveShape())
+            return;
+        showChosenReport(now);
+        startReport();
     });
 }
 
-void ReportWindow::replaceControl() {
-    carriesChanges_ = carriesChanges_ || hasChanges();
-    keepShape();
-    delete report_;
-    isLoaded_ = false;
-    report_ = makeControl();
-    panel_->clear();
-    rights_->clear();
+void ReportWindow::showChosenReport(int row) {
+    const QSignalBlocker quiet(reportList_->selectionModel());
+    reportList_->setCurrentIndex(reports_->index(row));
+    reportList_->viewport()->update();
 }
 
-ZkpGridWidget* ReportWindow::makeControl() {
-    auto* control = new ZkpGridWidget(host_);
-    control->hide(); // until it has columns
-    place_->addWidget(control);
-    control->grid().setDesignMode(true); // the user's refresh reads a reshaped report
-    control->grid().Picture1().Tools(u"mnuExport").Visible = false; // its command is not ours
-    tools_->watch(*control);
-    listenToLoads(*control);
-    setReportColours(control->grid(), colours_);
-    const Events* events = &control->grid().events();
-    connect(events, &Events::Click, this, &ReportWindow::sortIfHeading);
-    connect(events, &Events::DblClick, this, &ReportWindow::sortIfHeading);
-    connect(events, &Events::PrintCommand, this, [this, control] {
-        host_->msgBox(zkp::texts::notThereYet(control->grid().Picture1().Tools(u"mnuPrint").Caption),
-                      kMsgBoxInformation, {});
-    });
-    // A new group factor is coloured at once, and not at some later moment.
-    connect(events, &Events::addcolumn, this, [this, control] {
-        guarded([&] {
-            control->grid().DrawInterface();
-            return true;
-        });
-    });
-    connect(events, &Events::MenuSaveTemplate, this, &ReportWindow::saveTemplate);
-    connect(events, &Events::MenuSaveTemplateAs, this, &ReportWindow::saveTemplateAs);
-    connect(events, &Events::MenuLoadTemplate, templates_, &TemplatePane::focusList);
-    return control;
+void ReportWindow::startReport() {
+    if (const ReportEntry* report = chosenReport())
+        session_->choose(*report, session_->user());
+    session_->startAnew();
 }
 
-void ReportWindow::listenToLoads(ZkpGridWidget& control) {
-    const auto listening = std::make_shared<Listening>(control.grid().listenToLoads(
-        {.begins = [this] { tools_->loadBegins(); },
-         .ended =
-             [this](const LoadOutcome& outcome) {
-                 if (outcome.result == ZKPLoaded)
-                     hasLoadedItself_ = true; // unless it turns out to be a load of the window's
-             }}));
-    connect(&control, &QObject::destroyed, this, [listening] {}); // until then it is kept
+void ReportWindow::userChosen(int index) {
+    const auto show = [this](int shown) {
+        const QSignalBlocker quiet(userList_);
+        userList_->setCurrentIndex(shown);
+    };
+    show(user_);
+    if (!templates_->mayLeaveShape())
+        return;
+    show(index);
+    user_ = index;
+    session_->changeUser(index < 0 ? QString() : users_[static_cast<std::size_t>(index)].id);
 }
 
-bool ReportWindow::isLoading() const {
-    const auto controls = findChildren<ZkpGridWidget*>();
-    return std::any_of(controls.begin(), controls.end(),
-                       [](ZkpGridWidget* control) { return control->grid().isLoading(); });
+void ReportWindow::closeEvent(QCloseEvent* event) {
+    if (templates_->mayLeaveShape())
+        event->accept();
+    else
+        event->ignore();
 }
 
 void ReportWindow::changeEvent(QEvent* event) {
     QMainWindow::changeEvent(event);
-    if (event->type() != QEvent::PaletteChange || !report_)
-        return;
-    withdrawReportColours(grid(), colours_);
-    colours_ = palette();
-    fillReportColours(grid(), colours_);
-    grid().DrawInterface();
-    if (isLoaded_)
-        tools_->forgetSteps();
+    if (event->type() == QEvent::PaletteChange && session_)
+        session_->setColours(palette());
 }
 
-void ReportWindow::showFilterKeys() {
+void ReportWindow::showTitle() {
+    const auto& report = session_->report();
+    setWindowTitle(texts::windowTitle(session_->templateName(), report ? report->title : QString(),
+                                      session_->database().name()));
+}
+
+void ReportWindow::showFields() {
+    groups_->choose(session_->shape().factors, session_->shape().isTotals);
+    groups_->setFields(session_->fields());
     QStringList keys;
-    for (const DictionaryField& field : fields_)
+    for (const DictionaryField& field : session_->fields())
         keys += QStringLiteral("%1   %2").arg(field.key, -14).arg(field.caption).toHtmlEscaped();
     filter_->setToolTip(texts::filterTip(keys.join(u'\n')));
-}
-
-template <class F>
-bool ReportWindow::guarded(F call) {
-    try {
-        return call();
-    } catch (const Error& error) {
-        ShowError(*host_, error);
-        return false;
-    }
 }
 
 } // namespace zkp::app

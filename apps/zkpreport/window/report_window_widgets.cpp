@@ -4,6 +4,7 @@
 #include "window/report_tools.h"
 #include "window/report_window.h"
 #include "window/statement_panel.h"
+#include "window/template_controller.h"
 #include "window/template_pane.h"
 #include "window/texts.h"
 
@@ -61,7 +62,7 @@ void ReportWindow::buildWidgets() {
     column->addWidget(makeShapeChoices());
     column->addWidget(message_);
     column->addWidget(place, 1);
-    column->addWidget(&tools_->findLine());
+    column->addWidget(tools_->find.widget());
 
     auto* rows = new QSplitter(Qt::Vertical);
     rows->addWidget(report);
@@ -70,7 +71,7 @@ void ReportWindow::buildWidgets() {
     rows->setSizes({kReportHeight, kPanelHeight});
     auto* lists = new QSplitter(Qt::Vertical);
     lists->addWidget(reportList_);
-    lists->addWidget(templates_);
+    lists->addWidget(&templates_->pane());
     auto* columns = new QSplitter(Qt::Horizontal);
     columns->addWidget(lists);
     columns->addWidget(rows);

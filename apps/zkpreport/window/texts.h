@@ -232,9 +232,6 @@ inline QString statementBuilt() {
 inline QString statementSent() {
     return QStringLiteral("Όπως στάλθηκε στη βάση");
 }
-inline QString recordsOnly(const QString& records) {
-    return QStringLiteral("%1 εγγραφές").arg(records);
-}
 inline QString loadFigures(const QString& records, const QString& statementMs, const QString& wholeMs) {
     return QStringLiteral("%1 εγγραφές · εντολή %2 ms · φόρτωση %3 ms").arg(records, statementMs, wholeMs);
 }

@@ -1,4 +1,4 @@
-#include "widgets/tools/selection_status.h"
+#include "widgets/tools/sums_tool.h"
 
 #include "base/texts_tools.h"
 #include "widgets/grid/grid_view.h"
@@ -6,6 +6,7 @@
 #include "widgets/zkp_grid_widget.h"
 
 #include <QElapsedTimer>
+#include <QLabel>
 
 namespace zkp {
 
@@ -17,70 +18,75 @@ constexpr CellRange kNone{0, 0, -1, -1};
 
 } // namespace
 
-SelectionStatus::SelectionStatus(QLabel& label, std::function<bool()> isLoading, QObject* parent)
-    : QObject(parent)
-    , label_(label)
-    , isLoading_(std::move(isLoading))
+SumsTool::SumsTool(QObject* parent)
+    : ReportTool(parent)
+    , label_(new QLabel)
     , block_(kNone) {
+    label_->setObjectName(QStringLiteral("sums"));
+    label_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    setWidget(label_);
     timer_.setInterval(0);
-    connect(&timer_, &QTimer::timeout, this, &SelectionStatus::slice);
+    connect(&timer_, &QTimer::timeout, this, &SumsTool::slice);
 }
 
-void SelectionStatus::setReport(ZkpGridWidget* report) {
+void SumsTool::reportChanged() {
     timer_.stop();
-    label_.clear();
+    show({});
     sums_.reset();
     block_ = kNone;
-    report_ = report;
-    if (!report)
+    if (!report())
         return;
-    sums_.emplace(report->grid().MSFlexGrid1());
-    const Events& events = report->grid().events();
-    connect(&report->view(), &GridView::surfaceChanged, this, &SelectionStatus::follow);
-    connect(&events, &Events::StopFillIng, this, &SelectionStatus::startAgain);
-    connect(&events, &Events::StopSorting, this, &SelectionStatus::startAgain);
+    sums_.emplace(report()->grid().MSFlexGrid1());
+    connect(&report()->view(), &GridView::surfaceChanged, this, &SumsTool::follow);
+    connect(&report()->grid().events(), &Events::StopSorting, this, &SumsTool::startAgain);
 }
 
-void SelectionStatus::startAgain() {
+/// The cells may hold other values.
+void SumsTool::startAgain() {
     block_ = kNone;
     follow();
 }
 
 /// Any change of the surface brings one here; most are none of the selection.
-void SelectionStatus::follow() {
-    if (!report_)
+void SumsTool::follow() {
+    if (!report())
         return;
-    const CellRange block = selectedBlock(report_->grid().MSFlexGrid1());
+    const CellRange block = selectedBlock(report()->grid().MSFlexGrid1());
     if (block == block_)
         return;
     block_ = block;
     const bool isOneCell = block.top == block.bottom && block.left == block.right;
     if (isOneCell || isEmpty(block)) {
         timer_.stop();
-        label_.clear();
+        show({});
         return;
     }
     sums_->start(block);
     timer_.start();
 }
 
-void SelectionStatus::slice() {
-    if (!report_ || !sums_) {
+void SumsTool::slice() {
+    if (!report() || !sums_) {
         timer_.stop();
         return;
     }
-    if (isLoading_())
+    if (isLoading())
         return;
     QElapsedTimer clock;
     clock.start();
     while (!sums_->walk(kCellsAtATime) && clock.elapsed() < kSliceMs) {
     }
     if (!sums_->isDone()) {
-        label_.setText(texts::summing(sums_->percent()));
+        show(texts::summing(sums_->percent()));
         return;
     }
     timer_.stop();
-    label_.setText(sums_->text());
+    show(sums_->text());
+}
+
+void SumsTool::show(const QString& text) {
+    if (label_)
+        label_->setText(text);
 }
 
 } // namespace zkp

@@ -1,4 +1,4 @@
-#include "widgets/tools/load_progress.h"
+#include "widgets/tools/fetch_figures.h"
 
 #include "base/texts_tools.h"
 #include "print_qt.h"
