@@ -3,7 +3,7 @@
 #include "base/error.h"
 #include "base/format.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/failures.h"
 
 namespace zkp {
 

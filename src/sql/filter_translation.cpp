@@ -2,7 +2,7 @@
 
 #include "base/error.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/statements.h"
 #include "sql/filter_keys.h"
 #include "sql/guarded_filter.h"
 

@@ -1,7 +1,7 @@
 #include "sql/run_time_statement.h"
 
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/statements.h"
 #include "sql/statement_text.h"
 
 namespace zkp {

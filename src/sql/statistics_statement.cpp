@@ -1,7 +1,7 @@
 #include "sql/statistics_statement.h"
 
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/statements.h"
 #include "sql/grouped_statement.h"
 #include "sql/statement_text.h"
 

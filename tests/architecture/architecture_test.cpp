@@ -132,7 +132,7 @@ TEST(GreekTexts, ATextIsFoundAndACommentIsNot) {
         "// \"σχόλιο\"\nauto a = u'Σ'; /* \"ένα\nδύο\" */\nauto b = QStringLiteral(\"Άθροισμα\");\n";
     const std::vector<Finding> findings = greekTextsOutsideTexts({{"src/core/a.cpp", code}});
     EXPECT_EQ(findings,
-              (std::vector<Finding>{{"src/core/a.cpp", 4, "\"Άθροισμα\" belongs in base/texts.h"}}));
+              (std::vector<Finding>{{"src/core/a.cpp", 4, "\"Άθροισμα\" belongs in base/texts/"}}));
 }
 
 TEST(GreekTexts, RawTextsAndEscapedQuotationMarksAreUnderstood) {
@@ -144,8 +144,8 @@ TEST(GreekTexts, RawTextsAndEscapedQuotationMarksAreUnderstood) {
 }
 
 TEST(GreekTexts, TheTextsThemselvesTestsAndProgramsAreFree) {
-    EXPECT_TRUE(greekTextsOutsideTexts({{"src/base/texts.h", "\"Λάθος\""}}).empty());
-    EXPECT_TRUE(greekTextsOutsideTexts({{"src/base/dialog_texts.h", "\"Άκυρο\""}}).empty());
+    EXPECT_TRUE(greekTextsOutsideTexts({{"src/base/texts/rows.h", "\"Λάθος\""}}).empty());
+    EXPECT_TRUE(greekTextsOutsideTexts({{"src/base/texts/dialogs.h", "\"Άκυρο\""}}).empty());
     EXPECT_TRUE(greekTextsOutsideTexts({{"apps/zkpreport/a.cpp", "\"Λάθος\""}}).empty());
 }
 

@@ -1,6 +1,5 @@
 #include "load/percentages.h"
 
-#include "base/texts.h"
 #include "host/scripted_host.h"
 #include "print_qt.h"
 

@@ -2,7 +2,7 @@
 
 #include "base/error.h"
 #include "base/scope_guard.h"
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "host/error_box.h"
 #include "host/host.h"
 #include "widgets/tools/clipboard_copy.h"

@@ -1,7 +1,7 @@
 #include "window/report_window.h"
 
 #include "base/error.h"
-#include "base/texts.h"
+#include "base/texts/columns.h"
 #include "host/error_box.h"
 #include "widgets/qt_host.h"
 #include "window/filter_line.h"

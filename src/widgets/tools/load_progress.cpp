@@ -1,6 +1,6 @@
 #include "widgets/tools/load_progress.h"
 
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 
 #include <QLocale>
 #include <QTimer>

@@ -1,7 +1,7 @@
 #include "widgets/tools/report_find.h"
 
 #include "base/error.h"
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 

@@ -1,6 +1,6 @@
 #include "widgets/tools/load_progress.h"
 
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "print_qt.h"
 
 #include <gtest/gtest.h>
