@@ -69,7 +69,8 @@ TEST(Architecture, TestsAndBenchmarksLinkTheLibraries) {
 
 TEST(IncludeOrder, AHigherFolderSeesALowerOne) {
     EXPECT_TRUE(orderOf("src/load/a.cpp", "#include \"base/error.h\"\n#include \"load/b.h\"\n").empty());
-    EXPECT_TRUE(orderOf("src/grid/zkp_grid.cpp", "#include \"zkp_grid.h\"\n#include \"interaction/a.h\"\n").empty());
+    EXPECT_TRUE(
+        orderOf("src/grid/zkp_grid.cpp", "#include \"zkp_grid.h\"\n#include \"interaction/a.h\"\n").empty());
     EXPECT_TRUE(orderOf("src/widgets/a.h", "#include \"zkp_grid.h\"\n").empty());
     EXPECT_TRUE(orderOf("apps/zkpreport/a.cpp", "#include \"widgets/a.h\"\n#include \"demo/b.h\"\n").empty());
 }
@@ -131,8 +132,7 @@ TEST(GreekTexts, ATextIsFoundAndACommentIsNot) {
     const std::string code =
         "// \"σχόλιο\"\nauto a = u'Σ'; /* \"ένα\nδύο\" */\nauto b = QStringLiteral(\"Άθροισμα\");\n";
     const std::vector<Finding> findings = greekTextsOutsideTexts({{"src/core/a.cpp", code}});
-    EXPECT_EQ(findings,
-              (std::vector<Finding>{{"src/core/a.cpp", 4, "\"Άθροισμα\" belongs in base/texts/"}}));
+    EXPECT_EQ(findings, (std::vector<Finding>{{"src/core/a.cpp", 4, "\"Άθροισμα\" belongs in base/texts/"}}));
 }
 
 TEST(GreekTexts, RawTextsAndEscapedQuotationMarksAreUnderstood) {
