@@ -12,8 +12,8 @@ set(public_headers
   zkp_grid.h
   ado/connection.h ado/command.h ado/constants.h ado/field.h ado/recordset.h
   bag/property_bag.h bag/property_bag_text.h
-  base/currency.h base/error.h base/format.h base/number.h base/scope_guard.h base/text.h base/texts.h
-  base/value.h
+  base/currency.h base/error.h base/format.h base/number.h base/scope_guard.h base/text.h base/value.h
+  base/texts/columns.h base/texts/tools.h
   host/error_box.h host/scripted_host.h
   sql/query_exists.h
   template/template_name.h template/template_rows.h)

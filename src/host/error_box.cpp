@@ -1,7 +1,7 @@
 #include "host/error_box.h"
 
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/failures.h"
 
 namespace zkp {
 

@@ -1,7 +1,7 @@
 #include "host/shell_open.h"
 
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/shell.h"
 #include "host/error_box.h"
 
 #include <QCoreApplication>

@@ -3,7 +3,7 @@
 #include "base/number.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/columns.h"
 #include "core/section_style.h"
 #include "interaction/questions.h"
 

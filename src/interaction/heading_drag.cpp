@@ -1,7 +1,7 @@
 #include "interaction/heading_drag.h"
 
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/columns.h"
 #include "core/paint_scopes.h"
 #include "interaction/questions.h"
 

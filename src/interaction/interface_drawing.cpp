@@ -2,7 +2,7 @@
 
 #include "base/scope_guard.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/rows.h"
 #include "core/paint_scopes.h"
 #include "core/section_style.h"
 

@@ -1,7 +1,7 @@
 #include "interaction/menu_commands.h"
 
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/columns.h"
 #include "interaction/owner_guard.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "interaction/menu_table.h"
 
-#include "base/texts.h"
+#include "base/texts/menus.h"
 
 namespace zkp {
 

@@ -1,7 +1,7 @@
 #include "interaction/surface_events.h"
 
 #include "base/number.h"
-#include "base/texts.h"
+#include "base/texts/rows.h"
 #include "interaction/menu_table.h"
 #include "interaction/owner_guard.h"
 

@@ -2,7 +2,7 @@
 
 #include "base/error.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/rows.h"
 
 namespace zkp {
 

@@ -1,6 +1,6 @@
 #include "load/field_list.h"
 
-#include "base/texts.h"
+#include "base/texts/fields.h"
 
 namespace zkp {
 

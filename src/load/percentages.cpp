@@ -3,7 +3,7 @@
 #include "base/error_in_flight.h"
 #include "base/format.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/failures.h"
 #include "core/state/lifetime.h"
 
 namespace zkp {

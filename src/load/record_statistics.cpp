@@ -4,7 +4,7 @@
 #include "base/error.h"
 #include "base/number.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/fields.h"
 #include "base/value.h"
 
 namespace zkp {

@@ -3,7 +3,7 @@
 #include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/scope_guard.h"
-#include "base/texts.h"
+#include "base/texts/failures.h"
 #include "load/record_runs.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "load/source_check.h"
 
-#include "base/texts.h"
+#include "base/texts/failures.h"
 
 namespace zkp {
 

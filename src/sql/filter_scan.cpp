@@ -1,7 +1,7 @@
 #include "sql/filter_scan.h"
 
-#include "base/filter_texts.h"
 #include "base/text.h"
+#include "base/texts/filters.h"
 #include "sql/filter_words.h"
 
 #include <algorithm>

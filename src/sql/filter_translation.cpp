@@ -3,7 +3,7 @@
 #include "base/error.h"
 #include "base/error_in_flight.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/statements.h"
 #include "sql/filter_keys.h"
 #include "sql/guarded_filter.h"
 

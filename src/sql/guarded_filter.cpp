@@ -1,7 +1,7 @@
 #include "sql/guarded_filter.h"
 
-#include "base/filter_texts.h"
 #include "base/text.h"
+#include "base/texts/filters.h"
 #include "sql/filter_keys.h"
 
 namespace zkp {

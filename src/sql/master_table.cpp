@@ -2,7 +2,7 @@
 
 #include "base/error_in_flight.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/statements.h"
 #include "sql/statement_text.h"
 
 namespace zkp {

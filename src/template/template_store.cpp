@@ -3,7 +3,7 @@
 #include "base/error.h"
 #include "base/number.h"
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/failures.h"
 #include "base/value.h"
 #include "template/template_file.h"
 

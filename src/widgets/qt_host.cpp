@@ -1,6 +1,6 @@
 #include "widgets/qt_host.h"
 
-#include "base/dialog_texts.h"
+#include "base/texts/dialogs.h"
 #include "widgets/dialogs/dialog_texts.h"
 #include "widgets/grid/palette_colors.h"
 

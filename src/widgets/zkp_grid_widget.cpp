@@ -1,7 +1,7 @@
 #include "widgets/zkp_grid_widget.h"
 
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/speech.h"
 #include "host/error_box.h"
 #include "widgets/band/band_bar.h"
 #include "widgets/grid/grid_view.h"

@@ -14,10 +14,10 @@ const std::string kFrontDoorHeader = "zkp_grid.h";
 /// Folders from low to high; those of one rank stand side by side.
 const std::map<std::string, int>& ranks() {
     static const std::map<std::string, int> ranks{
-        {"base", 0},       {"store", 1},   {"ado", 2},        {"surface", 2},     {"menu", 2},
-        {"bag", 2},        {"host", 2},    {"core", 3},       {"sql", 4},         {"load", 5},
-        {"template", 6},   {"output", 6},  {"chart", 6},      {"interaction", 6}, {kFrontDoor, 7},
-        {"drawing", 8},    {"widgets", 9}, {"script", 9},     {"apps", 10},       {"designer", 10}};
+        {"base", 0},     {"store", 1},   {"ado", 2},    {"surface", 2},     {"menu", 2},
+        {"bag", 2},      {"host", 2},    {"core", 3},   {"sql", 4},         {"load", 5},
+        {"template", 6}, {"output", 6},  {"chart", 6},  {"interaction", 6}, {kFrontDoor, 7},
+        {"drawing", 8},  {"widgets", 9}, {"script", 9}, {"apps", 10},       {"designer", 10}};
     return ranks;
 }
 

@@ -9,7 +9,7 @@ namespace zkp::architecture {
 /// Files with more lines than `most`.
 std::vector<Finding> filesLongerThan(std::size_t most, const std::vector<SourceFile>& files);
 
-/// Greek text between quotation marks outside base/texts.h and base/dialog_texts.h, in files below src/.
+/// Greek text between quotation marks outside base/texts/, in files below src/.
 /// Comments and single characters may be Greek.
 std::vector<Finding> greekTextsOutsideTexts(const std::vector<SourceFile>& files);
 

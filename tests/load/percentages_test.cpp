@@ -1,7 +1,6 @@
 #include "core/report_state.h"
 #include "load/percentages.h"
 
-#include "base/texts.h"
 #include "host/scripted_host.h"
 #include "print_qt.h"
 

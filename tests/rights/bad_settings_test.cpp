@@ -1,4 +1,4 @@
-#include "base/texts.h"
+#include "base/texts/statements.h"
 #include "rights/report_fixture.h"
 
 #include <QElapsedTimer>

@@ -1,4 +1,4 @@
-#include "base/filter_texts.h"
+#include "base/texts/filters.h"
 #include "rights/report_fixture.h"
 
 using namespace Qt::StringLiterals;

@@ -1,4 +1,4 @@
-#include "base/filter_texts.h"
+#include "base/texts/filters.h"
 #include "print_qt.h"
 #include "sql/guarded_filter.h"
 

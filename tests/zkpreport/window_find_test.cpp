@@ -1,4 +1,4 @@
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "widgets/tools/find_line.h"
 #include "widgets/tools/find_marks.h"
 #include "window_fixture.h"

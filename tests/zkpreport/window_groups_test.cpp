@@ -1,4 +1,4 @@
-#include "base/texts.h"
+#include "base/texts/rows.h"
 #include "core/enums.h"
 #include "widgets/grid/palette_colors.h"
 #include "window/texts.h"

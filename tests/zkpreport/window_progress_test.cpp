@@ -1,4 +1,4 @@
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "window_fixture.h"
 
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "base/filter_texts.h"
+#include "base/texts/filters.h"
 #include "window_fixture.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Pictures for the eye of what stands around a report: the find line with its marks, the sums in the status
 // line, the progress of a load. Under the build folder: pictures/*.png.
 
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "window_picture_fixture.h"
 
 #include <QInputMethodEvent>

@@ -1,5 +1,5 @@
-#include "base/texts.h"
-#include "base/texts_tools.h"
+#include "base/texts/columns.h"
+#include "base/texts/tools.h"
 #include "widgets/tools/reshape_snapshot.h"
 #include "window/texts.h"
 #include "window_fixture.h"

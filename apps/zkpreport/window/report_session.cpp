@@ -1,6 +1,5 @@
 #include "window/report_session.h"
 
-#include "base/texts.h"
 #include "widgets/zkp_grid_widget.h"
 #include "window/report_colours.h"
 #include "window/report_filter.h"

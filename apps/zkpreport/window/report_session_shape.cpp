@@ -1,4 +1,4 @@
-#include "base/texts.h"
+#include "base/texts/columns.h"
 #include "widgets/zkp_grid_widget.h"
 #include "window/report_colours.h"
 #include "window/report_session.h"

@@ -1,7 +1,7 @@
 #include "widgets/access/spoken_cell.h"
 
 #include "base/text.h"
-#include "base/texts.h"
+#include "base/texts/speech.h"
 #include "core/enums.h"
 
 namespace zkp {

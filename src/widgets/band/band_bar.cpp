@@ -1,7 +1,7 @@
 #include "widgets/band/band_bar.h"
 
-#include "base/dialog_texts.h"
 #include "base/text.h"
+#include "base/texts/dialogs.h"
 #include "widgets/band/band_tools.h"
 #include "widgets/band/row_plan.h"
 

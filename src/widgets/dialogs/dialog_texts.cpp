@@ -1,6 +1,6 @@
 #include "widgets/dialogs/dialog_texts.h"
 
-#include "base/dialog_texts.h"
+#include "base/texts/dialogs.h"
 
 #include <QAbstractButton>
 #include <QGroupBox>

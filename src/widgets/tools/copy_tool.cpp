@@ -1,7 +1,7 @@
 #include "widgets/tools/copy_tool.h"
 
 #include "base/scope_guard.h"
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "widgets/tools/clipboard_copy.h"
 #include "widgets/zkp_grid_widget.h"
 

@@ -1,6 +1,6 @@
 #include "widgets/tools/fetch_figures.h"
 
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 
 #include <QLocale>
 

@@ -1,6 +1,6 @@
 #include "widgets/tools/find_line.h"
 
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #include "widgets/tools/find_tool.h"
 
 #include "base/error.h"
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "widgets/grid/grid_view.h"
 #include "widgets/tools/find_line.h"
 #include "widgets/tools/find_marks.h"

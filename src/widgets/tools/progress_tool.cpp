@@ -1,7 +1,7 @@
 #include "widgets/tools/progress_tool.h"
 
 #include "ado/connection.h"
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "widgets/zkp_grid_widget.h"
 
 #include <QLabel>

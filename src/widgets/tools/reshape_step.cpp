@@ -1,6 +1,6 @@
 #include "widgets/tools/reshape_step.h"
 
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 
 #include <QStringList>
 

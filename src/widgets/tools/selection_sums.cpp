@@ -1,7 +1,7 @@
 #include "widgets/tools/selection_sums.h"
 
 #include "base/format.h"
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "core/enums.h"
 #include "widgets/grid/surface_selection.h"
 

@@ -1,6 +1,6 @@
 #include "widgets/tools/sums_tool.h"
 
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "widgets/grid/grid_view.h"
 #include "widgets/grid/surface_selection.h"
 #include "widgets/zkp_grid_widget.h"

@@ -1,7 +1,7 @@
 #include "widgets/tools/undo_tool.h"
 
 #include "base/scope_guard.h"
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "widgets/grid/grid_view.h"
 #include "widgets/zkp_grid_widget.h"
 

@@ -1,5 +1,5 @@
 #include "ado/connection.h"
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "print_qt.h"
 #include "widgets/grid/grid_view.h"
 #include "widgets/tools/copy_tool.h"

@@ -1,6 +1,6 @@
 #include "widgets/tools/selection_sums.h"
 
-#include "base/texts_tools.h"
+#include "base/texts/tools.h"
 #include "core/enums.h"
 #include "print_qt.h"
 #include "widgets/grid/surface_selection.h"
