@@ -4,6 +4,7 @@
 #include "core/events.h"
 #include "core/record_source.h"
 #include "core/report_state.h"
+#include "sql/typed_filter.h"
 #include "surface/grid_surface.h"
 
 namespace zkp {
@@ -36,21 +37,23 @@ public:
 
     void setFilter(const QString& text) {
         if (isFilterTyped())
-            typedInForce_ = text;
+            typed_.overwrite(text);
         write(state.Filter, text, QStringLiteral("Filter"));
     }
-    /// Gives `Filter` a condition that a person typed.
     void setTypedFilter(const QString& condition) {
-        typed_ = condition;
-        typedInForce_ = condition;
+        typed_.take(condition);
         write(state.Filter, condition, QStringLiteral("Filter"));
     }
-    /// Whether `Filter` is what a person typed, or what the builders have made of it.
-    bool isFilterTyped() const { return !typed_.isEmpty() && state.Filter == typedInForce_; }
-    /// Puts a typed filter back as it was before the builders wrote over it.
+    bool isFilterTyped() const { return typed_.isIn(state.Filter); }
+    const TypedFilter& typedFilter() const { return typed_; }
+    /// Puts a filter that a person typed back as it was before the builders wrote over it.
     void beginFilter() {
-        if (isFilterTyped() && state.Filter != typed_)
-            setFilter(typed_);
+        if (!isFilterTyped())
+            return;
+        if (const QString typed = typed_.begin(state.Filter); typed != state.Filter)
+            setFilter(typed);
+        else
+            typed_.overwrite(typed);
     }
     void setGroupby(const QString& text) { write(state.Groupby, text, QStringLiteral("Groupby")); }
     void setOrderBy(const QString& text) { write(state.OrderBy, text, QStringLiteral("OrderBy")); }
@@ -63,8 +66,7 @@ private:
 
     const GridSurface& surface_;
     RecordSource source_;
-    QString typed_;        ///< the last condition that a person typed
-    QString typedInForce_; ///< `Filter` as it was last written for that condition
+    TypedFilter typed_;
     Events& events_;
 };
 

@@ -162,6 +162,18 @@ TEST_F(UserFilterTest, ItCanNotSwitchTheStandingConditionOff) {
     EXPECT_GT(reload(claims(false).columns).size(), alive.size());
 }
 
+TEST_F(UserFilterTest, AHostMayPutConditionsOfItsOwnInFront) {
+    prepare(claims(false), QString::fromStdString(users().front().id));
+    grid->setUserFilter(u"PAID>=0 or PAID<0 or STATUS<>'Άκυρη'"_s);
+    grid->setFilter(u"(CATEGORY='ΖΩΉΣ' or CATEGORY='ΠΥΡΌΣ' or PAID>0) and "_s + grid->Filter());
+    const Rows expected = sorted(
+        byHand("SELECT CLAIMNO, PAID FROM CLAIMSDATA WHERE STATUS <> 'Άκυρη' AND (CATEGORY = 'Ζωής' OR "
+               "CATEGORY = 'Πυρός' OR PAID > 0) AND " +
+               rightsOf(users().front())));
+    for (int load = 0; load < 3; ++load)
+        EXPECT_EQ(reload(claims(false).columns), expected);
+}
+
 TEST_F(UserFilterTest, AKeyInAConstantIsRefusedWhereKeysAreTranslated) {
     const QString typed = u"CUSTOMER='Α BRANCH Β'"_s;
     prepare(policies(true));
