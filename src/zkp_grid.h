@@ -117,16 +117,17 @@ public:
     Q_INVOKABLE void Fill(const ado::ConnectionPtr& P_CN, const QVariant& P_RecordSource, int P_SourceType,
                           const QString& P_ProductID = {}, int P_Remote = 0);
     /// Takes a filter from a person, so that no text shows a row beyond the user's rights or the report's
-    /// standing condition. It must be one condition, and goes to `Filter` in brackets, `( A=1 or B=2 )`; a blank
-    /// one lets every row pass (" 0=0 "). Gives an empty text, or in Greek why and at which character (from
-    /// 1) the filter is refused; then `Filter` stays and nothing is reported. Refused are brackets, quotes and
-    /// [names] without their other half, comments, `;`, signs that mean something else in some databases,
-    /// keys within constants and [names] of a report composed at run time, and, unless `AllowSubselects` is
-    /// True, questions to other tables.
+    /// standing condition. It must be one condition, and goes to `Filter` in brackets, `( A=1 or B=2 )`; a
+    /// blank one lets every row pass (" 0=0 "). Gives an empty text, or in Greek why and at which character
+    /// (from 1) the filter is refused; then `Filter` stays and nothing is reported. Refused are brackets,
+    /// quotes and [names] without their other half, comments, `;`, signs that mean something else in some
+    /// databases, keys within constants and [names] of a report composed at run time, and, unless
+    /// `AllowSubselects` is True, questions to other tables.
     ///
-    /// Each load begins with it again until `Filter` is written, with the standing condition in front where it
-    /// has one, whatever the text holds. Call it behind `Fill`: keys are looked up in the dictionary. What could
-    /// not be looked up then is when the report loads, and lets no row through where it must be refused.
+    /// Each load begins with it again until `Filter` is written, with the standing condition in front where
+    /// it has one, whatever the text holds. Call it behind `Fill`: keys are looked up in the dictionary. What
+    /// could not be looked up then is when the report loads, and lets no row through where it must be
+    /// refused.
     Q_INVOKABLE QString setUserFilter(const QString& text);
     /// Checks what the source needs, then FillGrid. Throws the first failed check (kErrPropertyNotSet,
     /// kErrCommandNotSet) and loads nothing then.

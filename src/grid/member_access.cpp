@@ -68,8 +68,8 @@ MemberIndex makeIndex() {
         const QMetaMethod method = meta.method(i);
         const QString name = QString::fromLatin1(method.name());
         // A setter that answers, as setUserFilter does, is a method.
-        const bool isSetter = name.startsWith(QLatin1String("set")) &&
-                              method.returnMetaType() == QMetaType::fromType<void>();
+        const bool isSetter =
+            name.startsWith(QLatin1String("set")) && method.returnMetaType() == QMetaType::fromType<void>();
         const QString plainName = isSetter ? name.sliced(3) : name;
         Member& member = index[nameKey(plainName)];
         member.name = plainName;

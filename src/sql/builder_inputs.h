@@ -9,6 +9,7 @@
 #include "core/state/identity_state.h"
 #include "core/state/master_table_state.h"
 #include "core/state/sorting_state.h"
+#include "sql/typed_filter.h"
 #include "surface/grid_surface.h"
 
 namespace zkp {
@@ -58,21 +59,23 @@ public:
 
     void setFilter(const QString& text) {
         if (isFilterTyped())
-            typedInForce_ = text;
+            typed_.overwrite(text);
         write(data_.Filter, text, QStringLiteral("Filter"));
     }
-    /// Gives `Filter` a condition that a person typed.
     void setTypedFilter(const QString& condition) {
-        typed_ = condition;
-        typedInForce_ = condition;
+        typed_.take(condition);
         write(data_.Filter, condition, QStringLiteral("Filter"));
     }
-    /// Whether `Filter` is what a person typed, or what the builders have made of it.
-    bool isFilterTyped() const { return !typed_.isEmpty() && data.Filter == typedInForce_; }
-    /// Puts a typed filter back as it was before the builders wrote over it.
+    bool isFilterTyped() const { return typed_.isIn(data.Filter); }
+    const TypedFilter& typedFilter() const { return typed_; }
+    /// Puts a filter that a person typed back as it was before the builders wrote over it.
     void beginFilter() {
-        if (isFilterTyped() && data.Filter != typed_)
-            setFilter(typed_);
+        if (!isFilterTyped())
+            return;
+        if (const QString typed = typed_.begin(data.Filter); typed != data.Filter)
+            setFilter(typed);
+        else
+            typed_.overwrite(typed);
     }
     void setGroupby(const QString& text) { flags_.setGroupby(text); }
     void setOrderBy(const QString& text) { write(data_.OrderBy, text, QStringLiteral("OrderBy")); }
@@ -91,8 +94,7 @@ private:
     const RecordSource& source_;
     GroupFactorFlags& flags_;
     const GridSurface& surface_;
-    QString typed_;        ///< the last condition that a person typed
-    QString typedInForce_; ///< `Filter` as it was last written for that condition
+    TypedFilter typed_;
     Events& events_;
 };
 

@@ -150,8 +150,7 @@ private:
     }
 
     static bool isPlain(QStringView inside) {
-        return std::all_of(inside.begin(), inside.end(),
-                           [](QChar c) { return isWordPart(c) || c == u' '; });
+        return std::all_of(inside.begin(), inside.end(), [](QChar c) { return isWordPart(c) || c == u' '; });
     }
 
     void take(qsizetype end) {

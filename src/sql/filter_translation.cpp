@@ -23,16 +23,14 @@ const QString kNothing = QStringLiteral(" 0=1 ");
 class FilterTranslation::Text {
 public:
     /// The report's standing condition in front. An empty filter leaves a dangling " and ", as wanted, and a
-    /// host's filter that holds the condition's text already does not get it again.
-    Text(const BuilderInputs& inputs, bool isTyped) {
-        const QString given = nameKey(inputs.data.Filter);
+    /// host's text that holds the condition already does not get it again.
+    Text(const BuilderInputs& inputs, const TypedFilter* typed) {
+        hosts_ = typed ? upper(typed->front()) : nameKey(inputs.data.Filter);
         const QString standing = nameKey(inputs.master.MasterFilter);
-        if (!standing.isEmpty() && (isTyped || !given.contains(standing)))
-            hosts_ = u'(' + standing + QStringLiteral(") and ");
-        if (isTyped)
-            typed_.emplace(given);
-        else
-            hosts_ += given;
+        if (!standing.isEmpty() && !hosts_.contains(standing))
+            hosts_.prepend(u'(' + standing + QStringLiteral(") and "));
+        if (typed)
+            typed_.emplace(typed->condition());
     }
 
     /// False when the key does not occur.
@@ -58,7 +56,7 @@ void FilterTranslation::TranslateFilter(QString& Tables) {
     if (isBlank(inputs_.data.clmns) || (isBlank(inputs_.master.MasterFilter) && letsAllPass))
         return;
     try {
-        Text text(inputs_, isTyped);
+        Text text(inputs_, isTyped ? &inputs_.typedFilter() : nullptr);
         translate(text, Tables);
         if (!text.refusal().isEmpty())
             throw Error(kErrInvalidCall, text.refusal());

@@ -21,11 +21,11 @@ const QString& trapFile() {
     static const QString file = [] {
         const QString made = folder.filePath(u"office.db"_s);
         demo::makeDatabase({made, 150, 1});
-        ado::Connection connection;
-        connection.Open(u"sqlite:"_s + made);
+        const auto connection = std::make_shared<ado::Connection>();
+        connection->Open(u"sqlite:"_s + made);
         for (const QString& dictionary : {u"POLICIESCLMNS"_s, u"CLAIMSCLMNS"_s})
-            connection.Execute(u"INSERT INTO %1 (dtfld, Cptn, visbl, Expr) VALUES ('TRAP', 'x', 1, "
-                               "'case when 1=1 then '')'' else '' or 1=1 or ('' end')"_s.arg(dictionary));
+            connection->Execute(u"INSERT INTO %1 (dtfld, Cptn, visbl, Expr) VALUES ('TRAP', 'x', 1, "
+                                "'case when 1=1 then '')'' else '' or 1=1 or ('' end')"_s.arg(dictionary));
         return made;
     }();
     return file;
@@ -41,8 +41,9 @@ std::vector<User> userOfEachLevel() {
     std::vector<User> chosen;
     for (const auto& level : trapDatabase().column("SELECT DISTINCT Ierarxia FROM SECUSERS ORDER BY 1")) {
         std::vector<std::pair<long long, User>> all;
-        for (const auto& row : trapDatabase().rows("SELECT UserID, Ierarxia, IerID FROM SECUSERS WHERE Ierarxia = '" +
-                                                   level + "' ORDER BY 1")) {
+        for (const auto& row :
+             trapDatabase().rows("SELECT UserID, Ierarxia, IerID FROM SECUSERS WHERE Ierarxia = '" + level +
+                                 "' ORDER BY 1")) {
             const User user{row.at(0), row.at(1), row.at(2)};
             all.emplace_back(
                 trapDatabase().number("SELECT count(*) FROM POLICIESDATA WHERE " + rightsOf(user)), user);
@@ -90,31 +91,42 @@ const std::vector<Road>& roads() {
     const QString claims = u"CLAIMSDATA"_s;
     const QString ofPolicies = u"POLICIESCLMNS"_s;
     const QString ofClaims = u"CLAIMSCLMNS"_s;
-    const QStringList policy{u"POLICYNO"_s, u"BRANCH"_s, u"PREMIUM"_s};
+    const QStringList policy{u"POLICYNO"_s, u"BRANCH"_s, u"STATUS"_s, u"PREMIUM"_s};
     const QStringList claim{u"CLAIMNO"_s, u"STATUS"_s, u"PAID"_s};
     const std::string fromPolicies = " FROM POLICIESDATA WHERE 1 = 1";
     const std::string fromClaims = " FROM CLAIMSDATA WHERE STATUS <> 'Άκυρη'";
     static const std::vector<Road> all{
         {"NormalSQL", &ZkpGrid::NormalSQL, report(policies, ofPolicies, policy, false), policy,
-         "SELECT POLICYNO, BRANCH, PREMIUM" + fromPolicies},
+         "SELECT POLICYNO, BRANCH, STATUS, PREMIUM" + fromPolicies},
         {"RunTimeSQL", &ZkpGrid::RunTimeSQL, report(policies, ofPolicies, policy, true), policy,
-         "SELECT POLICYNO, BRANCH, PREMIUM" + fromPolicies},
+         "SELECT POLICYNO, BRANCH, STATUS, PREMIUM" + fromPolicies},
         {"RunTimeSQL with a standing condition", &ZkpGrid::RunTimeSQL, report(claims, ofClaims, claim, true),
          claim, "SELECT CLAIMNO, STATUS, PAID" + fromClaims},
-        {"RunTimeSQLCounter", &ZkpGrid::RunTimeSQLCounter, report(claims, ofClaims, claim, true), {u"Cnt"_s},
-         "SELECT count(*)" + fromClaims, {}, true},
-        {"GroupedSQL", &ZkpGrid::GroupedSQL,
+        {"RunTimeSQLCounter",
+         &ZkpGrid::RunTimeSQLCounter,
+         report(claims, ofClaims, claim, true),
+         {u"Cnt"_s},
+         "SELECT count(*)" + fromClaims,
+         {},
+         true},
+        {"GroupedSQL",
+         &ZkpGrid::GroupedSQL,
          totals(report(policies, ofPolicies, {u"SUM_PREMIUM"_s}, false), u"POLICYNO"_s),
          {u"POLICYNO"_s, u"Cnt"_s, u"SUM_PREMIUM"_s},
-         "SELECT POLICYNO, count(*), sum(PREMIUM)" + fromPolicies, " GROUP BY 1"},
-        {"RunTimeStatsSQL", &ZkpGrid::RunTimeStatsSQL,
-         totals(report(claims, ofClaims, {u"SUM_PAID"_s}, true), u"CLAIMNO"_s),
-         {u"CLAIMNO"_s, u"Cnt"_s, u"SUM_PAID"_s}, "SELECT CLAIMNO, count(*), sum(PAID)" + fromClaims,
+         "SELECT POLICYNO, count(*), sum(PREMIUM)" + fromPolicies,
          " GROUP BY 1"},
-        {"RunTimePosSql", &ZkpGrid::RunTimePosSql,
+        {"RunTimeStatsSQL",
+         &ZkpGrid::RunTimeStatsSQL,
+         totals(report(claims, ofClaims, {u"SUM_PAID"_s}, true), u"CLAIMNO"_s),
+         {u"CLAIMNO"_s, u"Cnt"_s, u"SUM_PAID"_s},
+         "SELECT CLAIMNO, count(*), sum(PAID)" + fromClaims,
+         " GROUP BY 1"},
+        {"RunTimePosSql",
+         &ZkpGrid::RunTimePosSql,
          totals(report(policies, ofPolicies, {u"POS_PREMIUM"_s, u"POS_CNT"_s}, true), u"POLICYNO"_s),
          {u"POLICYNO"_s, u"SUM_PREMIUM"_s, u"CNT"_s},
-         "SELECT POLICYNO, sum(PREMIUM), count(*)" + fromPolicies, " GROUP BY 1"},
+         "SELECT POLICYNO, sum(PREMIUM), count(*)" + fromPolicies,
+         " GROUP BY 1"},
     };
     return all;
 }

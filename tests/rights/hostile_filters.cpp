@@ -223,15 +223,9 @@ const char* const kStandingCondition[] = {
 };
 
 const char* const kGreek[] = {
-    "ΥΠΟΚΑΤΑΣΤΗΜΑ='Βόλος' ή 1=1",
-    "BRANCH='Βόλος' or 'ά'='ά'",
-    "BRANCH='Βόλος’ or 1=1 or ’x'='x'",
-    "BRANCH=‘Βόλος’ or 1=1",
-    "BRANCH=«Βόλος» or 1=1",
-    "1=1；drop table POLICIES",
-    "1 in (ſelect 1) or 1=1",
-    "1=1 unıon ſelect 1",
-    "BRANCH='Βόλος' or（1=1）",
+    "ΥΠΟΚΑΤΑΣΤΗΜΑ='Βόλος' ή 1=1", "BRANCH='Βόλος' or 'ά'='ά'", "BRANCH='Βόλος’ or 1=1 or ’x'='x'",
+    "BRANCH=‘Βόλος’ or 1=1",      "BRANCH=«Βόλος» or 1=1",     "1=1；drop table POLICIES",
+    "1 in (ſelect 1) or 1=1",     "1=1 unıon ſelect 1",        "BRANCH='Βόλος' or（1=1）",
 };
 
 template <std::size_t Count>
@@ -244,7 +238,8 @@ void addControlCharacters(std::vector<HostileFilter>& all) {
     for (const char16_t sign : {u'\0', u'\u0001', u'\u001b', u'\u007f', u'\u0085', u'\u200b'})
         all.push_back({"control characters", QStringLiteral("1=1 or 1=1%1").arg(QChar(sign))});
     all.push_back({"control characters", QStringLiteral("1=1") + QChar(u'\0') + u')'});
-    all.push_back({"control characters", QStringLiteral("BRANCH='x") + QChar(u'\0') + QStringLiteral("' or 1=1")});
+    all.push_back(
+        {"control characters", QStringLiteral("BRANCH='x") + QChar(u'\0') + QStringLiteral("' or 1=1")});
     all.push_back({"control characters", QStringLiteral("sel\u200bect 1 or 1=1")});
 }
 

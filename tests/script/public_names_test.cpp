@@ -7,10 +7,10 @@
 namespace {
 
 constexpr const char* kPlainMembers[] = {
-    "RCrw",           "ParamName",      "ParamType",    "ParamValue", "rsEmpty",      "RecCount",
-    "LossRatio",      "StartingLine",   "LineCounter",  "Fund",       "SqlOnRunTime", "OrderByPhysical",
-    "OrderByAlias",   "SQLRun",         "FilterTables", "sortOut",    "Idle",         "PreRow",
-    "PreBackColor",   "PreForeColor",   "indkey",       "EditCancel", "mGroupCount",  "PrintLeftMargin",
+    "RCrw",           "ParamName",       "ParamType",      "ParamValue", "rsEmpty",      "RecCount",
+    "LossRatio",      "StartingLine",    "LineCounter",    "Fund",       "SqlOnRunTime", "OrderByPhysical",
+    "OrderByAlias",   "SQLRun",          "FilterTables",   "sortOut",    "Idle",         "PreRow",
+    "PreBackColor",   "PreForeColor",    "indkey",         "EditCancel", "mGroupCount",  "PrintLeftMargin",
     "PrintTopMargin", "RecordSourceSQL", "AllowSubselects"};
 
 constexpr const char* kSurfaceProperties[] = {"AllowBigSelection",

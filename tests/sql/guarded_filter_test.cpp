@@ -191,8 +191,8 @@ TEST(GuardedFilter, QuestionsToOtherTablesAreRefused) {
 }
 
 TEST(GuardedFilter, QuestionsToOtherTablesMayBeAllowed) {
-    for (const char* typed : {"A in (select B from T)", "exists (select 1 from T)", "A in T",
-                              "A in (select 1 union select 2)"})
+    for (const char* typed :
+         {"A in (select B from T)", "exists (select 1 from T)", "A in T", "A in (select 1 union select 2)"})
         EXPECT_EQ(guardedFilter(QString::fromUtf8(typed), true).condition,
                   QStringLiteral("( %1 )").arg(QString::fromUtf8(typed)));
     EXPECT_EQ(guardedFilter(QStringLiteral("A=1) union (select 1"), true).refusal, bracketClosedFirst(4));
