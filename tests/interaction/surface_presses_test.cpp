@@ -290,5 +290,3 @@ TEST_F(ClickTest, AClickUpToTheFirstColumnBehindTheFactorsChartsAgainBeforeItIsR
         }
     }
 }
-
-} // namespace

@@ -1,5 +1,6 @@
 #include "window/report_list.h"
 #include "window/statement_panel.h"
+#include "base/texts/filters.h"
 #include "window/texts.h"
 #include "window_fixture.h"
 
@@ -111,7 +112,7 @@ TEST_F(WindowTest, ARefusedFilterIsToldAndLeavesTheRows) {
     applyFilter(QStringLiteral("PREMIUM>100"));
     const int before = recordCount();
     applyFilter(QStringLiteral("1=1) or (1=1"));
-    EXPECT_EQ(window->message(), texts::bracketClosedFirst());
+    EXPECT_EQ(window->message(), zkp::texts::bracketClosedFirst(4));
     EXPECT_EQ(recordCount(), before);
     EXPECT_EQ(filter().text(), QStringLiteral("1=1) or (1=1"));
     QTest::keyClick(&filter(), Qt::Key_Escape);
@@ -192,7 +193,7 @@ TEST_F(WindowTest, UnknownReportsAndUsersAreTold) {
     EXPECT_EQ(window->message(), texts::noSuchUser(QStringLiteral("x' or '1'='1")));
     EXPECT_EQ(recordCount(), 0);
     EXPECT_FALSE(open({{}, {}, QStringLiteral("PREMIUM>1 --")}));
-    EXPECT_EQ(window->message(), texts::commentInFilter());
+    EXPECT_EQ(window->message(), zkp::texts::commentInFilter(11));
     EXPECT_EQ(recordCount(), 0);
 }
 
@@ -234,13 +235,13 @@ TEST_F(WindowTest, AMessageMovesNothingAndGoesWithTheNextKeyOrClick) {
     ASSERT_TRUE(open());
     const QPoint place = view().mapTo(window.get(), QPoint());
     applyFilter(QStringLiteral("BRANCH='"));
-    ASSERT_EQ(window->message(), texts::quoteLeftOpen());
+    ASSERT_EQ(window->message(), zkp::texts::quoteLeftOpen(8));
     EXPECT_EQ(view().mapTo(window.get(), QPoint()), place);
     filter().setFocus();
     QTest::keyClick(&filter(), Qt::Key_Escape);
     EXPECT_EQ(window->message(), QString());
     applyFilter(QStringLiteral("BRANCH='"));
-    ASSERT_EQ(window->message(), texts::quoteLeftOpen());
+    ASSERT_EQ(window->message(), zkp::texts::quoteLeftOpen(8));
     QTest::mouseClick(view().viewport(), Qt::LeftButton, Qt::NoModifier,
                       view().page().cellRect(3, 1).center());
     EXPECT_EQ(window->message(), QString());

@@ -1,3 +1,4 @@
+#include "base/texts/filters.h"
 #include "window_templates_fixture.h"
 
 #include <filesystem>
@@ -76,7 +77,7 @@ TEST_F(WindowTemplates, ATemplatesFilterIsCheckedLikeAUsers) {
     store(kMonthly, bag);
     openTemplate(kMonthly);
     expectRefusal(texts::templateNotOpened(kMonthly),
-                  texts::templateFilterRefused(breakout, texts::bracketClosedFirst()));
+                  texts::templateFilterRefused(breakout, zkp::texts::bracketClosedFirst(4)));
     EXPECT_EQ(rows(), before);
 }
 

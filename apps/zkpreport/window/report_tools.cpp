@@ -1,5 +1,6 @@
 #include "window/report_tools.h"
 
+#include "widgets/zkp_grid_widget.h"
 #include "window/texts.h"
 
 #include <QMainWindow>

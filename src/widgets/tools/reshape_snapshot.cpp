@@ -64,7 +64,7 @@ Column comparable(Column column) {
 }
 
 bool sameRecord(const Column& a, const Column& b) {
-#define ZKP_SAME(Type, Name) &&a.Name == b.Name
+#define ZKP_SAME(Type, Name, ...) &&a.Name == b.Name
     return true ZKP_COLUMN_MEMBERS(ZKP_SAME);
 #undef ZKP_SAME
 }
