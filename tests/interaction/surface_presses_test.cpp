@@ -275,7 +275,6 @@ protected:
                           core.reporting,
                           [this] { log << u"chart of %1"_s.arg(state.clicked.get()); }};
 };
-};
 
 TEST_F(ClickTest, AClickUpToTheFirstColumnBehindTheFactorsChartsAgainBeforeItIsRaised) {
     state.grouping.GroupFactorCount = 1;
@@ -290,3 +289,5 @@ TEST_F(ClickTest, AClickUpToTheFirstColumnBehindTheFactorsChartsAgainBeforeItIsR
         }
     }
 }
+
+} // namespace
