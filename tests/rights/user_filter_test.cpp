@@ -90,7 +90,7 @@ TEST_F(UserFilterTest, OrdinaryFiltersGiveTheirRowsOnEitherRoad) {
         {u"PREMIUM between 100 and 200"_s, "PREMIUM BETWEEN 100 AND 200"},
         {u"BRANCH in ('Βόλος','Πάτρα') and INSTALMENTS in (1, 2)"_s,
          "BRANCH IN ('Βόλος', 'Πάτρα') AND INSTALMENTS IN (1, 2)"},
-        {u"BRANCH<>'Ο''Νιλ (Α) -- ;' and PREMIUM>900"_s, "PREMIUM > 900"},
+        {u"BRANCH<>'Ο''Νιλ (Α) -- ;' and PREMIUM>900"_s, "PREMIUM > 900 AND BRANCH IS NOT NULL"},
         {u"\tPREMIUM>500\nand PREMIUM<600"_s, "PREMIUM > 500 AND PREMIUM < 600"},
         {u""_s, "1 = 1"},
         {u"  "_s, "1 = 1"},
@@ -135,10 +135,10 @@ TEST_F(UserFilterTest, EachLoadBeginsWithItAgain) {
         const QString filter = grid->Filter();
         EXPECT_EQ(first, policiesWhere(expected));
         EXPECT_EQ(reload(policies(false).columns), first);
-        grid->setCol(3);
-        grid->SortByColumn({});
-        EXPECT_EQ(sorted(rowsOf(recordset(), policies(false).columns)), first);
         EXPECT_EQ(grid->Filter(), filter) << "it does not grow";
+        if (runTime) // where the column's own expression is one of the statement's
+            grid->SortByColumn({});
+        EXPECT_EQ(sorted(rowsOf(recordset(), policies(false).columns)), first);
     }
 }
 
