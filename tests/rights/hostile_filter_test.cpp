@@ -15,7 +15,7 @@ namespace zkp::rights {
 
 namespace {
 
-/// A small database whose dictionaries have a key with quoted brackets in its expression.
+/// A small database whose short dictionaries have a key with quoted brackets in its expression.
 const QString& trapFile() {
     static const QTemporaryDir folder;
     static const QString file = [] {
@@ -23,9 +23,13 @@ const QString& trapFile() {
         demo::makeDatabase({made, 150, 1});
         const auto connection = std::make_shared<ado::Connection>();
         connection->Open(u"sqlite:"_s + made);
-        for (const QString& dictionary : {u"POLICIESCLMNS"_s, u"CLAIMSCLMNS"_s})
+        for (const QString& dictionary : {u"POLICIESCLMNS"_s, u"CLAIMSCLMNS"_s}) {
+            connection->Execute(
+                u"DELETE FROM %1 WHERE dtfld NOT IN ('POLICYNO', 'CLAIMNO', 'BRANCH', 'CUSTOMER', 'PLATE', "
+                "'STATUS', 'PREMIUM', 'PAID', 'RETAINED', 'SIZECLASS')"_s.arg(dictionary));
             connection->Execute(u"INSERT INTO %1 (dtfld, Cptn, visbl, Expr) VALUES ('TRAP', 'x', 1, "
                                 "'case when 1=1 then '')'' else '' or 1=1 or ('' end')"_s.arg(dictionary));
+        }
         return made;
     }();
     return file;

@@ -244,16 +244,16 @@ void addControlCharacters(std::vector<HostileFilter>& all) {
 }
 
 void addLongOnes(std::vector<HostileFilter>& all) {
-    all.push_back({"very long", QStringLiteral("1=0 or ").repeated(500) + QStringLiteral("1=1")});
-    all.push_back({"very long", QStringLiteral("(").repeated(20'000) + QStringLiteral("1=1")});
-    all.push_back({"very long", QStringLiteral(")").repeated(20'000)});
-    all.push_back({"very long", QStringLiteral("1=1)") + QStringLiteral(" ").repeated(20'000) +
-                                    QStringLiteral("or (1=1")});
-    all.push_back({"very long", QStringLiteral("BRANCH='") + QStringLiteral("''").repeated(10'000) +
+    all.push_back({"very long", QStringLiteral("1=0 or ").repeated(100) + QStringLiteral("1=1")});
+    all.push_back({"very long", QStringLiteral("(").repeated(5'000) + QStringLiteral("1=1")});
+    all.push_back({"very long", QStringLiteral(")").repeated(5'000)});
+    all.push_back({"very long",
+                   QStringLiteral("1=1)") + QStringLiteral(" ").repeated(5'000) + QStringLiteral("or (1=1")});
+    all.push_back({"very long", QStringLiteral("BRANCH='") + QStringLiteral("''").repeated(1'000) +
                                     QStringLiteral("' or 1=1")});
-    all.push_back({"very long", QStringLiteral("(").repeated(300) + QStringLiteral("1=1 or 1=1") +
-                                    QStringLiteral(")").repeated(300)});
-    all.push_back({"very long", QStringLiteral("BRANCH='") + QStringLiteral("Ω").repeated(20'000)});
+    all.push_back({"very long", QStringLiteral("(").repeated(80) + QStringLiteral("1=1 or 1=1") +
+                                    QStringLiteral(")").repeated(80)});
+    all.push_back({"very long", QStringLiteral("BRANCH='") + QStringLiteral("Ω").repeated(5'000)});
 }
 
 std::vector<HostileFilter> makeAll() {
