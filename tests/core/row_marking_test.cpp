@@ -192,7 +192,8 @@ TEST_F(RowMarkingTest, WithTwoHeadingRowsNoHeadingTakesColoursOfABand) {
     EXPECT_EQ(cells(4), u"bbbb"_s);
 }
 
-/// It ends with `PaintReady` True whatever it was: within a handler of a marking, moves are heard again.
+/// The selection is heard after it, whether it was or not: within a handler of a marking, moves are heard
+/// again.
 TEST_F(RowMarkingTest, RedrawRowLetsMovesBeHeardAgain) {
     bool once = false;
     QObject::connect(&grid->events(), &Events::PropertyChanged, [&](PropertyArgs& e) {
