@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <concepts>
 #include <cstddef>
+#include <exception>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -36,9 +37,9 @@ private:
 /// or a struct of several of them.
 ///
 /// While it is told, a listener may stop itself and others, let others in (they hear of the next time),
-/// tell anew, and destroy the whole list: then nobody else is told. One that throws ends the round, and
-/// whoever told gets what was thrown. A list to which nobody ever listened is one null pointer. All of it
-/// belongs to one thread.
+/// tell anew, and destroy the whole list: then nobody else is told. One that throws silences nobody: the
+/// others are told, then whoever told gets what was thrown first. A list to which nobody ever listened is one
+/// null pointer. All of it belongs to one thread.
 template <class Listener>
 class Listeners {
 public:
@@ -77,9 +78,18 @@ public:
             --shared->rounds;
             shared->forgetStopped();
         });
+        std::exception_ptr failure;
         for (std::size_t i = 0; i < count && !shared->isOver; ++i)
-            if (const std::shared_ptr<const Listener> listener = shared->listeners[i].lock())
-                tellOne(*listener);
+            if (const std::shared_ptr<const Listener> listener = shared->listeners[i].lock()) {
+                try {
+                    tellOne(*listener);
+                } catch (...) {
+                    if (!failure)
+                        failure = std::current_exception();
+                }
+            }
+        if (failure)
+            std::rethrow_exception(failure);
     }
 
     /// Calls every listener, where a listener is a function.

@@ -4,6 +4,7 @@
 #include "script/child_objects.h"
 #include "script/script_control.h"
 #include "script/script_object.h"
+#include "surface/surface_names.def"
 
 namespace zkp::script {
 
@@ -11,7 +12,7 @@ namespace zkp::script {
 class SurfaceObject : public ScriptObject {
     Q_OBJECT
 
-#define ZKP_SCRIPT_VALUE(Type, Name)                                                                         \
+#define ZKP_SCRIPT_VALUE(Type, Name, ...)                                                                    \
     Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
     Type Name() const {                                                                                      \
         return surface().Name();                                                                             \
@@ -19,37 +20,56 @@ class SurfaceObject : public ScriptObject {
     void set##Name(const Type& value) {                                                                      \
         surface().set##Name(value);                                                                          \
     }
-#define ZKP_SCRIPT_READ(Type, Name)                                                                          \
+#define ZKP_SCRIPT_ANSWER(Type, Name)                                                                        \
     Q_PROPERTY(Type Name READ Name)                                                                          \
     Type Name() const {                                                                                      \
         return surface().Name();                                                                             \
     }
-#define ZKP_SCRIPT_INDEXED(Type, Name)                                                                       \
+#define ZKP_SCRIPT_LOOK(Type, Name, ...)                                                                     \
+    Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
+    Type Name() const {                                                                                      \
+        return surface().look().Name;                                                                        \
+    }                                                                                                        \
+    void set##Name(const Type& value) {                                                                      \
+        SurfaceLook look = surface().look();                                                                 \
+        look.Name = value;                                                                                   \
+        surface().setLook(look);                                                                             \
+    }
+#define ZKP_SCRIPT_PLACE(Type, Name, ...)                                                                    \
+    Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
+    Type Name() const {                                                                                      \
+        return surface().place().Name;                                                                       \
+    }                                                                                                        \
+    void set##Name(const Type& value) {                                                                      \
+        SurfacePlace place = surface().place();                                                              \
+        place.Name = value;                                                                                  \
+        surface().setPlace(place);                                                                           \
+    }
+#define ZKP_SCRIPT_INDEXED(Type, Name, ...)                                                                  \
     Q_INVOKABLE Type Name(int index) const {                                                                 \
         return surface().Name(index);                                                                        \
     }                                                                                                        \
     Q_INVOKABLE void set##Name(int index, const Type& value) {                                               \
         surface().set##Name(index, value);                                                                   \
     }
-#define ZKP_SCRIPT_LOOK(Type, Name)                                                                          \
-    Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
-    Type Name() const {                                                                                      \
-        return surface().look().Name;                                                                        \
+#define ZKP_SCRIPT_BY_CELL(Type, Name)                                                                       \
+    Q_INVOKABLE Type Name(int row, int col) const {                                                          \
+        return surface().Name(row, col);                                                                     \
     }                                                                                                        \
-    void set##Name(const Type& value) {                                                                      \
-        GridSurface::Look look = surface().look();                                                           \
-        look.Name = value;                                                                                   \
-        surface().setLook(look);                                                                             \
+    Q_INVOKABLE void set##Name(int row, int col, const Type& value) {                                        \
+        surface().set##Name(row, col, value);                                                                \
     }
-#define ZKP_SCRIPT_PLACE(Type, Name)                                                                         \
-    Q_PROPERTY(Type Name READ Name WRITE set##Name)                                                          \
-    Type Name() const {                                                                                      \
-        return surface().place().Name;                                                                       \
-    }                                                                                                        \
-    void set##Name(const Type& value) {                                                                      \
-        GridSurface::Place place = surface().place();                                                        \
-        place.Name = value;                                                                                  \
-        surface().setPlace(place);                                                                           \
+#define ZKP_SCRIPT_ROW_ANSWER(Type, Name)                                                                    \
+    Q_INVOKABLE Type Name(int row) const {                                                                   \
+        return surface().Name(row);                                                                          \
+    }
+#define ZKP_SCRIPT_METHOD(Name, parameters, arguments)                                                       \
+    Q_INVOKABLE void Name parameters {                                                                       \
+        surface().Name arguments;                                                                            \
+    }
+#define ZKP_SCRIPT_MOUSE(Name, ...)                                                                          \
+    Q_INVOKABLE void Name(int button, int shift, double x, double y, int row, int col) {                     \
+        surface().Name({button, shift, x, y, row, col});                                                     \
     }
 
 public:
@@ -61,50 +81,31 @@ public:
         return QStringLiteral("GridSurface");
     }
 
-    ZKP_SCRIPT_VALUE(int, Rows)
-    ZKP_SCRIPT_VALUE(int, Cols)
-    ZKP_SCRIPT_VALUE(int, FixedRows)
-    ZKP_SCRIPT_VALUE(int, FixedCols)
-    ZKP_SCRIPT_VALUE(QString, Text)
-    ZKP_SCRIPT_VALUE(int, MergeCells)
-    ZKP_SCRIPT_VALUE(int, Row)
-    ZKP_SCRIPT_VALUE(int, Col)
-    ZKP_SCRIPT_VALUE(int, RowSel)
-    ZKP_SCRIPT_VALUE(int, ColSel)
-    ZKP_SCRIPT_VALUE(int, TopRow)
-    ZKP_SCRIPT_VALUE(int, LeftCol)
-    ZKP_SCRIPT_VALUE(int, FillStyle)
-    ZKP_SCRIPT_VALUE(bool, Redraw)
-    ZKP_SCRIPT_READ(int, BottomRow)
-    ZKP_SCRIPT_READ(int, MouseRow)
-    ZKP_SCRIPT_READ(int, MouseCol)
-    /// How many body rows a view would show; 0 counts all of them as visible.
-    Q_PROPERTY(int VisibleRows READ VisibleRows WRITE setVisibleRows)
-    int VisibleRows() const {
-        return surface().VisibleRows();
-    }
-    void setVisibleRows(int rows) {
-        surface().setVisibleRows(rows);
-    }
+    ZKP_GRIDSURFACE_VALUES(ZKP_SCRIPT_VALUE)
+    ZKP_GRIDSURFACE_CURSOR(ZKP_SCRIPT_VALUE)
+    ZKP_GRIDSURFACE_ANSWERS(ZKP_SCRIPT_ANSWER)
+    ZKP_GRIDSURFACE_CELL_STYLE(ZKP_SCRIPT_VALUE)
+    ZKP_GRIDSURFACE_PART_STYLE(ZKP_SCRIPT_VALUE)
+    ZKP_GRIDSURFACE_LOOK(ZKP_SCRIPT_LOOK)
+    ZKP_GRIDSURFACE_PLACE(ZKP_SCRIPT_PLACE)
+    ZKP_GRIDSURFACE_OF_COLUMN(ZKP_SCRIPT_INDEXED)
+    ZKP_GRIDSURFACE_OF_ROW(ZKP_SCRIPT_INDEXED)
+    ZKP_GRIDSURFACE_ROW_ANSWERS(ZKP_SCRIPT_ROW_ANSWER)
+    ZKP_GRIDSURFACE_BY_CELL(ZKP_SCRIPT_BY_CELL)
+    ZKP_GRIDSURFACE_BY_INDEX(ZKP_SCRIPT_INDEXED)
+    ZKP_GRIDSURFACE_METHODS(ZKP_SCRIPT_METHOD)
+    ZKP_GRIDSURFACE_MOUSE(ZKP_SCRIPT_MOUSE)
 
-    ZKP_SCRIPT_VALUE(uint, BackColor)
-    ZKP_SCRIPT_VALUE(uint, ForeColor)
-    ZKP_SCRIPT_VALUE(uint, BackColorFixed)
-    ZKP_SCRIPT_VALUE(uint, ForeColorFixed)
-    ZKP_SCRIPT_VALUE(uint, CellBackColor)
-    ZKP_SCRIPT_VALUE(uint, CellForeColor)
-    ZKP_SCRIPT_VALUE(QString, CellFontName)
-    ZKP_SCRIPT_VALUE(double, CellFontSize)
-    ZKP_SCRIPT_VALUE(bool, CellFontBold)
-    ZKP_SCRIPT_VALUE(bool, CellFontItalic)
-    ZKP_SCRIPT_VALUE(bool, CellFontUnderline)
-    ZKP_SCRIPT_VALUE(bool, CellFontStrikeThrough)
-    ZKP_SCRIPT_VALUE(QString, FontName)
-    ZKP_SCRIPT_VALUE(double, FontSize)
-    ZKP_SCRIPT_VALUE(bool, FontBold)
-    ZKP_SCRIPT_VALUE(bool, FontItalic)
-    ZKP_SCRIPT_VALUE(bool, FontUnderline)
-    ZKP_SCRIPT_VALUE(bool, FontStrikethru)
+#undef ZKP_SCRIPT_VALUE
+#undef ZKP_SCRIPT_ANSWER
+#undef ZKP_SCRIPT_LOOK
+#undef ZKP_SCRIPT_PLACE
+#undef ZKP_SCRIPT_INDEXED
+#undef ZKP_SCRIPT_BY_CELL
+#undef ZKP_SCRIPT_ROW_ANSWER
+#undef ZKP_SCRIPT_METHOD
+#undef ZKP_SCRIPT_MOUSE
+
     Q_PROPERTY(QVariant Font READ Font WRITE setFont)
     QVariant Font() const {
         const ScriptObjectPtr font =
@@ -113,131 +114,6 @@ public:
     }
     void setFont(const QVariant& font) {
         surface().setFont(FontObject::fontIn(font));
-    }
-
-    ZKP_SCRIPT_LOOK(uint, BackColorBkg)
-    ZKP_SCRIPT_LOOK(uint, BackColorSel)
-    ZKP_SCRIPT_LOOK(uint, ForeColorSel)
-    ZKP_SCRIPT_LOOK(uint, GridColor)
-    ZKP_SCRIPT_LOOK(uint, GridColorFixed)
-    ZKP_SCRIPT_LOOK(int, GridLines)
-    ZKP_SCRIPT_LOOK(int, GridLineWidth)
-    ZKP_SCRIPT_LOOK(int, BorderStyle)
-    ZKP_SCRIPT_LOOK(int, FocusRect)
-    ZKP_SCRIPT_LOOK(int, HighLight)
-    ZKP_SCRIPT_LOOK(int, SelectionMode)
-    ZKP_SCRIPT_LOOK(int, FontWidth)
-    ZKP_SCRIPT_LOOK(int, MousePointer)
-    ZKP_SCRIPT_LOOK(bool, AllowBigSelection)
-    ZKP_SCRIPT_LOOK(bool, Enabled)
-    ZKP_SCRIPT_LOOK(QString, Tag)
-    ZKP_SCRIPT_LOOK(QVariant, Panel)
-
-    ZKP_SCRIPT_PLACE(double, Left)
-    ZKP_SCRIPT_PLACE(double, Top)
-    ZKP_SCRIPT_PLACE(double, Width)
-    ZKP_SCRIPT_PLACE(double, Height)
-    ZKP_SCRIPT_PLACE(bool, Visible)
-
-    ZKP_SCRIPT_INDEXED(QString, TextArray)
-    ZKP_SCRIPT_INDEXED(int, RowData)
-    ZKP_SCRIPT_INDEXED(QVariant, ColData)
-    ZKP_SCRIPT_INDEXED(int, ColDataType)
-    ZKP_SCRIPT_INDEXED(int, ColWidth)
-    ZKP_SCRIPT_INDEXED(bool, ColHidden)
-    ZKP_SCRIPT_INDEXED(int, ColAlignment)
-    ZKP_SCRIPT_INDEXED(int, FixedAlignment)
-    ZKP_SCRIPT_INDEXED(int, RowHeight)
-    ZKP_SCRIPT_INDEXED(bool, MergeCol)
-    ZKP_SCRIPT_INDEXED(bool, MergeRow)
-
-#undef ZKP_SCRIPT_VALUE
-#undef ZKP_SCRIPT_READ
-#undef ZKP_SCRIPT_INDEXED
-#undef ZKP_SCRIPT_LOOK
-#undef ZKP_SCRIPT_PLACE
-
-    Q_INVOKABLE QString TextMatrix(int row, int col) const {
-        return surface().TextMatrix(row, col);
-    }
-    Q_INVOKABLE void setTextMatrix(int row, int col, const QString& text) {
-        surface().setTextMatrix(row, col, text);
-    }
-    Q_INVOKABLE void setColPosition(int col, int newPosition) {
-        surface().setColPosition(col, newPosition);
-    }
-    Q_INVOKABLE bool RowHidden(int row) const {
-        return surface().RowHidden(row);
-    }
-    Q_INVOKABLE bool RowIsVisible(int row) const {
-        return surface().RowIsVisible(row);
-    }
-    /// Sorts at once; there is nothing to read.
-    Q_INVOKABLE void setSort(int code) {
-        surface().setSort(code);
-    }
-
-    Q_INVOKABLE void Clear() {
-        surface().Clear();
-    }
-    Q_INVOKABLE void AddItem(const QString& text, int index) {
-        surface().AddItem(text, index);
-    }
-    Q_INVOKABLE void AddItem(const QString& text) {
-        surface().AddItem(text);
-    }
-    Q_INVOKABLE void RemoveItem(int index) {
-        surface().RemoveItem(index);
-    }
-    Q_INVOKABLE void Select(int row, int col, int rowSel, int colSel) {
-        surface().Select(row, col, rowSel, colSel);
-    }
-    Q_INVOKABLE void Select(int row, int col) {
-        surface().Select(row, col);
-    }
-    Q_INVOKABLE void Refresh() {
-        surface().Refresh();
-    }
-    Q_INVOKABLE void SetFocus() {
-        surface().SetFocus();
-    }
-
-    // What a user does; coordinates in twips, row and column those under the pointer.
-    Q_INVOKABLE void userPress(int button, int shift, double x, double y, int row, int col) {
-        surface().userPress({button, shift, x, y, row, col});
-    }
-    Q_INVOKABLE void userMove(int button, int shift, double x, double y, int row, int col) {
-        surface().userMove({button, shift, x, y, row, col});
-    }
-    Q_INVOKABLE void userRelease(int button, int shift, double x, double y, int row, int col) {
-        surface().userRelease({button, shift, x, y, row, col});
-    }
-    Q_INVOKABLE void userClick(int row, int col) {
-        surface().userClick(row, col);
-    }
-    Q_INVOKABLE void userDblClick(int row, int col) {
-        surface().userDblClick(row, col);
-    }
-    Q_INVOKABLE void userKey(int code, int shift) {
-        surface().userKey(code, shift);
-    }
-    Q_INVOKABLE void userKeyUp(int code, int shift) {
-        surface().userKeyUp(code, shift);
-    }
-    Q_INVOKABLE void userChar(int ascii) {
-        surface().userChar(ascii);
-    }
-    Q_INVOKABLE void userSelect(int row, int col) {
-        surface().userSelect(row, col);
-    }
-    Q_INVOKABLE void userScroll(int topRow, int leftCol) {
-        surface().userScroll(topRow, leftCol);
-    }
-    Q_INVOKABLE void userResizeColumn(int col, int twips) {
-        surface().userResizeColumn(col, twips);
-    }
-    Q_INVOKABLE void userDrop(int from, int to) {
-        surface().userDrop(from, to);
     }
 
 private:

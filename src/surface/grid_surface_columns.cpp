@@ -3,8 +3,6 @@
 #include "base/error.h"
 #include "surface/grid_surface_data.h"
 
-#include <algorithm>
-
 namespace zkp {
 
 namespace {
@@ -12,10 +10,6 @@ namespace {
 constexpr int kMaxCols = 32767; // hosts count columns in 16 bits
 
 } // namespace
-
-void GridSurface::Data::failCol(int col) {
-    throw Error(kErrInvalidColumn, QStringLiteral("There is no column %1").arg(col));
-}
 
 int GridSurface::Cols() const {
     return d->columns.size();
@@ -28,14 +22,10 @@ void GridSurface::setCols(int cols) {
         d->columns.append();
     while (d->columns.size() > cols) {
         const ColumnId gone = d->columns.removeLast();
-        d->texts.dropColumn(gone);
-        d->styles.dropColumn(gone);
-        for (Data::Layout& layout : d->layouts)
-            if (gone < layout.size())
-                layout[gone] = {};
+        d->cells.forgetColumn(gone);
+        d->styles.forgetColumn(gone);
     }
-    d->cursor.keepInside(d->shape());
-    d->changed();
+    d->resized();
 }
 
 int GridSurface::FixedCols() const {
@@ -49,23 +39,21 @@ void GridSurface::setFixedCols(int cols) {
     d->fixedCols = cols;
     if (atLeft)
         d->cursor.leftCol = cols;
-    d->cursor.keepInside(d->shape());
-    d->changed();
+    d->resized();
 }
 
-QVariant GridSurface::ColData(int col) const {
-    d->checkCol(col);
-    return d->columns.at(col).tag;
-}
+#define ZKP_READ(Type, Name, member)                                                                         \
+    Type GridSurface::Name(int col) const {                                                                  \
+        d->checkCol(col);                                                                                    \
+        return d->columns.at(col).member;                                                                    \
+    }
+ZKP_GRIDSURFACE_OF_COLUMN(ZKP_READ)
+#undef ZKP_READ
 
+/// No view shows it.
 void GridSurface::setColData(int col, const QVariant& tag) {
     d->checkCol(col);
     d->columns.at(col).tag = tag;
-}
-
-int GridSurface::ColDataType(int col) const {
-    d->checkCol(col);
-    return d->columns.at(col).dataType;
 }
 
 void GridSurface::setColDataType(int col, int type) {
@@ -73,58 +61,34 @@ void GridSurface::setColDataType(int col, int type) {
     if (d->columns.at(col).dataType == type)
         return;
     d->columns.at(col).dataType = type;
-    d->changed();
-}
-
-int GridSurface::ColWidth(int col) const {
-    d->checkCol(col);
-    return d->columns.at(col).width;
+    d->news.changed();
 }
 
 void GridSurface::setColWidth(int col, int twips) {
-    d->checkCol(col);
-    d->columns.at(col).width = twips < 0 ? SurfaceColumn::kDefaultWidth : twips;
-    d->changed();
-}
-
-bool GridSurface::ColHidden(int col) const {
-    d->checkCol(col);
-    return d->columns.at(col).hidden;
+    d->setColumn(col, &SurfaceColumn::width, twips < 0 ? SurfaceColumn::kDefaultWidth : twips);
 }
 
 void GridSurface::setColHidden(int col, bool hidden) {
-    d->checkCol(col);
-    d->columns.at(col).hidden = hidden;
-    d->changed();
-}
-
-int GridSurface::ColAlignment(int col) const {
-    d->checkCol(col);
-    return d->columns.at(col).alignment;
+    d->setColumn(col, &SurfaceColumn::hidden, hidden);
 }
 
 void GridSurface::setColAlignment(int col, int alignment) {
-    d->checkCol(col);
-    d->columns.at(col).alignment = alignment;
-    d->changed();
-}
-
-int GridSurface::FixedAlignment(int col) const {
-    d->checkCol(col);
-    return d->columns.at(col).fixedAlignment;
+    d->setColumn(col, &SurfaceColumn::alignment, alignment);
 }
 
 void GridSurface::setFixedAlignment(int col, int alignment) {
-    d->checkCol(col);
-    d->columns.at(col).fixedAlignment = alignment;
-    d->changed();
+    d->setColumn(col, &SurfaceColumn::fixedAlignment, alignment);
+}
+
+void GridSurface::setMergeCol(int col, bool merge) {
+    d->setColumn(col, &SurfaceColumn::merge, merge);
 }
 
 void GridSurface::setColPosition(int col, int newPosition) {
     d->checkCol(col);
     d->checkCol(newPosition);
     d->columns.move(col, newPosition);
-    d->changed();
+    d->news.changed();
 }
 
 } // namespace zkp

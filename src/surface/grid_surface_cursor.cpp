@@ -16,9 +16,9 @@ void GridSurface::Data::moveCursor(const SurfaceCursor& next) {
     const bool current = next.row != old.row || next.col != old.col;
     const bool selected = current || next.rowSel != old.rowSel || next.colSel != old.colSel;
     if (selected)
-        changed();
+        news.changed();
     else if (scrolling)
-        scrolled();
+        news.scrolled();
     if (scrolling)
         raise(surface.notifications.scrolled);
     if (current)
@@ -27,19 +27,18 @@ void GridSurface::Data::moveCursor(const SurfaceCursor& next) {
         raise(surface.notifications.selectionChanged);
 }
 
-int GridSurface::Row() const {
-    return d->cursor.row;
-}
+#define ZKP_READ(Type, Name, member)                                                                         \
+    Type GridSurface::Name() const {                                                                         \
+        return d->cursor.member;                                                                             \
+    }
+ZKP_GRIDSURFACE_CURSOR(ZKP_READ)
+#undef ZKP_READ
 
 void GridSurface::setRow(int row) {
     d->checkRow(row);
     SurfaceCursor next = d->cursor;
     next.moveTo(row, next.col);
     d->moveCursor(next);
-}
-
-int GridSurface::Col() const {
-    return d->cursor.col;
 }
 
 void GridSurface::setCol(int col) {
@@ -49,19 +48,11 @@ void GridSurface::setCol(int col) {
     d->moveCursor(next);
 }
 
-int GridSurface::RowSel() const {
-    return d->cursor.rowSel;
-}
-
 void GridSurface::setRowSel(int row) {
     d->checkRow(row);
     SurfaceCursor next = d->cursor;
     next.rowSel = row;
     d->moveCursor(next);
-}
-
-int GridSurface::ColSel() const {
-    return d->cursor.colSel;
 }
 
 void GridSurface::setColSel(int col) {
@@ -72,8 +63,7 @@ void GridSurface::setColSel(int col) {
 }
 
 void GridSurface::Select(int row, int col, int rowSel, int colSel) {
-    d->checkRow(row);
-    d->checkCol(col);
+    d->checkCell(row, col);
     SurfaceCursor next = d->cursor;
     next.moveTo(row, col);
     if (rowSel != -1) {
@@ -91,20 +81,12 @@ CellRange GridSurface::selection() const {
     return d->cursor.selection();
 }
 
-int GridSurface::TopRow() const {
-    return d->cursor.topRow;
-}
-
 void GridSurface::setTopRow(int row) {
     if (row != d->cursor.topRow) // with no body row it stands one past the last row
         d->checkRow(row);
     SurfaceCursor next = d->cursor;
-    next.topRow = SurfaceCursor::scrollable(row, d->fixedRows, d->order.size());
+    next.topRow = SurfaceCursor::scrollable(row, d->fixedRows, d->rows.size());
     d->moveCursor(next);
-}
-
-int GridSurface::LeftCol() const {
-    return d->cursor.leftCol;
 }
 
 void GridSurface::setLeftCol(int col) {
@@ -116,7 +98,7 @@ void GridSurface::setLeftCol(int col) {
 }
 
 int GridSurface::BottomRow() const {
-    const int last = d->order.size() - 1;
+    const int last = d->rows.size() - 1;
     if (d->visibleRows == 0)
         return last;
     return static_cast<int>(
@@ -139,15 +121,6 @@ void GridSurface::setVisibleRows(int rows) {
     d->visibleRows = std::max(0, rows);
     if (BottomRow() > bottom)
         Data::raise(notifications.visibleRowsGrew);
-}
-
-int GridSurface::roomInViews() const {
-    int room = 0;
-    views.tell([&](const SurfaceView& view) {
-        if (view.room)
-            room = std::max(room, view.room());
-    });
-    return room;
 }
 
 } // namespace zkp

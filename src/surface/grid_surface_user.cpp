@@ -14,23 +14,14 @@ int GridSurface::MouseCol() const {
     return d->mouseCol;
 }
 
-void GridSurface::userPress(const SurfaceMouse& mouse) {
-    d->mouseRow = mouse.row;
-    d->mouseCol = mouse.col;
-    Data::raise(notifications.mouseDown, mouse);
-}
-
-void GridSurface::userMove(const SurfaceMouse& mouse) {
-    d->mouseRow = mouse.row;
-    d->mouseCol = mouse.col;
-    Data::raise(notifications.mouseMove, mouse);
-}
-
-void GridSurface::userRelease(const SurfaceMouse& mouse) {
-    d->mouseRow = mouse.row;
-    d->mouseCol = mouse.col;
-    Data::raise(notifications.mouseUp, mouse);
-}
+#define ZKP_MOUSE(Name, notification)                                                                        \
+    void GridSurface::Name(const SurfaceMouse& mouse) {                                                      \
+        d->mouseRow = mouse.row;                                                                             \
+        d->mouseCol = mouse.col;                                                                             \
+        Data::raise(notifications.notification, mouse);                                                      \
+    }
+ZKP_GRIDSURFACE_MOUSE(ZKP_MOUSE)
+#undef ZKP_MOUSE
 
 void GridSurface::userClick(int row, int col) {
     d->mouseRow = row;
@@ -57,7 +48,7 @@ void GridSurface::userChar(int ascii) {
 }
 
 void GridSurface::userSelect(int row, int col) {
-    const int rows = d->order.size();
+    const int rows = d->rows.size();
     const int cols = d->columns.size();
     if (rows == 0 || cols == 0)
         return;
@@ -71,7 +62,7 @@ void GridSurface::userSelect(int row, int col) {
 
 void GridSurface::userScroll(int topRow, int leftCol) {
     SurfaceCursor next = d->cursor;
-    next.topRow = SurfaceCursor::scrollable(topRow, d->fixedRows, d->order.size());
+    next.topRow = SurfaceCursor::scrollable(topRow, d->fixedRows, d->rows.size());
     next.leftCol = SurfaceCursor::scrollable(leftCol, d->fixedCols, d->columns.size());
     d->moveCursor(next);
 }
@@ -81,7 +72,7 @@ void GridSurface::userResizeColumn(int col, int twips) {
         for (int c = 0; c < Cols(); ++c)
             if (!d->columns.at(c).hidden)
                 d->columns.at(c).width = std::max(0, twips);
-        d->changed();
+        d->news.changed();
     } else {
         setColWidth(col, std::max(0, twips));
     }

@@ -27,6 +27,7 @@ struct SurfaceColumn {
 class SurfaceColumns {
 public:
     int size() const { return static_cast<int>(order_.size()); }
+    bool has(int position) const { return static_cast<unsigned>(position) < static_cast<unsigned>(size()); }
     ColumnId id(int position) const { return order_[static_cast<std::size_t>(position)]; }
     const SurfaceColumn& at(int position) const { return columns_[id(position)]; }
     SurfaceColumn& at(int position) { return columns_[id(position)]; }

@@ -128,15 +128,28 @@ TEST(Listeners, ARoundMayTellAnew) {
     EXPECT_EQ(h.tell(), "ac");
 }
 
-TEST(Listeners, OneThatThrowsEndsTheRoundOnly) {
+TEST(Listeners, OneThatThrowsSilencesNobodyAndTheFirstFailureIsTold) {
     Heard h;
     const Listening a = h.add('a');
     Listening b = h.add('b', [] { throw std::runtime_error("no"); });
-    const Listening c = h.add('c');
+    const Listening c = h.add('c', [] { throw std::logic_error("nor I"); });
+    const Listening d = h.add('d');
     EXPECT_THROW(h.tell(), std::runtime_error);
-    EXPECT_EQ(h.said, "ab");
+    EXPECT_EQ(h.said, "abcd");
     b.stop();
-    EXPECT_EQ(h.tell(), "ac");
+    EXPECT_THROW(h.tell(), std::logic_error);
+    EXPECT_EQ(h.said, "acd");
+}
+
+TEST(Listeners, OneThatDestroysTheListAndThrowsIsHeard) {
+    Heard h;
+    const Listening a = h.add('a', [&] {
+        h.list.reset();
+        throw std::runtime_error("no");
+    });
+    const Listening b = h.add('b');
+    EXPECT_THROW(h.list->notify(), std::runtime_error);
+    EXPECT_EQ(h.said, "a");
 }
 
 TEST(Listeners, AllGetTheSameArgument) {

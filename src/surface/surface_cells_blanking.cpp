@@ -1,4 +1,4 @@
-#include "surface/grid_surface_data.h"
+#include "surface/surface_cells.h"
 
 #include <algorithm>
 
@@ -17,33 +17,33 @@ bool showsAny(const std::vector<CellBinding>& layout, const std::vector<ColumnId
 
 } // namespace
 
-bool GridSurface::Data::blankColumns(const CellRange& block) {
-    const bool whole = block.top == fixedRows && block.bottom == order.size() - 1;
-    if (!whole || layouts.size() > kMaxLayouts / 2)
+bool SurfaceCells::blankColumns(const CellRange& block, int fixed) {
+    const bool whole = block.top == fixed && block.bottom == rows_.size() - 1;
+    if (!whole || layouts_.size() > kMaxLayouts / 2)
         return false;
     std::vector<ColumnId> blanked;
     for (int col = block.left; col <= block.right; ++col)
-        blanked.push_back(columns.id(col));
-    const FixedCells kept = fixedCells(blanked);
+        blanked.push_back(columns_.id(col));
+    const FixedCells kept = fixedCells(blanked, fixed);
     for (const ColumnId column : blanked)
-        texts.dropColumn(column);
+        texts_.dropColumn(column);
     unbindColumns(blanked);
     for (const auto& [row, column, text] : kept.texts)
-        texts.write(row, column, text);
+        texts_.write(row, column, text);
     for (const auto& [row, layout] : kept.layouts)
-        rows.write(row).layout = layout;
+        rows_.write(row).layout = layout;
     return true;
 }
 
 /// What the fixed rows show in some columns.
-GridSurface::Data::FixedCells GridSurface::Data::fixedCells(const std::vector<ColumnId>& of) const {
+SurfaceCells::FixedCells SurfaceCells::fixedCells(const std::vector<ColumnId>& of, int fixed) const {
     FixedCells cells;
-    for (int row = 0; row < std::min(fixedRows, order.realSize()); ++row) {
-        const RowId id = order.at(row);
-        if (rows.at(id).layout != 0)
-            cells.layouts.push_back({id, rows.at(id).layout});
+    for (int row = 0; row < fixed && rows_.id(row) != kNoRow; ++row) {
+        const RowId id = rows_.id(row);
+        if (rows_.at(id).layout != 0)
+            cells.layouts.push_back({id, rows_.at(id).layout});
         for (const ColumnId column : of)
-            if (const std::optional<QString> text = texts.text(id, column))
+            if (const std::optional<QString> text = texts_.text(id, column))
                 cells.texts.push_back({id, column, *text});
     }
     return cells;
@@ -51,19 +51,19 @@ GridSurface::Data::FixedCells GridSurface::Data::fixedCells(const std::vector<Co
 
 /// The rows take layouts of their own that show nothing in these columns. The old ones stay as they are,
 /// since a load that is under way goes on binding rows with them.
-void GridSurface::Data::unbindColumns(const std::vector<ColumnId>& gone) {
-    std::vector<std::uint16_t> instead(layouts.size() + 1, 0); // 0: not met yet
-    const auto blankOne = [&](std::uint16_t number) -> std::uint16_t {
-        if (!showsAny(layouts[number - 1u], gone))
+void SurfaceCells::unbindColumns(const std::vector<ColumnId>& gone) {
+    std::vector<LayoutId> instead(layouts_.size() + 1, 0); // 0: not met yet
+    const auto blankOne = [&](LayoutId number) -> LayoutId {
+        if (!showsAny(layouts_[number - 1u], gone))
             return number;
-        Layout layout = layouts[number - 1u];
+        Layout layout = layouts_[number - 1u];
         for (const ColumnId column : gone)
             if (column < layout.size())
                 layout[column] = {};
-        layouts.push_back(std::move(layout));
-        return static_cast<std::uint16_t>(layouts.size());
+        layouts_.push_back(std::move(layout));
+        return static_cast<LayoutId>(layouts_.size());
     };
-    rows.changeLayouts([&](std::uint16_t number) {
+    rows_.changeLayouts([&](LayoutId number) {
         if (instead[number] == 0)
             instead[number] = blankOne(number);
         return instead[number];
