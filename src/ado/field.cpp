@@ -1,6 +1,6 @@
 #include "ado/field.h"
 
-#include "ado/recordset_data.h"
+#include "ado/records/recordset_data.h"
 #include "base/error.h"
 
 namespace zkp::ado {

@@ -1,4 +1,4 @@
-#include "ado/recordset_data.h"
+#include "ado/records/recordset_data.h"
 
 #include "ado/object_state.h"
 #include "ado/records/filter_match.h"

@@ -1,4 +1,4 @@
-#include "ado/recordset_data.h"
+#include "ado/records/recordset_data.h"
 
 #include "base/error.h"
 #include "base/scope_guard.h"

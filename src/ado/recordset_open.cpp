@@ -1,7 +1,7 @@
 // Where records come from and go to: opening, running again, going on to the next result, closing.
 
 #include "ado/object_state.h"
-#include "ado/recordset_data.h"
+#include "ado/records/recordset_data.h"
 #include "base/scope_guard.h"
 #include "base/text.h"
 

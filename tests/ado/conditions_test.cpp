@@ -1,4 +1,4 @@
-#include "ado/dialect/server_rewrite.h"
+#include "ado/dialect/server_statement.h"
 #include "ado/dialect/sqlite_rewrite.h"
 
 #include "ado/ado_fixture.h"

@@ -1,4 +1,4 @@
-#include "ado/dialect/server_rewrite.h"
+#include "ado/dialect/server_statement.h"
 
 #include "ado/ado_fixture.h"
 #include "ado/dialect/select_shape.h"

@@ -1,7 +1,7 @@
 #include "ado/dialect/exec_call.h"
 #include "ado/dialect/plain_select.h"
 #include "ado/dialect/select_shape.h"
-#include "ado/dialect/server_rewrite.h"
+#include "ado/dialect/server_statement.h"
 #include "ado/dialect/split_statements.h"
 #include "ado/dialect/tokenizer.h"
 

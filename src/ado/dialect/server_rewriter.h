@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/dialect/rewriter.h"
-#include "ado/dialect/server_rewrite.h"
+#include "ado/dialect/server_statement.h"
 
 namespace zkp::ado::dialect {
 

@@ -1,7 +1,7 @@
 #include "ado/constants.h"
 #include "ado/dialect/tokenizer.h"
-#include "ado/records.h"
 #include "ado/records/filter.h"
+#include "ado/records/records.h"
 #include "base/error.h"
 
 namespace zkp::ado {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ado/records.h"
 #include "ado/records/filter.h"
+#include "ado/records/records.h"
 
 namespace zkp::ado {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ado/dialect/server_rewrite.h"
+#include "ado/dialect/server_statement.h"
 #include "ado/odbc/session/session.h"
 
 namespace zkp::ado::odbc {

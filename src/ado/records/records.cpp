@@ -1,4 +1,4 @@
-#include "ado/records.h"
+#include "ado/records/records.h"
 
 #include "base/text.h"
 

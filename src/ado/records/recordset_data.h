@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ado/records.h"
+#include "ado/records/records.h"
 #include "ado/recordset.h"
 
 #include <map>
