@@ -1,5 +1,6 @@
 // Presses every key that docs/keyboard.md lists for the control.
 
+#include "ado/connection.h"
 #include "host/scripted_host.h"
 #include "print_qt.h"
 #include "widgets/band/band_bar.h"
@@ -312,6 +313,9 @@ TEST(Keyboard, EscapeAndF6LeadBackFromATool) {
 
 TEST(Keyboard, ArrowsGoFromToolToToolAndSpacePressesOne) {
     Form form;
+    const auto connection = std::make_shared<ado::Connection>();
+    connection->Open(u"sqlite:"_s);
+    form.widget->grid().Fill(connection, u"SELECT 1"_s, ZKP_SQLStatement); // a command that fails ends the round
     QString clicked;
     const Listening clicks =
         form.widget->grid().Picture1().toolClicked.add([&](Tool& tool) { clicked = tool.Name; });

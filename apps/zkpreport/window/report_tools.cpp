@@ -26,8 +26,7 @@ ReportTools::ReportTools(QMainWindow& window)
 }
 
 void ReportTools::showReport(ZkpGridWidget* report) {
-    for (ReportTool* tool : {static_cast<ReportTool*>(&undo), static_cast<ReportTool*>(&copy),
-                             static_cast<ReportTool*>(&find), static_cast<ReportTool*>(&sums)})
+    for (ReportTool* tool : std::initializer_list<ReportTool*>{&undo, &copy, &find, &sums})
         tool->setReport(report);
 }
 
