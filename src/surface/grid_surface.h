@@ -217,8 +217,11 @@ public:
     // --- Styles. The Cell... properties go to the current cell, or with `FillStyle` 1 to the selected block.
     int FillStyle() const;
     void setFillStyle(int style);
-    void applyStyle(const CellRange& range, const StylePatch& patch);
+    /// The surface's own colours and font are a section's; all other writes are marks unless they say so.
+    void applyStyle(const CellRange& range, const StylePatch& patch, StyleOrigin origin = StyleOrigin::Mark);
     CellStyle styleAt(int row, int col) const;
+    /// The same with what marks gave of it and no later write has covered.
+    MarkedStyle markedStyleAt(int row, int col) const;
     Color BackColor() const; ///< the body; setting it is a write on the whole body
     void setBackColor(Color color);
     Color ForeColor() const;

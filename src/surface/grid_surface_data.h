@@ -99,7 +99,7 @@ struct GridSurface::Data {
     };
     FixedCells fixedCells(const std::vector<ColumnId>& of) const;
     void unbindColumns(const std::vector<ColumnId>& gone);
-    void applyPiece(const StylePiece& piece, const StylePatch& patch);
+    void applyPiece(const StylePiece& piece, const StylePatch& patch, StyleOrigin origin);
     CellRange filledBlock() const;
 
     void setRowCount(int count);

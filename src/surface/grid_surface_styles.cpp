@@ -6,7 +6,7 @@
 
 namespace zkp {
 
-void GridSurface::applyStyle(const CellRange& range, const StylePatch& patch) {
+void GridSurface::applyStyle(const CellRange& range, const StylePatch& patch, StyleOrigin origin) {
     const CellRange block{std::min(range.top, range.bottom), std::min(range.left, range.right),
                           std::max(range.top, range.bottom), std::max(range.left, range.right)};
     d->checkRow(block.top);
@@ -14,22 +14,22 @@ void GridSurface::applyStyle(const CellRange& range, const StylePatch& patch) {
     d->checkCol(block.left);
     d->checkCol(block.right);
     for (const StylePiece& piece : stylePieces(block, d->shape()))
-        d->applyPiece(piece, patch);
+        d->applyPiece(piece, patch, origin);
     if (block.top == block.bottom)
         d->rowChanged(block.top);
     else
         d->changed();
 }
 
-void GridSurface::Data::applyPiece(const StylePiece& piece, const StylePatch& patch) {
+void GridSurface::Data::applyPiece(const StylePiece& piece, const StylePatch& patch, StyleOrigin origin) {
     const CellRange& block = piece.range;
     switch (piece.target) {
     case StyleTarget::Body:
-        styles.writeBody(patch);
+        styles.writeBody(patch, origin);
         return;
     case StyleTarget::Columns:
         for (int col = block.left; col <= block.right; ++col)
-            styles.writeColumn(columns.id(col), patch);
+            styles.writeColumn(columns.id(col), patch, origin);
         return;
     case StyleTarget::Rows:
     case StyleTarget::Cells:
@@ -39,10 +39,10 @@ void GridSurface::Data::applyPiece(const StylePiece& piece, const StylePatch& pa
     for (int row = block.top; row <= block.bottom; ++row) {
         const RowId id = order.at(row);
         if (piece.target == StyleTarget::Rows)
-            styles.writeRow(id, patch);
+            styles.writeRow(id, patch, origin);
         else
             for (int col = block.left; col <= block.right; ++col)
-                styles.writeCell(id, columns.id(col), patch);
+                styles.writeCell(id, columns.id(col), patch, origin);
     }
 }
 
@@ -50,6 +50,12 @@ CellStyle GridSurface::styleAt(int row, int col) const {
     const RowId id = d->idOf(row);
     d->checkCol(col);
     return d->styles.resolve(id, d->columns.id(col), row < d->fixedRows, col < d->fixedCols);
+}
+
+MarkedStyle GridSurface::markedStyleAt(int row, int col) const {
+    const RowId id = d->idOf(row);
+    d->checkCol(col);
+    return d->styles.resolveMarked(id, d->columns.id(col), row < d->fixedRows, col < d->fixedCols);
 }
 
 // --- The current cell or the selected block
@@ -86,7 +92,7 @@ ZKP_CELL_ATTRIBUTE(CellFontStrikeThrough, bool, bool, strikethru)
         d->stored = value;                                                                                   \
         StylePatch patch;                                                                                    \
         patch.member = value;                                                                                \
-        d->styles.write(patch);                                                                              \
+        d->styles.write(patch, StyleOrigin::Section);                                                        \
         d->changed();                                                                                        \
     }
 
@@ -115,7 +121,7 @@ void GridSurface::setFont(const BagFont& font) {
     patch.italic = d->own.italic = font.italic;
     patch.underline = d->own.underline = font.underline;
     patch.strikethru = d->own.strikethru = font.strikethru;
-    d->styles.writeSurface(patch);
+    d->styles.writeSurface(patch, StyleOrigin::Section);
     d->changed();
 }
 
