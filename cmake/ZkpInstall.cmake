@@ -14,6 +14,7 @@ set(public_headers
   bag/property_bag.h bag/property_bag_text.h
   base/currency.h base/error.h base/format.h base/number.h base/scope_guard.h base/text.h base/value.h
   base/texts/columns.h base/texts/tools.h
+  core/shown_row_reader.h
   host/error_box.h host/scripted_host.h
   sql/query_exists.h
   template/template_name.h template/template_rows.h)

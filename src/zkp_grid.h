@@ -21,6 +21,8 @@
 
 namespace zkp {
 
+class ReportRows;
+
 /// The reporting grid: one object with the public names that hosts know. Give it a connection and a
 /// record source with Fill, call refresh, and the rows stand on `MSFlexGrid1`. ZkpGridWidget shows it;
 /// without a widget it works just as well.
@@ -93,6 +95,8 @@ public:
     GridSurface& MSFlexGrid2();
     GridSurface& MSFlexGrid3();
     MenuBar& Picture1();
+    /// The report's rows as paper, a file, the clipboard or a search should read them, painted or not.
+    const ReportRows& shownRows() const;
     Button& cmdHide();
     Label& lbltemplate();
     Label& lblfilter();

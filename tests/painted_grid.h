@@ -70,12 +70,17 @@ protected:
     /// One letter for each cell of a row: the section that its back colour is of, in capitals when the
     /// fore colour is not of the same.
     QString cells(int row) {
+        return letters(row, [this](int r, int c) { return style(r, c); });
+    }
+
+    template <class StyleOfCell>
+    QString letters(int row, StyleOfCell styleOfCell) {
         static const std::map<zkp::Color, QChar> letters{{kFixed, u'f'}, {kDetail, u'd'}, {kGroup, u'g'},
                                                          {kSub, u's'},   {kTotal, u't'},  {kBand, u'b'},
                                                          {kMark, u'm'}};
         QString text;
         for (int c = 0; c < grid->Cols(); ++c) {
-            const zkp::CellStyle cell = style(row, c);
+            const zkp::CellStyle cell = styleOfCell(row, c);
             const auto found = letters.find(cell.backColor);
             const QChar letter = found == letters.end() ? QChar(u'?') : found->second;
             text += cell.foreColor == cell.backColor + 1 ? letter : letter.toUpper();

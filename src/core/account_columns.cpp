@@ -61,7 +61,7 @@ void AccountColumns::writeLastRow(const std::vector<double>& sums) {
     if (cols > 0) {
         surface_.setTextMatrix(last, 0, QStringLiteral("###"));
         const StylePatch totals = coloursOf(styleOf(Section::Totals, sections_, surface_));
-        surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, totals);
+        surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, totals, StyleOrigin::Section);
     }
     if (account_.BalanceColumn > -1) {
         const double balance = amountAt(last, account_.DebitColumn) - amountAt(last, account_.CreditColumn);

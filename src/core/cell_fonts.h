@@ -33,17 +33,18 @@ public:
         std::optional<int> colEnd; ///< the last column
     };
     /// Nothing for a row that the surface lacks. A block of the whole body is one write. The strikeout stays.
-    void SetCellFonts(int row, const StylePatch& font, const Block& block = {});
+    void SetCellFonts(int row, const StylePatch& font, const Block& block = {},
+                      StyleOrigin origin = StyleOrigin::Mark);
     /// The heading takes the fixed font.
     void paintHeading();
 
     /// From `FixedCols` on. What is left out is the surface's own, and the typeface can't be changed here, as
     /// wanted. Reports the keys "Row" and "Col". So does `CellFonts`.
-    void FontsRow(int row, const StylePatch& marks);
-    void CellFonts(int row, int col, const StylePatch& marks);
+    void FontsRow(int row, const StylePatch& marks, StyleOrigin origin = StyleOrigin::Mark);
+    void CellFonts(int row, int col, const StylePatch& marks, StyleOrigin origin = StyleOrigin::Mark);
 
 private:
-    void mark(const CellRange& cells, const StylePatch& marks);
+    void mark(const CellRange& cells, const StylePatch& marks, StyleOrigin origin);
     void report(const QString& key);
 
     const GroupingState& grouping_;

@@ -17,7 +17,8 @@ void RowMarking::Selectrow() {
         RememberRowColours();
         marking_.PreRow = surface_.Row();
         surface_.setFillStyle(1);
-        paint(bandOf(surface_.Row()), {surface_.look().BackColorSel, surface_.look().ForeColorSel});
+        band_ = {surface_.look().BackColorSel, surface_.look().ForeColorSel};
+        paint(bandOf(surface_.Row()), band_, StyleOrigin::Section);
         selectCurrentCell(surface_);
     }
     key_.takeKey();
@@ -31,14 +32,32 @@ void RowMarking::RememberRowColours() {
         coverSurface();
         return;
     }
-    const CellStyle style = surface_.styleAt(surface_.Row(), lastCol());
-    marking_.PreBackColor = style.backColor;
-    marking_.PreForeColor = style.foreColor;
+    const MarkedStyle cell = surface_.markedStyleAt(surface_.Row(), lastCol());
+    remember({cell.style.backColor, cell.style.foreColor}, cell.marks.backColor || cell.marks.foreColor);
 }
 
 void RowMarking::coverSurface() {
-    marking_.PreBackColor = surface_.BackColor();
-    marking_.PreForeColor = surface_.ForeColor();
+    remember({surface_.BackColor(), surface_.ForeColor()}, false);
+}
+
+void RowMarking::remember(const Colours& colours, bool isMark) {
+    marking_.PreBackColor = colours.back;
+    marking_.PreForeColor = colours.fore;
+    remembered_ = colours;
+    markRemembered_ = isMark;
+}
+
+/// Colours that somebody has put in place of the remembered ones are a mark.
+bool RowMarking::coversMark() const {
+    return covered() != remembered_ || markRemembered_;
+}
+
+std::optional<RowMarking::Covered> RowMarking::coveredByBand(int row, int col, const CellStyle& shown) const {
+    const bool lies = row == marking_.PreRow && col >= grouping_.GroupFactorCount &&
+                      Colours{shown.backColor, shown.foreColor} == band_;
+    if (!lies)
+        return std::nullopt;
+    return Covered{patchOf(covered()), coversMark()};
 }
 
 /// A row beyond the bound, which with several fixed rows is short of the last row, is not chosen: the
@@ -52,7 +71,7 @@ void RowMarking::RedrawRow(double given) {
     const ScopeGuard hearing([this] { notices_.hear(); });
     notices_.hush();
     const bool chosen = row <= surface_.Rows() - surface_.FixedRows() && row < surface_.Rows();
-    paint(chosen ? bandOf(row) : surface_.selection(), {marking_.PreBackColor, marking_.PreForeColor});
+    paintCovered(chosen ? bandOf(row) : surface_.selection());
     if (surface_.ColSel() == 0) // a corner in the first column does not come back, as wanted
         surface_.setColSel(surface_.Col());
 }
@@ -61,15 +80,15 @@ void RowMarking::Releasemark(int row) {
     const RedrawOff still(surface_);
     const SelectionQuiet quiet(notices_);
     surface_.setFillStyle(1);
-    paint({row, surface_.FixedCols(), row, lastCol()}, {marking_.PreBackColor, marking_.PreForeColor});
+    paintCovered({row, surface_.FixedCols(), row, lastCol()});
     selectCurrentCell(surface_);
 }
 
-void RowMarking::reversecolor(int row, Color back, Color fore) {
+void RowMarking::reversecolor(int row, Color back, Color fore, StyleOrigin origin) {
     const RedrawOff still(surface_);
     const SelectionQuiet quiet(notices_);
     surface_.setFillStyle(1);
-    paint({row, 0, row, lastCol()}, {back, fore});
+    paint({row, 0, row, lastCol()}, {back, fore}, origin);
     selectCurrentCell(surface_);
     if (surface_.Row() != row)
         return;
@@ -95,16 +114,20 @@ void RowMarking::makeRowByrow() {
     const int first = surface_.FixedRows();
     if (first < surface_.Rows())
         paint({first, surface_.FixedCols(), surface_.Rows() - 1, lastCol()},
-              {surface_.BackColor(), surface_.ForeColor()});
+              {surface_.BackColor(), surface_.ForeColor()}, StyleOrigin::Section);
     for (int row = first; row < surface_.Rows(); ++row)
         if (row % 2 > 0)
             reversecolor(row, marking_.Row1BackColor, marking_.Row1ForeColor);
 }
 
+void RowMarking::paintCovered(const CellRange& cells) {
+    paint(cells, covered(), coversMark() ? StyleOrigin::Mark : StyleOrigin::Section);
+}
+
 /// Nothing to paint where the group factors or fixed columns are all the columns there are.
-void RowMarking::paint(const CellRange& cells, const Colours& colours) {
+void RowMarking::paint(const CellRange& cells, const Colours& colours, StyleOrigin origin) {
     if (cells.left <= lastCol())
-        surface_.applyStyle(cells, patchOf(colours));
+        surface_.applyStyle(cells, patchOf(colours), origin);
 }
 
 StylePatch RowMarking::patchOf(const Colours& colours) {

@@ -8,6 +8,8 @@
 #include "core/state/marking_state.h"
 #include "surface/grid_surface.h"
 
+#include <optional>
+
 namespace zkp {
 
 /// The coloured band on the current row (with `RowSelect`), and rows that the host marks. What a band
@@ -32,7 +34,7 @@ public:
     /// Paints a row, group factor cells included, with the colours that the band covers.
     void Releasemark(int row);
     /// Marks a row. Under the band it takes the new colours for those to come back.
-    void reversecolor(int row, Color back, Color fore);
+    void reversecolor(int row, Color back, Color fore, StyleOrigin origin = StyleOrigin::Mark);
     void ReverseCell(int row, int from, int to, Color back, Color fore);
     /// Takes the band off a row. The surface's selection is heard afterwards, whether it was or not.
     void RedrawRow(double row);
@@ -47,14 +49,27 @@ public:
     /// Alternating row colours, with `RowByRow`.
     void makeRowByrow();
 
+    /// What the band covers on a cell.
+    struct Covered {
+        StylePatch colours;  ///< those that come back when it leaves
+        bool isMark = false; ///< they are the row's own, not its section's
+    };
+    /// Nothing where the band doesn't lie. `shown`: the cell's style as it stands.
+    std::optional<Covered> coveredByBand(int row, int col, const CellStyle& shown) const;
+
 private:
     struct Colours {
-        Color back;
-        Color fore;
+        Color back = 0;
+        Color fore = 0;
+        bool operator==(const Colours&) const = default;
     };
 
     void RememberRowColours();
-    void paint(const CellRange& cells, const Colours& colours);
+    void remember(const Colours& colours, bool isMark);
+    Colours covered() const { return {marking_.PreBackColor, marking_.PreForeColor}; }
+    bool coversMark() const;
+    void paintCovered(const CellRange& cells);
+    void paint(const CellRange& cells, const Colours& colours, StyleOrigin origin);
     static StylePatch patchOf(const Colours& colours);
     bool hasCurrentCell() const { return surface_.Row() < surface_.Rows() && surface_.Cols() > 0; }
     /// Group factor cells stay in their own colours.
@@ -69,6 +84,9 @@ private:
     KeyColumn& key_;
     GridSurface& surface_;
     Events& events_;
+    Colours band_;       // of the band laid last
+    Colours remembered_; // those that the band covers; a host may have put others in their place
+    bool markRemembered_ = false;
 };
 
 } // namespace zkp

@@ -1,5 +1,8 @@
 #include "core/section_style.h"
 
+#include "core/state/section_settings.h"
+#include "surface/grid_surface.h"
+
 namespace zkp {
 
 namespace {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "core/enums.h"
-#include "core/state/section_settings.h"
-#include "surface/grid_surface.h"
+#include "surface/style.h"
 
 namespace zkp {
+
+class GridSurface;
+struct SectionSettings;
 
 /// The parts of a report that have colours and a font of their own. Those on the surface have the numbers
 /// of ZKPSections; the other two stand on paper alone.

@@ -28,6 +28,7 @@ CoreParts::CoreParts(std::shared_ptr<Host> givenHost)
     , keyColumn(state.key, columns, surface)
     , fonts(state.grouping, state.sections, state.notices, state.lifetime, surface, events)
     , marking(state.grouping, state.marking, state.notices, state.lifetime, keyColumn, surface, events)
+    , rows(surface, state.source, state.grouping, state.sections, marking)
     , source(state.source) {}
 
 StatementParts::From CoreParts::forStatements() {

@@ -5,6 +5,7 @@
 #include "core/control_setters.h"
 #include "core/group_columns.h"
 #include "core/record_source.h"
+#include "core/report_rows.h"
 #include "core/report_state.h"
 #include "core/reporting.h"
 #include "core/row_marking.h"
@@ -41,6 +42,7 @@ struct CoreParts {
     KeyColumn keyColumn;
     FontWriter fonts;
     RowMarking marking;
+    ReportRows rows;
     zkp::RecordSource source;
 };
 

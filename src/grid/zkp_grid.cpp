@@ -60,6 +60,9 @@ GridSurface& ZkpGrid::MSFlexGrid2() {
 GridSurface& ZkpGrid::MSFlexGrid3() {
     return parts_->core.children.MSFlexGrid3;
 }
+const ReportRows& ZkpGrid::shownRows() const {
+    return parts_->core.rows;
+}
 MenuBar& ZkpGrid::Picture1() {
     return parts_->core.children.Picture1;
 }

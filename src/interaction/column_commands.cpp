@@ -58,7 +58,7 @@ bool ColumnCommands::makeFactor(int position) {
     if (surface_.Rows() > 0) {
         StylePatch font = fontMarksOf(styleOf(Section::Heading, sections_, surface_));
         font.strikethru.reset(); // the surface's own
-        fonts_.CellFonts(0, position, font);
+        fonts_.CellFonts(0, position, font, StyleOrigin::Section);
     }
     checkGroupBy();
     setters_.setRefreshOnChange(false);

@@ -77,7 +77,7 @@ void InterfaceDrawing::paintFonts() {
     const int first = surface_.FixedRows();
     const int firstCol = std::min(surface_.FixedCols(), surface_.Cols() - 1);
     fonts_.SetCellFonts(first, fontOf(look(Section::Details)),
-                        {.col = firstCol, .rowEnd = surface_.Rows() - 1, .colEnd = {}});
+                        {.col = firstCol, .rowEnd = surface_.Rows() - 1, .colEnd = {}}, StyleOrigin::Section);
     fonts_.paintHeading();
 }
 
@@ -92,7 +92,7 @@ CellStyle InterfaceDrawing::look(Section section) const {
 void InterfaceDrawing::paintGroupCells(const CellRange& page) {
     if (groupColumns() > 0)
         surface_.applyStyle({page.top, 0, page.bottom, groupColumns() - 1},
-                            coloursAndFontOf(look(Section::GroupFactors)));
+                            coloursAndFontOf(look(Section::GroupFactors)), StyleOrigin::Section);
 }
 
 void InterfaceDrawing::paintRows(const CellRange& page) {
@@ -127,7 +127,7 @@ void InterfaceDrawing::paintDetailRows(const CellRange& page, const std::vector<
         if (kind == ZKPSingleRow || isSumRow(kind))
             continue;
         if (first < row)
-            surface_.applyStyle({first, groupColumns(), row - 1, page.right}, colours);
+            surface_.applyStyle({first, groupColumns(), row - 1, page.right}, colours, StyleOrigin::Section);
         first = row + 1;
     }
 }
@@ -137,7 +137,8 @@ void InterfaceDrawing::paintSumRows(const CellRange& page, const std::vector<int
     const StylePatch totals = coloursAndFontOf(look(Section::Totals));
     for (int row = page.top; row <= page.bottom; ++row)
         if (const int kind = kinds[static_cast<std::size_t>(row - page.top)]; isSumRow(kind))
-            surface_.applyStyle({row, 0, row, page.right}, kind == ZKPTotals ? totals : subTotals);
+            surface_.applyStyle({row, 0, row, page.right}, kind == ZKPTotals ? totals : subTotals,
+                                StyleOrigin::Section);
 }
 
 void InterfaceDrawing::RefreshInterface(int what) {
@@ -146,7 +147,7 @@ void InterfaceDrawing::RefreshInterface(int what) {
     const ScopeGuard restore([&] { pointer_.setPointer(shown); });
     pointer_.setPointer(kPointerHourglass);
     if (surface_.FixedRows() > 0)
-        fonts_.FontsRow(0, fontMarksOf(look(Section::Heading)));
+        fonts_.FontsRow(0, fontMarksOf(look(Section::Heading)), StyleOrigin::Section);
     if (what == 0)
         return;
     PaintGroupBlock(true);
@@ -168,9 +169,9 @@ void InterfaceDrawing::refreshTotals() {
 
 /// Marking the current row raises `Selecting`, whose handler may take rows away.
 void InterfaceDrawing::markRow(int row, const CellStyle& colours, const StylePatch& font) {
-    marking_.reversecolor(row, colours.backColor, colours.foreColor);
+    marking_.reversecolor(row, colours.backColor, colours.foreColor, StyleOrigin::Section);
     if (row < surface_.Rows())
-        fonts_.FontsRow(row, font);
+        fonts_.FontsRow(row, font, StyleOrigin::Section);
 }
 
 /// In a totals report the innermost of several factors is a plain cell.
@@ -189,7 +190,7 @@ void InterfaceDrawing::PaintGroupBlock(bool fromTop) {
         StylePatch patch = fontMarksOf(style); // the typeface stays, as wanted
         patch.backColor = style.backColor;
         patch.foreColor = style.foreColor;
-        surface_.applyStyle(surface_.selection(), patch);
+        surface_.applyStyle(surface_.selection(), patch, StyleOrigin::Section);
     }
     surface_.setFillStyle(0);
     surface_.setMergeCells(1);

@@ -31,7 +31,7 @@ void Lifecycle::initProperties() {
     surface.setFontStrikethru(false);
     marking_.coverSurface();
     const StylePatch heading{.bold = sections_.FixedFontBold};
-    surface.applyStyle({0, 0, surface.FixedRows() - 1, surface.Cols() - 1}, heading);
+    surface.applyStyle({0, 0, surface.FixedRows() - 1, surface.Cols() - 1}, heading, StyleOrigin::Section);
 }
 
 void Lifecycle::resize() {

@@ -58,9 +58,9 @@ void TotalsRows::PaintTotalsRows() {
     if (lastCol >= 1) // column 0 keeps the look of its group
         for (int row = surface_.Rows() - 1; row >= surface_.FixedRows(); --row)
             if (surface_.RowData(row) == ZKPSubTotals)
-                surface_.applyStyle({row, 1, row, lastCol}, subtotals);
+                surface_.applyStyle({row, 1, row, lastCol}, subtotals, StyleOrigin::Section);
     const StylePatch totals = coloursAndFontOf(styleOf(Section::Totals, sections_, surface_));
-    surface_.applyStyle({surface_.Rows() - 1, 0, surface_.Rows() - 1, lastCol}, totals);
+    surface_.applyStyle({surface_.Rows() - 1, 0, surface_.Rows() - 1, lastCol}, totals, StyleOrigin::Section);
     seekContent();
 }
 
@@ -76,7 +76,7 @@ void TotalsRows::AppendTotalsRow() {
     surface_.AddItem({});
     const int last = surface_.Rows() - 1;
     const StylePatch colours = coloursOf(styleOf(Section::Totals, sections_, surface_));
-    surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, colours);
+    surface_.applyStyle({last, 0, last, surface_.Cols() - 1}, colours, StyleOrigin::Section);
     surface_.setRowData(last, kAppendedTotals);
 }
 

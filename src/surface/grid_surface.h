@@ -112,8 +112,11 @@ public:
     /// looked for between the given rows only. Fixed rows never merge with body rows.
     CellRange mergedRange(int row, int col, int fromRow, int toRow) const;
     CellRange selection() const;
-    void applyStyle(const CellRange& range, const StylePatch& patch);
+    /// The surface's own colours and font are a section's; all other writes are marks unless they say so.
+    void applyStyle(const CellRange& range, const StylePatch& patch, StyleOrigin origin = StyleOrigin::Mark);
     CellStyle styleAt(int row, int col) const;
+    /// The same with what marks gave of it and no later write has covered.
+    MarkedStyle markedStyleAt(int row, int col) const;
 
     // --- Records. Bound cells show values of immutable columns.
     using LayoutId = std::uint16_t;

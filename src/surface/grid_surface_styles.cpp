@@ -6,18 +6,23 @@
 
 namespace zkp {
 
-void GridSurface::applyStyle(const CellRange& range, const StylePatch& patch) {
+void GridSurface::applyStyle(const CellRange& range, const StylePatch& patch, StyleOrigin origin) {
     const CellRange block{std::min(range.top, range.bottom), std::min(range.left, range.right),
                           std::max(range.top, range.bottom), std::max(range.left, range.right)};
     d->checkCell(block.top, block.left);
     d->checkCell(block.bottom, block.right);
-    d->styles.write(block, patch, d->shape());
+    d->styles.write(block, patch, d->shape(), origin);
     d->news.rowsChanged(block.top, block.bottom);
 }
 
 CellStyle GridSurface::styleAt(int row, int col) const {
     d->checkCell(row, col);
     return d->styles.at(row, col, d->shape());
+}
+
+MarkedStyle GridSurface::markedStyleAt(int row, int col) const {
+    d->checkCell(row, col);
+    return d->styles.markedAt(row, col, d->shape());
 }
 
 // Each pair reads the current cell and writes one attribute of what `FillStyle` says.

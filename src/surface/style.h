@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 
 namespace zkp {
@@ -34,5 +35,29 @@ struct CellStyle {
 
     bool operator==(const CellStyle&) const = default;
 };
+
+/// What a write of style is: the look of a section of a report, which a reader of rows that never showed
+/// works out for himself, or a mark, which stands over that look until a later write covers it.
+enum class StyleOrigin : std::uint8_t { Mark, Section };
+
+/// A cell's style, and of it the attributes that marks gave.
+struct MarkedStyle {
+    CellStyle style;
+    StylePatch marks;
+};
+
+/// The style with the patch laid over it.
+inline CellStyle patched(CellStyle style, const StylePatch& patch) {
+    style.backColor = patch.backColor.value_or(style.backColor);
+    style.foreColor = patch.foreColor.value_or(style.foreColor);
+    if (patch.fontName)
+        style.fontName = *patch.fontName;
+    style.fontSize = patch.fontSize.value_or(style.fontSize);
+    style.bold = patch.bold.value_or(style.bold);
+    style.italic = patch.italic.value_or(style.italic);
+    style.underline = patch.underline.value_or(style.underline);
+    style.strikethru = patch.strikethru.value_or(style.strikethru);
+    return style;
+}
 
 } // namespace zkp

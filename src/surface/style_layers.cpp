@@ -1,6 +1,7 @@
 #include "surface/style_layers.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace zkp {
@@ -34,49 +35,50 @@ void StyleLayers::stampFor(Layer layer, bool meetsOtherLayer) {
     lastLayer_ = layer;
 }
 
-StyleSetId StyleLayers::patched(StyleSetId id, const StylePatch& patch) {
+StyleSetId StyleLayers::patched(StyleSetId id, const StylePatch& patch, StyleOrigin origin) {
     ++writes_;
     collectWhenWasteful();
-    if (last_.stamp != stamp_ || last_.from != id || last_.patch != patch)
-        last_ = {stamp_, id, patch, pool_.patched(id, patch, stamp_)};
+    if (last_.stamp != stamp_ || last_.from != id || last_.origin != origin || last_.patch != patch)
+        last_ = {stamp_, id, patch, origin, pool_.patched(id, patch, origin, stamp_)};
     return last_.to;
 }
 
-void StyleLayers::writeSurface(const StylePatch& patch) {
+void StyleLayers::writeSurface(const StylePatch& patch, StyleOrigin origin) {
     stampFor(Layer::Surface);
-    surface_ = patched(surface_, patch);
+    surface_ = patched(surface_, patch, origin);
 }
 
-void StyleLayers::writeFixed(const StylePatch& patch) {
+void StyleLayers::writeFixed(const StylePatch& patch, StyleOrigin origin) {
     stampFor(Layer::Fixed);
-    fixed_ = patched(fixed_, patch);
+    fixed_ = patched(fixed_, patch, origin);
 }
 
-void StyleLayers::writeBody(const StylePatch& patch) {
+void StyleLayers::writeBody(const StylePatch& patch, StyleOrigin origin) {
     stampFor(Layer::Body);
-    body_ = patched(body_, patch);
+    body_ = patched(body_, patch, origin);
 }
 
-void StyleLayers::writeColumn(ColumnId column, const StylePatch& patch) {
+void StyleLayers::writeColumn(ColumnId column, const StylePatch& patch, StyleOrigin origin) {
     if (column >= columns_.size())
         columns_.resize(column + 1, 0);
     stampFor(Layer::Column);
-    columns_[column] = patched(columns_[column], patch);
+    columns_[column] = patched(columns_[column], patch, origin);
 }
 
-void StyleLayers::writeRow(RowId row, const StylePatch& patch) {
+void StyleLayers::writeRow(RowId row, const StylePatch& patch, StyleOrigin origin) {
     bool meets = false;
     cells_.forEachInRow(row, [&](StyleSetId cell) { meets = meets || pool_.hasStamp(cell, stamp_); });
     stampFor(Layer::Row, meets);
-    rows_.set(row, 0, patched(rows_.get(row, 0), patch));
+    rows_.set(row, 0, patched(rows_.get(row, 0), patch, origin));
 }
 
-void StyleLayers::writeCell(RowId row, ColumnId column, const StylePatch& patch) {
+void StyleLayers::writeCell(RowId row, ColumnId column, const StylePatch& patch, StyleOrigin origin) {
     stampFor(Layer::Cell, pool_.hasStamp(rows_.get(row, 0), stamp_));
-    cells_.set(row, column, patched(cells_.get(row, column), patch));
+    cells_.set(row, column, patched(cells_.get(row, column), patch, origin));
 }
 
-CellStyle StyleLayers::resolve(RowId row, ColumnId column, bool fixedRow, bool fixedColumn) const {
+const MarkedStyle& StyleLayers::resolveMarked(RowId row, ColumnId column, bool fixedRow,
+                                              bool fixedColumn) const {
     const bool fixedPart = fixedRow || fixedColumn;
     Places places{surface_, fixedPart ? fixed_ : body_, 0, 0, 0};
     if (!fixedRow && column < columns_.size())
@@ -91,34 +93,35 @@ CellStyle StyleLayers::resolve(RowId row, ColumnId column, bool fixedRow, bool f
     return memory.style;
 }
 
-CellStyle StyleLayers::compose(const Places& places, bool fixedPart) const {
-    const auto latest = [&](StyleAttribute attribute) -> const StyleSet* {
+MarkedStyle StyleLayers::compose(const Places& places, bool fixedPart) const {
+    MarkedStyle cell{plainStyle(fixedPart), {}};
+    const auto take = [&](StyleAttribute attribute, auto valueIn, auto& value, auto& mark) {
         const StyleSet* best = nullptr;
         for (const StyleSetId place : places) {
             const StyleSet& set = pool_.at(place);
             if (set.stamps[attribute] != 0 && (!best || set.stamps[attribute] > best->stamps[attribute]))
                 best = &set;
         }
-        return best;
+        if (!best)
+            return;
+        value = valueIn(*best);
+        if (best->marks[attribute])
+            mark = value;
     };
-    const auto flag = [&](StyleAttribute attribute) {
-        const StyleSet* set = latest(attribute);
-        return set && set->flags[attribute];
+    const auto flag = [](StyleAttribute attribute) {
+        return [attribute](const StyleSet& set) { return set.flags[attribute]; };
     };
-    CellStyle style = plainStyle(fixedPart);
-    if (const StyleSet* set = latest(kStyleBack))
-        style.backColor = set->back;
-    if (const StyleSet* set = latest(kStyleFore))
-        style.foreColor = set->fore;
-    if (const StyleSet* set = latest(kStyleFontName))
-        style.fontName = pool_.fontName(set->fontName);
-    if (const StyleSet* set = latest(kStyleFontSize))
-        style.fontSize = set->fontSize;
-    style.bold = flag(kStyleBold);
-    style.italic = flag(kStyleItalic);
-    style.underline = flag(kStyleUnderline);
-    style.strikethru = flag(kStyleStrikethru);
-    return style;
+    auto& [style, marks] = cell;
+    take(kStyleBack, std::mem_fn(&StyleSet::back), style.backColor, marks.backColor);
+    take(kStyleFore, std::mem_fn(&StyleSet::fore), style.foreColor, marks.foreColor);
+    take(kStyleFontSize, std::mem_fn(&StyleSet::fontSize), style.fontSize, marks.fontSize);
+    take(kStyleBold, flag(kStyleBold), style.bold, marks.bold);
+    take(kStyleItalic, flag(kStyleItalic), style.italic, marks.italic);
+    take(kStyleUnderline, flag(kStyleUnderline), style.underline, marks.underline);
+    take(kStyleStrikethru, flag(kStyleStrikethru), style.strikethru, marks.strikethru);
+    const auto nameIn = [this](const StyleSet& set) { return pool_.fontName(set.fontName); };
+    take(kStyleFontName, nameIn, style.fontName, marks.fontName);
+    return cell;
 }
 
 void StyleLayers::clearRows(const RowRun& run) {

@@ -17,16 +17,21 @@ namespace zkp {
 /// rows that get the same look one by one share one set of attributes.
 class StyleLayers {
 public:
-    void writeSurface(const StylePatch& patch);
-    void writeFixed(const StylePatch& patch);
-    void writeBody(const StylePatch& patch);
-    void writeColumn(ColumnId column, const StylePatch& patch);
-    void writeRow(RowId row, const StylePatch& patch);
-    void writeCell(RowId row, ColumnId column, const StylePatch& patch);
+    void writeSurface(const StylePatch& patch, StyleOrigin origin = StyleOrigin::Mark);
+    void writeFixed(const StylePatch& patch, StyleOrigin origin = StyleOrigin::Mark);
+    void writeBody(const StylePatch& patch, StyleOrigin origin = StyleOrigin::Mark);
+    void writeColumn(ColumnId column, const StylePatch& patch, StyleOrigin origin = StyleOrigin::Mark);
+    void writeRow(RowId row, const StylePatch& patch, StyleOrigin origin = StyleOrigin::Mark);
+    void writeCell(RowId row, ColumnId column, const StylePatch& patch,
+                   StyleOrigin origin = StyleOrigin::Mark);
 
     /// A row without an id (kNoRow) has neither row nor cell styles. A cell of a fixed row or column
     /// is of the fixed part, not of the body; columns have their style in all rows but the fixed ones.
-    CellStyle resolve(RowId row, ColumnId column, bool fixedRow, bool fixedColumn) const;
+    CellStyle resolve(RowId row, ColumnId column, bool fixedRow, bool fixedColumn) const {
+        return resolveMarked(row, column, fixedRow, fixedColumn).style;
+    }
+    /// The same with what marks gave of it. Stands until the next question or write.
+    const MarkedStyle& resolveMarked(RowId row, ColumnId column, bool fixedRow, bool fixedColumn) const;
 
     void clearRows(const RowRun& run);
     void dropColumn(ColumnId column);
@@ -45,7 +50,7 @@ private:
         bool filled = false;
         bool fixedPart = false;
         Places places{};
-        CellStyle style;
+        MarkedStyle style;
     };
 
     /// The write before, which block by block and row by row is mostly repeated.
@@ -53,13 +58,14 @@ private:
         std::uint64_t stamp = 0; ///< 0: none
         StyleSetId from = 0;
         StylePatch patch;
+        StyleOrigin origin = StyleOrigin::Mark;
         StyleSetId to = 0;
     };
 
     /// Numbers the next write: a new number when it could cover what was written under this one.
     void stampFor(Layer layer, bool meetsOtherLayer = false);
-    StyleSetId patched(StyleSetId id, const StylePatch& patch);
-    CellStyle compose(const Places& places, bool fixedPart) const;
+    StyleSetId patched(StyleSetId id, const StylePatch& patch, StyleOrigin origin);
+    MarkedStyle compose(const Places& places, bool fixedPart) const;
     void collectWhenWasteful();
 
     StylePool pool_;

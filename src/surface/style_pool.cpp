@@ -19,18 +19,24 @@ std::size_t hashOf(const StyleSet& set) {
     mix(std::bit_cast<std::uint64_t>(set.fontSize));
     for (const bool flag : set.flags)
         mix(flag ? 2 : 1);
+    mix(set.marks.to_ulong());
     return hash;
 }
 
 } // namespace
 
-StyleSetId StylePool::patched(StyleSetId id, const StylePatch& patch, std::uint64_t stamp) {
+StyleSetId StylePool::patched(StyleSetId id, const StylePatch& patch, StyleOrigin origin,
+                              std::uint64_t stamp) {
     StyleSet set = sets_[id];
-    const auto put = [&set, stamp](StyleAttribute attribute, const auto& value, auto& place) {
+    const auto given = [&](StyleAttribute attribute) {
+        set.stamps[attribute] = stamp;
+        set.marks[attribute] = origin == StyleOrigin::Mark;
+    };
+    const auto put = [&given](StyleAttribute attribute, const auto& value, auto& place) {
         if (!value)
             return;
         place = *value;
-        set.stamps[attribute] = stamp;
+        given(attribute);
     };
     put(kStyleBack, patch.backColor, set.back);
     put(kStyleFore, patch.foreColor, set.fore);
@@ -41,7 +47,7 @@ StyleSetId StylePool::patched(StyleSetId id, const StylePatch& patch, std::uint6
     put(kStyleStrikethru, patch.strikethru, set.flags[kStyleStrikethru]);
     if (patch.fontName) {
         set.fontName = nameNumber(*patch.fontName);
-        set.stamps[kStyleFontName] = stamp;
+        given(kStyleFontName);
     }
     return intern(set);
 }

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 #include <array>
+#include <bitset>
 #include <cstdint>
 #include <unordered_map>
 #include <vector>
@@ -26,7 +27,7 @@ enum StyleAttribute : std::uint8_t {
     kStyleAttributes // how many there are
 };
 
-/// Some attributes of cells, each with the number of the write that gave it. 0: not given.
+/// Some attributes of cells, each with the number of the write that gave it (0: not given) and its origin.
 struct StyleSet {
     std::array<std::uint64_t, kStyleAttributes> stamps{};
     Color back = 0;
@@ -34,6 +35,7 @@ struct StyleSet {
     std::uint32_t fontName = 0; ///< number in the pool's list of names
     double fontSize = 0;
     std::array<bool, kStyleAttributes> flags{}; ///< bold and the three after it
+    std::bitset<kStyleAttributes> marks;        ///< set where the write was a mark
 
     bool operator==(const StyleSet&) const = default;
 };
@@ -46,7 +48,7 @@ public:
     bool hasStamp(StyleSetId id, std::uint64_t stamp) const;
     const QString& fontName(std::uint32_t number) const { return names_[static_cast<qsizetype>(number)]; }
     /// The set that `id` becomes when the patch is written over it under that number.
-    StyleSetId patched(StyleSetId id, const StylePatch& patch, std::uint64_t stamp);
+    StyleSetId patched(StyleSetId id, const StylePatch& patch, StyleOrigin origin, std::uint64_t stamp);
 
     /// Sets in use or not yet collected, the empty one included.
     std::size_t size() const { return index_.size() + 1; }

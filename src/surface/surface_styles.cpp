@@ -2,20 +2,21 @@
 
 namespace zkp {
 
-void SurfaceStyles::write(const CellRange& block, const StylePatch& patch, const SurfaceShape& shape) {
+void SurfaceStyles::write(const CellRange& block, const StylePatch& patch, const SurfaceShape& shape,
+                          StyleOrigin origin) {
     for (const StylePiece& piece : stylePieces(block, shape))
-        writePiece(piece, patch);
+        writePiece(piece, patch, origin);
 }
 
-void SurfaceStyles::writePiece(const StylePiece& piece, const StylePatch& patch) {
+void SurfaceStyles::writePiece(const StylePiece& piece, const StylePatch& patch, StyleOrigin origin) {
     const CellRange& block = piece.range;
     switch (piece.target) {
     case StyleTarget::Body:
-        layers_.writeBody(patch);
+        layers_.writeBody(patch, origin);
         return;
     case StyleTarget::Columns:
         for (int col = block.left; col <= block.right; ++col)
-            layers_.writeColumn(columns_.id(col), patch);
+            layers_.writeColumn(columns_.id(col), patch, origin);
         return;
     case StyleTarget::Rows:
     case StyleTarget::Cells:
@@ -25,23 +26,23 @@ void SurfaceStyles::writePiece(const StylePiece& piece, const StylePatch& patch)
     for (int row = block.top; row <= block.bottom; ++row) {
         const RowId id = rows_.id(row);
         if (piece.target == StyleTarget::Rows)
-            layers_.writeRow(id, patch);
+            layers_.writeRow(id, patch, origin);
         else
             for (int col = block.left; col <= block.right; ++col)
-                layers_.writeCell(id, columns_.id(col), patch);
+                layers_.writeCell(id, columns_.id(col), patch, origin);
     }
 }
 
 void SurfaceStyles::writePart(SurfacePart part, const StylePatch& patch) {
     switch (part) {
     case SurfacePart::Whole:
-        layers_.writeSurface(patch);
+        layers_.writeSurface(patch, StyleOrigin::Section);
         return;
     case SurfacePart::Body:
-        layers_.writeBody(patch);
+        layers_.writeBody(patch, StyleOrigin::Section);
         return;
     case SurfacePart::Fixed:
-        layers_.writeFixed(patch);
+        layers_.writeFixed(patch, StyleOrigin::Section);
         return;
     }
 }
@@ -58,7 +59,7 @@ void SurfaceStyles::setFont(const BagFont& font) {
     patch.italic = own_.italic = font.italic;
     patch.underline = own_.underline = font.underline;
     patch.strikethru = own_.strikethru = font.strikethru;
-    layers_.writeSurface(patch);
+    layers_.writeSurface(patch, StyleOrigin::Section);
 }
 
 } // namespace zkp

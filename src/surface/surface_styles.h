@@ -21,10 +21,15 @@ public:
         , columns_(columns) {}
 
     CellStyle at(int row, int col, const SurfaceShape& shape) const {
-        return layers_.resolve(rows_.id(row), columns_.id(col), row < shape.fixedRows, col < shape.fixedCols);
+        return markedAt(row, col, shape).style;
+    }
+    /// The same with what marks gave of it. Stands until the next question or write.
+    const MarkedStyle& markedAt(int row, int col, const SurfaceShape& shape) const {
+        return layers_.resolveMarked(rows_.id(row), columns_.id(col), row < shape.fixedRows,
+                                     col < shape.fixedCols);
     }
     /// A block inside the surface, its corners in order.
-    void write(const CellRange& block, const StylePatch& patch, const SurfaceShape& shape);
+    void write(const CellRange& block, const StylePatch& patch, const SurfaceShape& shape, StyleOrigin origin);
 
     /// As set for the part last, whatever its cells were given since.
     const CellStyle& ofPart(SurfacePart part) const { return part == SurfacePart::Fixed ? fixed_ : own_; }
@@ -48,7 +53,7 @@ public:
 
 private:
     void writePart(SurfacePart part, const StylePatch& patch);
-    void writePiece(const StylePiece& piece, const StylePatch& patch);
+    void writePiece(const StylePiece& piece, const StylePatch& patch, StyleOrigin origin);
 
     SurfaceRows& rows_;
     const SurfaceColumns& columns_;

@@ -91,6 +91,23 @@ TEST(StyleLayers, EveryAttributeArrives) {
     EXPECT_EQ(layers.resolve(0, 0, false, false), wanted);
 }
 
+TEST(StyleLayers, AMarkIsKnownUntilASectionsLookCoversIt) {
+    StyleLayers layers;
+    const auto marksAt = [&layers](RowId row) { return layers.resolveMarked(row, 0, false, false).marks; };
+    layers.writeBody(back(1), StyleOrigin::Section);
+    EXPECT_EQ(marksAt(1), StylePatch());
+    layers.writeRow(1, back(2));
+    layers.writeRow(1, bold(true), StyleOrigin::Section);
+    EXPECT_EQ(marksAt(1), back(2)) << "of each attribute by itself";
+    EXPECT_EQ(marksAt(2), StylePatch());
+    layers.writeRow(1, back(2), StyleOrigin::Section);
+    EXPECT_EQ(marksAt(1), StylePatch()) << "though it looks the same";
+    layers.writeCell(1, 0, bold(false));
+    EXPECT_EQ(marksAt(1), bold(false));
+    layers.writeBody(bold(true), StyleOrigin::Section);
+    EXPECT_EQ(marksAt(1), StylePatch());
+}
+
 TEST(StyleLayers, AClearedRowAndADroppedColumnHaveNoStyle) {
     StyleLayers layers;
     layers.writeRow(1, back(1));
