@@ -18,7 +18,7 @@ protected:
         connection->Execute(
             u"create table DICT (DTFLD text, CPTN text, VISBL bit, ISPUBLIC bit, ISGROUP bit, "
             "[SUM] bit, [AVG] bit, [MIN] bit, [MAX] bit, SOURCEFIELDNAME text, EXPR text, "
-            "SOURCETABLENAME text, KEYMASTER text, FOREIGNKEY text)"_s);
+            "SOURCETABLENAME text, KEYMASTER text, FOREIGNKEY text, WDTH money, ISTOT bit, ALGN integer)"_s);
         grid->setclmns(u"DICT"_s);
     }
 
@@ -195,8 +195,9 @@ TEST_F(LoadOutcomeTest, AFailureOfTheFetchHasFailed) {
 
 TEST_F(LoadOutcomeTest, ABuilderThatFailsBehindABoxMakesTheLoadFailThoughItGoesOn) {
     makeDictionary();
-    connection->Execute(u"insert into DICT (DTFLD, CPTN, VISBL, ISPUBLIC, SOURCEFIELDNAME, SOURCETABLENAME) "
-                        "values ('POLICYID', 'No', 1, 1, 'POLICYID', 'POLICIES')"_s);
+    connection->Execute(
+        u"insert into DICT (DTFLD, CPTN, VISBL, ISPUBLIC, SOURCEFIELDNAME, SOURCETABLENAME, WDTH) "
+        "values ('POLICYID', 'No', 1, 1, 'POLICYID', 'POLICIES', 1000)"_s);
     connection->Execute(
         u"create table Reports (RecSource text, MasterTable text, RKeyname text, MasterFilter text)"_s);
     connection->Execute(u"insert into Reports values ('POLICIES', 'POLICIES', '', '')"_s);

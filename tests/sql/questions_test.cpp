@@ -34,13 +34,14 @@ protected:
               u"insert into POLICIES values (1, 2, 3)"_s,
               u"create table DICT (DTFLD text, CPTN text, VISBL bit, ISPUBLIC bit, ISGROUP bit, "
               "[SUM] bit, [AVG] bit, [MIN] bit, [MAX] bit, SOURCEFIELDNAME text, EXPR text, "
-              "SOURCETABLENAME text, KEYMASTER text, FOREIGNKEY text)"_s,
+              "SOURCETABLENAME text, KEYMASTER text, FOREIGNKEY text, WDTH money, ISTOT bit, ALGN integer)"_s,
               u"create table Reports (RecSource text, MasterTable text, RKeyname text, MasterFilter text)"_s,
               u"insert into Reports values ('POLICIES', 'POLICIES', '', ''), ('DICT', 'DICT', '', '')"_s})
             connection->Execute(statement);
         for (const QString& key : {u"A"_s, u"B"_s, u"C"_s})
-            connection->Execute(u"insert into DICT (DTFLD, CPTN, VISBL, ISPUBLIC, SOURCEFIELDNAME, "
-                                "SOURCETABLENAME) values ('%1', '%1', 1, 1, '%1', 'POLICIES')"_s.arg(key));
+            connection->Execute(
+                u"insert into DICT (DTFLD, CPTN, VISBL, ISPUBLIC, SOURCEFIELDNAME, "
+                "SOURCETABLENAME, WDTH) values ('%1', '%1', 1, 1, '%1', 'POLICIES', 1000)"_s.arg(key));
         grid->setclmns(u"DICT"_s);
         grid->setSqlOnRunTime(true);
         grid->setCols(3);
