@@ -78,8 +78,9 @@ TEST(AxisScale, VerySmallBesideVeryLarge) {
 TEST(AxisScale, TheLargestAndSmallestDoubles) {
     const double largest = std::numeric_limits<double>::max();
     const double smallest = std::numeric_limits<double>::denorm_min();
-    for (const auto& values : {std::vector<double>{-largest, largest}, std::vector<double>{smallest},
-                               std::vector<double>{largest, smallest}, std::vector<double>{-smallest, smallest}}) {
+    for (const auto& values :
+         {std::vector<double>{-largest, largest}, std::vector<double>{smallest},
+          std::vector<double>{largest, smallest}, std::vector<double>{-smallest, smallest}}) {
         const AxisScale scale(values, 6, true);
         EXPECT_LE(scale.tickCount(), 6);
         EXPECT_TRUE(std::isfinite(scale.low()) && std::isfinite(scale.high()));

@@ -12,9 +12,9 @@ class AxisScale {
 public:
     /// From 0 to 1, as an axis without values shows.
     AxisScale() = default;
-    /// The finest scale with `mostTicks` ticks at the most (3 at the least, since an axis may reach to both sides of zero) on which all values find room.
-    /// With `withZero` the zero line belongs to it, as bars and areas stand on it. What is not finite is
-    /// left out; a single value gets room on both sides.
+    /// The finest scale with `mostTicks` ticks at the most (3 at the least, since an axis may reach to both
+    /// sides of zero) on which all values find room. With `withZero` the zero line belongs to it, as bars and
+    /// areas stand on it. What is not finite is left out; a single value gets room on both sides.
     AxisScale(std::span<const double> values, int mostTicks, bool withZero);
 
     double low() const { return tick(0); }

@@ -100,7 +100,8 @@ private:
             sortAlong(bodies, axis);
             double reached = bodies.front().most.*axis;
             for (std::size_t i = 1; i < bodies.size(); ++i) {
-                if (bodies[i].least.*axis >= reached - slackOf(bodies[i]) && isMoreEven(i, best, bodies.size())) {
+                if (bodies[i].least.*axis >= reached - slackOf(bodies[i]) &&
+                    isMoreEven(i, best, bodies.size())) {
                     Plane plane;
                     plane.normal.*axis = 1;
                     plane.offset = (reached + bodies[i].least.*axis) / 2;

@@ -8,11 +8,11 @@ namespace zkp::chart {
 
 /// How a chart is looked at; the settings of its 3-D view.
 struct ViewSettings {
-    bool isOrthogonal = true; ///< the front stays as it is and the depth goes to the upper right
-    double rotation = 345;    ///< degrees about the upright axis, 0 to 360; not in the orthogonal view
-    double elevation = 345;   ///< degrees about the level axis, 0 to 360; not in the orthogonal view
-    double perspective = 15;  ///< 0 none, 100 the strongest; not in the orthogonal view
-    double zoom = 100;        ///< percent
+    bool isOrthogonal = true;    ///< the front stays as it is and the depth goes to the upper right
+    double rotation = 345;       ///< degrees about the upright axis, 0 to 360; not in the orthogonal view
+    double elevation = 345;      ///< degrees about the level axis, 0 to 360; not in the orthogonal view
+    double perspective = 15;     ///< 0 none, 100 the strongest; not in the orthogonal view
+    double zoom = 100;           ///< percent
     double horizontalOffset = 0; ///< to the right, in pixels
     double verticalOffset = 0;   ///< down, in pixels
 };

@@ -40,8 +40,7 @@ Solid wedge(const Slice& form, double from, double to) {
     for (int i = 0; i <= steps; ++i) {
         const double angle = from + (to - from) * i / steps;
         // Seen from above z points up on the paper, and away.
-        low.push_back(form.middle +
-                      Point3{form.radius * std::cos(angle), 0, form.radius * std::sin(angle)});
+        low.push_back(form.middle + Point3{form.radius * std::cos(angle), 0, form.radius * std::sin(angle)});
     }
     Ring high = low;
     for (Point3& p : high)
@@ -79,8 +78,8 @@ Solid upright(const Upright& form) {
     const bool stands = form.from <= form.to;
     const double low = stands ? form.bottom : form.top;
     const double high = stands ? form.top : form.bottom;
-    return between(ring(std::min(form.from, form.to), low), ring(std::max(form.from, form.to), high), low == 0,
-                   high == 0);
+    return between(ring(std::min(form.from, form.to), low), ring(std::max(form.from, form.to), high),
+                   low == 0, high == 0);
 }
 
 std::vector<Solid> slice(const Slice& form) {
