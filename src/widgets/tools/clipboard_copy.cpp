@@ -1,6 +1,5 @@
 #include "widgets/tools/clipboard_copy.h"
 
-#include "core/enums.h"
 #include "widgets/grid/surface_selection.h"
 
 #include <QClipboard>
@@ -40,12 +39,12 @@ QString alignmentOf(const GridSurface& surface, int row, int col) {
 /// A block of cells on its way into both forms.
 class CellWriter {
 public:
-    CellWriter(const GridSurface& surface, const CellRange& block)
-        : surface_(surface)
+    CellWriter(const ReportRows& rows, const CellRange& block)
+        : rows_(rows)
         , block_(block)
-        , cols_(shownColumns(surface, block.left, block.right)) {
-        const auto rows = static_cast<std::int64_t>(block.bottom - block.top + 1);
-        asHtml_ = rows * static_cast<std::int64_t>(cols_.size()) <= CopiedCells::kMostCellsAsHtml;
+        , cols_(shownColumns(rows.surface(), block.left, block.right)) {
+        const auto height = static_cast<std::int64_t>(block.bottom - block.top + 1);
+        asHtml_ = height * static_cast<std::int64_t>(cols_.size()) <= CopiedCells::kMostCellsAsHtml;
     }
 
     CopiedCells write(const QStringList& headings) {
@@ -73,10 +72,9 @@ private:
     }
 
     void writeRow(int row) {
-        const int kind = surface_.RowData(row);
-        const bool isSum = kind == ZKPSubTotals || kind == ZKPTotals;
         if (asHtml_)
-            cells_.html += isSum ? QStringLiteral("<tr style=\"font-weight:bold\">") : QStringLiteral("<tr>");
+            cells_.html += isSumRow(rows_.kind(row)) ? QStringLiteral("<tr style=\"font-weight:bold\">")
+                                                     : QStringLiteral("<tr>");
         for (std::size_t i = 0; i < cols_.size(); ++i) {
             if (i > 0)
                 cells_.text += u'\t';
@@ -88,27 +86,26 @@ private:
     }
 
     void writeCell(int row, int col) {
-        const QString text = surface_.TextMatrix(row, col);
+        const QString text = rows_.text(row, col);
         if (joins(row, col, text))
             return; // the cell above, which it shows as one with, has it
         cells_.text += plainCell(text);
         if (!asHtml_)
             return;
         int last = row;
-        while (last < block_.bottom && joins(last + 1, col, surface_.TextMatrix(last + 1, col)))
+        while (last < block_.bottom && joins(last + 1, col, rows_.text(last + 1, col)))
             ++last;
-        QString attributes = alignmentOf(surface_, row, col);
+        QString attributes = alignmentOf(rows_.surface(), row, col);
         if (last > row)
             attributes += QStringLiteral(" rowspan=\"%1\" valign=\"top\"").arg(last - row + 1);
         cells_.html += QStringLiteral("<td") + attributes + u'>' + markedUp(text) + QStringLiteral("</td>");
     }
 
     bool joins(int row, int col, const QString& text) const {
-        return row > block_.top && surface_.MergeCells() != 0 && surface_.MergeCol(col) &&
-               !text.trimmed().isEmpty() && surface_.TextMatrix(row - 1, col) == text;
+        return row > block_.top && rows_.joinsAbove(row, col, text);
     }
 
-    const GridSurface& surface_;
+    ReportRows rows_;
     CellRange block_;
     std::vector<int> cols_;
     bool asHtml_ = true;
@@ -117,15 +114,16 @@ private:
 
 } // namespace
 
-CopiedCells copySelection(const GridSurface& surface, const QStringList& headings) {
+CopiedCells copySelection(const ReportRows& rows, const QStringList& headings) {
+    const GridSurface& surface = rows.surface();
     CellRange block = selectedBlock(surface);
-    while (block.bottom > block.top && surface.IsRowBlank(block.bottom))
+    while (block.bottom > block.top && rows.isBlank(block.bottom))
         --block.bottom;
     if (isEmpty(block) || shownColumns(surface, block.left, block.right).empty())
         return {};
     if (block.top == block.bottom && block.left == block.right)
-        return {plainCell(surface.TextMatrix(block.top, block.left)), {}};
-    return CellWriter(surface, block).write(headings);
+        return {plainCell(rows.text(block.top, block.left)), {}};
+    return CellWriter(rows, block).write(headings);
 }
 
 void putOnClipboard(const CopiedCells& cells) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "surface/grid_surface.h"
+#include "core/report_rows.h"
 
 #include <QStringList>
 
@@ -14,11 +14,11 @@ struct CopiedCells {
     static constexpr std::int64_t kMostCellsAsHtml = 200'000;
 };
 
-/// The selected block as it shows, under its headings (one for each column of the surface). A single cell
-/// goes alone. Group cells that show as one are one: their text stands in the first of their lines.
-/// Hidden columns stay behind, and so do blank rows at the end. In the text a cell that holds a tab or a
-/// line end, or begins with a quotation mark, stands in quotation marks, and those in it are doubled.
-CopiedCells copySelection(const GridSurface& surface, const QStringList& headings);
+/// The selected block as it shows or would show, under its headings (one for each column of the surface). A
+/// single cell goes alone. Group cells that show as one are one: their text stands in the first of their
+/// lines. Hidden columns stay behind, and so do blank rows at the end. In the text a cell that holds a tab or
+/// a line end, or begins with a quotation mark, stands in quotation marks, and those in it are doubled.
+CopiedCells copySelection(const ReportRows& rows, const QStringList& headings);
 
 /// Puts them on the clipboard; nothing when there are none.
 void putOnClipboard(const CopiedCells& cells);

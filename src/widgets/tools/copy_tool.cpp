@@ -26,7 +26,7 @@ void CopyTool::copy() {
     QStringList headings;
     for (int c = 0; c < grid.Cols(); ++c)
         headings += grid.ColCaption(c);
-    putOnClipboard(copySelection(grid.MSFlexGrid1(), headings));
+    putOnClipboard(copySelection(grid.shownRows(), headings));
 }
 
 } // namespace zkp

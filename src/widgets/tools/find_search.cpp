@@ -66,11 +66,8 @@ FindSearch::State FindSearch::walk(int cells) {
 
 /// The cell above is looked at for hits alone.
 bool FindSearch::isHit(FoundCell cell) const {
-    const QString text = surface_.TextMatrix(cell.row, cell.col);
-    if (!needle_.isIn(text))
-        return false;
-    const bool merges = surface_.MergeCells() != 0 && surface_.MergeCol(cell.col);
-    return !merges || cell.row == surface_.FixedRows() || surface_.TextMatrix(cell.row - 1, cell.col) != text;
+    const QString text = report_.text(cell.row, cell.col);
+    return needle_.isIn(text) && !report_.joinsAbove(cell.row, cell.col, text);
 }
 
 int FindSearch::percent() const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "surface/grid_surface.h"
+#include "core/report_rows.h"
 #include "widgets/tools/folded_text.h"
 
 #include <vector>
@@ -14,15 +14,16 @@ struct FoundCell {
     bool operator==(const FoundCell&) const = default;
 };
 
-/// Looks for a text through the body of a report, row by row, a few cells at a time, so that whoever
-/// drives it can let events in between. It goes round the end to the cell where it began. Cells that show
-/// as one count once, by the first of them; hidden columns don't count.
+/// Looks for a text through the body of a report, as it shows or would show, row by row, a few cells at a
+/// time, so that whoever drives it can let events in between. It goes round the end to the cell where it
+/// began. Cells that show as one count once, by the first of them; hidden columns don't count.
 class FindSearch {
 public:
     enum class State { Idle, Running, Found, Nothing };
 
-    explicit FindSearch(const GridSurface& surface)
-        : surface_(surface) {}
+    explicit FindSearch(const ReportRows& rows)
+        : report_(rows)
+        , surface_(rows.surface()) {}
 
     /// From a cell on, or back; `withFirst`: that cell itself comes first, else last.
     void start(const FoldedNeedle& needle, FoundCell from, bool forward, bool withFirst);
@@ -42,6 +43,7 @@ private:
     bool isHit(FoundCell cell) const;
     FoundCell cellAt(std::int64_t place) const;
 
+    ReportRows report_;
     const GridSurface& surface_;
     FoldedNeedle needle_;
     FoundCell from_;

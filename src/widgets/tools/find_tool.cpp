@@ -50,7 +50,7 @@ void FindTool::reportChanged() {
     note({});
     if (!report())
         return;
-    search_.emplace(report()->grid().MSFlexGrid1());
+    search_.emplace(report()->grid().shownRows());
     if (isOpen()) {
         anchor_ = {};
         mark();

@@ -1,7 +1,7 @@
 #include "widgets/tools/clipboard_copy.h"
 
 #include "core/enums.h"
-#include "print_qt.h"
+#include "painted_grid.h"
 
 #include <gtest/gtest.h>
 
@@ -110,6 +110,28 @@ TEST_F(ClipboardCopy, MoreCellsThanATableTakesGoAsTextAlone) {
     EXPECT_EQ(cells.html, QString());
     EXPECT_EQ(cells.text.count(u'\n'), 200'002);
     EXPECT_FALSE(copyOf(1, 0, 100, 0).html.isEmpty());
+}
+
+/// A report of one group factor of which the first two rows show.
+class CopyOfAReport : public PaintedGridTest {};
+
+TEST_F(CopyOfAReport, RowsOutOfSightGoAsTheyWouldShow) {
+    giveRecordSource();
+    factors(1);
+    kinds({1, 1, 1, 1, 1, 9, 10});
+    for (int row = 1; row < 8; ++row)
+        grid->setTextMatrix(row, 1, QString::number(row));
+    grid->setTextMatrix(3, 0, QStringLiteral("Βόλος"));
+    surface().setMergeCells(1);
+    surface().setMergeCol(0, true);
+    surface().setVisibleRows(2);
+    grid->DrawInterface();
+    surface().Select(3, 0, 6, 1);
+    EXPECT_EQ(copySelection(grid->shownRows(), kHeadings).text,
+              QStringLiteral("Πόλη\tΠοσό\nΒόλος\t3\n----\t4\n\t5\n\t6\n"));
+    surface().Select(4, 0);
+    EXPECT_EQ(copySelection(grid->shownRows(), kHeadings).text, QStringLiteral("----"));
+    EXPECT_EQ(grid->TextMatrix(4, 0), QString()) << "nothing was written";
 }
 
 } // namespace

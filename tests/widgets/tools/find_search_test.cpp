@@ -1,6 +1,6 @@
 #include "widgets/tools/find_search.h"
 
-#include "print_qt.h"
+#include "painted_grid.h"
 
 #include <gtest/gtest.h>
 
@@ -119,6 +119,28 @@ TEST_F(FindSearchTest, RowsThatCameOrWentBeginItAnew) {
     surface.setTextMatrix(2, 0, QStringLiteral("Ωμέγα"));
     EXPECT_EQ(search.walk(1000), State::Found);
     EXPECT_EQ(search.found(), (FoundCell{2, 0}));
+}
+
+/// A report of one group factor of which the first two rows show.
+class FindInAReport : public PaintedGridTest {};
+
+TEST_F(FindInAReport, RowsOutOfSightAreFoundByWhatTheyWouldShow) {
+    giveRecordSource();
+    factors(1);
+    kinds({1, 1, 1, 1, 1, 9, 10});
+    for (const int row : {1, 2, 3})
+        grid->setTextMatrix(row, 0, QString::number(row));
+    surface().setMergeCells(1);
+    surface().setMergeCol(0, true);
+    surface().setVisibleRows(2);
+    grid->DrawInterface();
+    FindSearch search(grid->shownRows());
+    search.start(FoldedNeedle(u"----"), {1, 0}, true, true);
+    EXPECT_EQ(search.walk(1000), State::Found);
+    EXPECT_EQ(search.found(), (FoundCell{4, 0})) << "which shows as one with the next";
+    search.start(FoldedNeedle(u"----"), {4, 0}, true, false);
+    EXPECT_EQ(search.walk(1000), State::Found);
+    EXPECT_TRUE(search.hasWrapped()) << "sums don't show the mark";
 }
 
 } // namespace
