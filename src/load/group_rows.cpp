@@ -47,7 +47,7 @@ bool GroupRows::InitTotalsGrid(bool tagIsSeen) {
     sums_.clear(shapeOfReport(), surface_.locale());
     if (sums_.shape().summed.empty())
         return false;
-    load_.TotalsNeeded = true; // only ever raised, as wanted
+    load_.needTotals();
     sums_.start(SurfaceRow(surface_, kFirstRow));
     surface_.setRows(surface_.Rows() + 2);
     if (tagIsSeen)
@@ -93,7 +93,7 @@ void GroupRows::ResetGroupLevels(int level, int r) {
 void GroupRows::EmitSubTotalRows(int level, int& r) {
     for (int lvl = sums_.shape().factors - 1; lvl >= std::max(level, 0); --lvl) {
         surface_.AddItem({}, r);
-        load_.RowCapacity += 1;
+        load_.addRow();
         writeSubtotalRow(r, lvl);
         surface_.setRowData(r, ZKPSubTotals);
         ++r;

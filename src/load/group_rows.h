@@ -25,7 +25,7 @@ public:
 
     /// With the first record in grid row 1: starts the sums and adds two rows at the end, a blank one
     /// that closes the last groups and one tagged as the totals. False without a summed column; then
-    /// nothing is added, and `TotalsNeeded` stays as it was. Where nobody can see that tag it is better
+    /// nothing is added, and `areTotalsNeeded` stays as it was. Where nobody can see that tag it is better
     /// left out: it makes rows of all the blank ones before it, and `FinishTotals` removes it.
     bool InitTotalsGrid(bool tagIsSeen = true);
     /// Takes in the record that stands in row `r`; `r` moves down with it past inserted rows.

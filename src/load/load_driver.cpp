@@ -253,8 +253,7 @@ std::int64_t LoadDriver::recordCount() const {
 void LoadDriver::sizeSurface(int records) {
     surface_.setRows(surface_.FixedRows());
     surface_.setRows(std::max(records + 1, surface_.FixedRows()));
-    load_.RowCapacity = records + 1;
-    load_.RecCount = records;
+    load_.makeRoom(records);
 }
 
 void LoadDriver::readRows() {
@@ -262,7 +261,7 @@ void LoadDriver::readRows() {
     Tool& count = menu_.Bands(u"BndTemplate").Tools(u"txtRecs");
     count.Text = QString::number(load_.RecCount, 'f', 0) + QStringLiteral("# ");
     menu_.Refresh();
-    load_.LoadFinished = false;
+    load_.beginTotals();
     reader_.LoadRows();
     underWay_.lastRecordMs = elapsedMs();
     LoadHooks::run(hooks_.DrawInterface);

@@ -40,7 +40,7 @@ void RowReader::LoadRows() {
     reporting_.run(read, [this](const Error&) { boxes_.msgBox(texts::readFailed(), kMsgBoxCritical); });
     Q_EMIT events_.StopFillIng();
     lifetime_.throwIfDestroyed();
-    if (load_.LoadFinished)
+    if (load_.isFinished())
         removeBlankRows();
 }
 
@@ -81,7 +81,7 @@ void RowReader::readRecord(const ado::RecordsetPtr& records, double& r) {
 /// has no totals.
 void RowReader::sumRecord(ado::Recordset& records, double& r) {
     if (r == 1) {
-        load_.LoadFinished = false;
+        load_.beginTotals();
         unseen_ = !events_.isRetrieveRowHeard();
         hasTotals_ = groups_.InitTotalsGrid(!unseen_);
     } else if (hasTotals_ && records.AbsolutePosition() <= records.RecordCount()) {
@@ -147,7 +147,7 @@ void RowReader::finishTotals(int r) {
     ++r;
     groups_.AccumulateRow(r);
     totals_.FinishTotals(unseen_);
-    load_.LoadFinished = true;
+    load_.finishTotals();
 }
 
 /// The row above a removed one is passed over, as wanted; the last row always stays.

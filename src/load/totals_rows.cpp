@@ -18,7 +18,7 @@ constexpr int kNobodysTag = 90;
 
 void TotalsRows::FinishTotals(bool rowsAreAsCounted) {
     surface_.RemoveItem(surface_.Rows() - 1);
-    load_.RowCapacity -= 1;
+    load_.dropRow();
     const int last = surface_.Rows() - 1;
     for (int c = 0; c < sums_.shape().columns; ++c)
         surface_.setTextMatrix(last, c, totalText(c, rowsAreAsCounted));

@@ -87,7 +87,7 @@ TEST_F(RowReaderTotalsTest, ASubtotalRowMovesTheFollowingRecordsOn) {
     load(kThree, 4);
     EXPECT_EQ(log, (QStringList{u"row 1"_s, u"row 2"_s, u"row 4"_s, u"draw"_s}));
     EXPECT_EQ(report(), kGrouped);
-    EXPECT_TRUE(state.load.LoadFinished);
+    EXPECT_TRUE(state.load.isFinished());
 }
 
 // Rows that nobody hears about are summed and bound by runs of equal keys; the report is the same.
@@ -103,8 +103,8 @@ TEST_F(RowReaderTotalsTest, WithoutSumsThereAreNoTotals) {
     factor();
     load(kThree, 4);
     EXPECT_EQ(report(), (QStringList{u"1: a | 1"_s, u"1: b | 2"_s, u"1: b | 4"_s}));
-    EXPECT_FALSE(state.load.TotalsNeeded);
-    EXPECT_FALSE(state.load.LoadFinished);
+    EXPECT_FALSE(state.load.areTotalsNeeded());
+    EXPECT_FALSE(state.load.isFinished());
 }
 
 // The mark of a report with sums is only ever raised; a later report without them keeps all its rows.
@@ -112,7 +112,7 @@ TEST_F(RowReaderTotalsTest, TheMarkOfTotalsStaysAndHarmsNoLaterReport) {
     load(kThree, 4);
     columns.Item(2).Totals = false;
     load(kThree, 4);
-    EXPECT_TRUE(state.load.TotalsNeeded);
+    EXPECT_TRUE(state.load.areTotalsNeeded());
     EXPECT_EQ(report(), (QStringList{u"1: a | 1"_s, u"1: b | 2"_s, u"1: b | 4"_s}));
 }
 
@@ -121,7 +121,7 @@ TEST_F(RowReaderTotalsTest, WithTwoFixedRowsThereAreNoTotals) {
     surface.setRows(5);
     surface.setFixedRows(2);
     load(kThree, 5);
-    EXPECT_FALSE(state.load.TotalsNeeded);
+    EXPECT_FALSE(state.load.areTotalsNeeded());
     EXPECT_EQ(surface.Rows(), 5);
 }
 
@@ -133,9 +133,9 @@ TEST_F(RowReaderTotalsTest, WithNoFixedRowTheSecondRecordStartsTheTotals) {
 
 TEST_F(RowReaderTotalsTest, RowCapacityFollowsItsOwnCount) {
     factor();
-    state.load.RowCapacity = 4; // records + 1
+    state.load.makeRoom(3);
     load(kThree, 4);
-    EXPECT_EQ(state.load.RowCapacity, 4 + 2 - 1); // two subtotal rows, less the row that goes at the end
+    EXPECT_EQ(state.load.rowCapacity(), 4 + 2 - 1); // two subtotal rows, less the row that goes at the end
 }
 
 TEST_F(RowReaderTotalsTest, BlankRowsGoAfterTotalsButTheLastRowStays) {
