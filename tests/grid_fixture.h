@@ -1,8 +1,8 @@
 #pragma once
 
-#include "base/error.h"
 #include "core/report_state.h"
 #include "host/scripted_host.h"
+#include "error_of.h"
 #include "print_qt.h"
 #include "zkp_grid.h"
 
@@ -10,22 +10,9 @@
 
 #include <functional>
 #include <memory>
-#include <optional>
 
-/// The error that a call ends in; nothing when it ends well.
-inline std::optional<zkp::Error> errorOf(const std::function<void()>& call) {
-    try {
-        call();
-    } catch (const zkp::Error& error) {
-        return error;
-    }
-    return std::nullopt;
-}
-
-inline std::uint32_t errorNumberOf(const std::function<void()>& call) {
-    const auto error = errorOf(call);
-    return error ? error->number() : 0;
-}
+using zkp::test::errorNumber;
+using zkp::test::errorOf;
 
 /// A control with a host that records its boxes, in the Greek locale.
 class GridTest : public testing::Test {

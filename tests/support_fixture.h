@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/recordset.h"
-#include "error_number.h"
+#include "error_of.h"
 #include "print_qt.h"
 #include "test_database.h"
 

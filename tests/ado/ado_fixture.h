@@ -1,42 +1,18 @@
 #pragma once
 
 #include "ado/recordset.h"
-#include "base/error.h"
+#include "error_of.h"
+#include "print_qt.h"
 
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
-// So that a failing comparison of texts shows them.
-inline void PrintTo(const QString& text, std::ostream* out) {
-    *out << '"' << text.toStdString() << '"';
-}
-
 namespace zkp::ado::test {
 
-/// The number of the Error that a call throws; 0 when it throws none.
-template <class F>
-std::uint32_t errorNumber(F&& call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-/// The words of the Error that a call throws.
-template <class F>
-QString errorText(F&& call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.description();
-    }
-    return {};
-}
+using zkp::test::errorNumber;
+using zkp::test::errorText;
+using zkp::test::u;
 
 /// A connection to an empty database in memory.
 class AdoTest : public testing::Test {
@@ -65,10 +41,6 @@ protected:
     ConnectionPtr cn = std::make_shared<Connection>();
     QTemporaryDir dir;
 };
-
-inline QString u(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
 
 /// The values of the first field, record by record.
 inline QStringList firstField(const RecordsetPtr& rs) {

@@ -2,7 +2,7 @@
 
 #include "bag/crc32.h"
 #include "bag/property_bag_corpus.h"
-#include "error_number.h"
+#include "error_of.h"
 #include "print_qt.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 #include "bag/property_bag.h"
 
-#include "error_number.h"
+#include "error_of.h"
 #include "print_qt.h"
 
 #include <gmock/gmock.h>

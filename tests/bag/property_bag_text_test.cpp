@@ -1,7 +1,7 @@
 #include "bag/property_bag_text.h"
 
 #include "bag/property_bag_corpus.h"
-#include "error_number.h"
+#include "error_of.h"
 #include "print_qt.h"
 
 #include <gmock/gmock.h>

@@ -1,6 +1,7 @@
-#include "base/currency.h"
-#include "base/error.h"
 #include "base/number.h"
+
+#include "base/currency.h"
+#include "error_of.h"
 
 #include <gtest/gtest.h>
 
@@ -10,15 +11,6 @@ using namespace zkp;
 namespace {
 
 const ReportLocale kGreek{QLocale(u"el_GR"_s)};
-
-std::uint32_t errorOf(const std::function<void()>& call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.number();
-    }
-    return 0;
-}
 
 } // namespace
 
@@ -70,8 +62,8 @@ TEST(WholeNumbers, RoundHalfToEvenAndRefuseWhatDoesNotFit) {
     EXPECT_EQ(toInt16(u"12"_s), 12);
     EXPECT_EQ(toInt16(true), -1);
     EXPECT_EQ(toInt16(QVariant::fromValue(Currency{15'000})), 2);
-    EXPECT_EQ(errorOf([] { toInt16(32768); }), kErrOverflow);
-    EXPECT_EQ(errorOf([] { toInt32(3e9); }), kErrOverflow);
-    EXPECT_EQ(errorOf([] { toInt16(u"NULL"_s); }), kErrTypeMismatch);
-    EXPECT_EQ(errorOf([] { toInt16(QVariant()); }), kErrTypeMismatch);
+    EXPECT_EQ(test::errorNumber([] { toInt16(32768); }), kErrOverflow);
+    EXPECT_EQ(test::errorNumber([] { toInt32(3e9); }), kErrOverflow);
+    EXPECT_EQ(test::errorNumber([] { toInt16(u"NULL"_s); }), kErrTypeMismatch);
+    EXPECT_EQ(test::errorNumber([] { toInt16(QVariant()); }), kErrTypeMismatch);
 }

@@ -77,9 +77,9 @@ TEST_F(CellFontsTest, TheControlsOwnMovesRaiseNothing) {
 }
 
 TEST_F(CellFontsTest, ABlockThatLeavesTheSurfaceIsAnErrorAndLocksNothing) {
-    EXPECT_EQ(errorNumberOf([&] { grid->SetCellFonts(2, u"Arial"_s, 11, false, false, false, 0, 99); }),
+    EXPECT_EQ(errorNumber([&] { grid->SetCellFonts(2, u"Arial"_s, 11, false, false, false, 0, 99); }),
               kErrInvalidRow);
-    EXPECT_EQ(errorNumberOf([&] { grid->SetCellFonts(2, u"Arial"_s, 11, false, false, false, 9); }),
+    EXPECT_EQ(errorNumber([&] { grid->SetCellFonts(2, u"Arial"_s, 11, false, false, false, 9); }),
               kErrInvalidColumn);
     EXPECT_TRUE(grid->Redraw());
     surface().userSelect(4, 0);
@@ -177,7 +177,7 @@ TEST_F(CellFontsTest, TheCurrentCellComesBackThroughTheControlsSetters) {
 TEST_F(CellFontsTest, AHandlerThatThrowsLeavesNothingLocked) {
     const auto broken = QObject::connect(&grid->events(), &Events::PropertyChanged,
                                          [](PropertyArgs&) { throw Error(kErrInvalidCall, u"no"_s); });
-    EXPECT_EQ(errorNumberOf([&] { grid->FontsRow(5); }), kErrInvalidCall);
+    EXPECT_EQ(errorNumber([&] { grid->FontsRow(5); }), kErrInvalidCall);
     QObject::disconnect(broken);
     EXPECT_TRUE(grid->Redraw());
     surface().userSelect(4, 0);
@@ -185,9 +185,9 @@ TEST_F(CellFontsTest, AHandlerThatThrowsLeavesNothingLocked) {
 }
 
 TEST_F(CellFontsTest, AnArgumentOfAnotherKindIsAnError) {
-    EXPECT_EQ(errorNumberOf([&] { grid->FontsRow(5, {}, QStringList{u"a"_s, u"b"_s}); }), kErrTypeMismatch);
-    EXPECT_EQ(errorNumberOf([&] { grid->FontsRow(99); }), kErrInvalidRow);
-    EXPECT_EQ(errorNumberOf([&] { grid->CellFonts(1, 9); }), kErrInvalidColumn);
+    EXPECT_EQ(errorNumber([&] { grid->FontsRow(5, {}, QStringList{u"a"_s, u"b"_s}); }), kErrTypeMismatch);
+    EXPECT_EQ(errorNumber([&] { grid->FontsRow(99); }), kErrInvalidRow);
+    EXPECT_EQ(errorNumber([&] { grid->CellFonts(1, 9); }), kErrInvalidColumn);
 }
 
 TEST_F(CellFontsTest, AHandlerMayDestroyTheControl) {

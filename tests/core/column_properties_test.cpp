@@ -23,8 +23,8 @@ TEST(ColumnList, AnItemMovesAmongTheOthersAsTheSameRecord) {
     list.Move(1, 1);
     EXPECT_EQ(order(), u"bacd"_s);
     EXPECT_EQ(&list.Item(1), moved);
-    EXPECT_EQ(errorNumberOf([&] { list.Move(1, 5); }), kErrSubscript);
-    EXPECT_EQ(errorNumberOf([&] { list.Move(0, 1); }), kErrSubscript);
+    EXPECT_EQ(errorNumber([&] { list.Move(1, 5); }), kErrSubscript);
+    EXPECT_EQ(errorNumber([&] { list.Move(0, 1); }), kErrSubscript);
 }
 
 TEST_F(ColumnPropertiesTest, ANewControlHasTwoDefaultColumns) {
@@ -151,11 +151,11 @@ TEST_F(ColumnPropertiesTest, ColDataIsTheSurfacesAndNotTheRecords) {
 }
 
 TEST_F(ColumnPropertiesTest, AnIndexOutsideIsTheCollectionsError) {
-    EXPECT_EQ(errorNumberOf([&] { grid->ColTotals(2); }), kErrSubscript);
-    EXPECT_EQ(errorNumberOf([&] { grid->setColDataField(-1, u"X"_s); }), kErrSubscript);
-    EXPECT_EQ(errorNumberOf([&] { grid->ColCredit(9); }), kErrSubscript);
-    EXPECT_EQ(errorNumberOf([&] { grid->Columns().Item(0); }), kErrSubscript);
-    EXPECT_EQ(errorNumberOf([&] { grid->Columns().Item(3); }), kErrSubscript);
+    EXPECT_EQ(errorNumber([&] { grid->ColTotals(2); }), kErrSubscript);
+    EXPECT_EQ(errorNumber([&] { grid->setColDataField(-1, u"X"_s); }), kErrSubscript);
+    EXPECT_EQ(errorNumber([&] { grid->ColCredit(9); }), kErrSubscript);
+    EXPECT_EQ(errorNumber([&] { grid->Columns().Item(0); }), kErrSubscript);
+    EXPECT_EQ(errorNumber([&] { grid->Columns().Item(3); }), kErrSubscript);
 }
 
 TEST_F(ColumnPropertiesTest, ColsGrowsWithDefaultsThatCopyTheSurfacesAlignmentOnTheLeft) {

@@ -53,9 +53,9 @@ TEST(Events, AllThirtyThreeAndThePropertyChangeCanBeBound) {
 TEST(Events, AHandlerThatThrowsReachesTheRaiser) {
     Events events;
     QObject::connect(&events, &Events::Click, [] { throw Error(1, u"no"_s); });
-    EXPECT_EQ(errorNumberOf([&] { Q_EMIT events.Click(); }), 1u);
+    EXPECT_EQ(errorNumber([&] { Q_EMIT events.Click(); }), 1u);
     // The object still works afterwards.
-    EXPECT_EQ(errorNumberOf([&] { Q_EMIT events.Click(); }), 1u);
+    EXPECT_EQ(errorNumber([&] { Q_EMIT events.Click(); }), 1u);
 }
 
 TEST(Events, KnowsWhetherRetrieveRowIsHeard) {

@@ -62,9 +62,9 @@ TEST_F(FrontDoorTest, RowsEqualToFixedRowsForgetsTheMark) {
 }
 
 TEST_F(FrontDoorTest, RowsOutsideIsAnError) {
-    EXPECT_EQ(errorNumberOf([&] { grid->setRows(-1); }), kErrInvalidRow);
-    EXPECT_EQ(errorNumberOf([&] { grid->TextMatrix(99, 0); }), kErrInvalidRow);
-    EXPECT_EQ(errorNumberOf([&] { grid->TextMatrix(0, 99); }), kErrInvalidColumn);
+    EXPECT_EQ(errorNumber([&] { grid->setRows(-1); }), kErrInvalidRow);
+    EXPECT_EQ(errorNumber([&] { grid->TextMatrix(99, 0); }), kErrInvalidRow);
+    EXPECT_EQ(errorNumber([&] { grid->TextMatrix(0, 99); }), kErrInvalidColumn);
 }
 
 TEST_F(FrontDoorTest, RowBeyondTheLastGrowsTheGridAndIsThenDropped) {
@@ -116,10 +116,10 @@ TEST_F(FrontDoorTest, AddItemAndRemoveItem) {
     EXPECT_EQ(grid->TextMatrix(1, 0), u"α"_s);
     EXPECT_EQ(grid->TextMatrix(1, 1), u"β"_s);
     EXPECT_EQ(grid->TextMatrix(3, 0), u"τέλος"_s);
-    EXPECT_EQ(errorNumberOf([&] { grid->AddItem(u"x"_s, -1); }), kErrInvalidRow);
+    EXPECT_EQ(errorNumber([&] { grid->AddItem(u"x"_s, -1); }), kErrInvalidRow);
     grid->RemoveItem(1);
     EXPECT_EQ(grid->TextMatrix(2, 0), u"τέλος"_s);
-    EXPECT_EQ(errorNumberOf([&] { grid->RemoveItem(50); }), kErrInvalidRow);
+    EXPECT_EQ(errorNumber([&] { grid->RemoveItem(50); }), kErrInvalidRow);
 }
 
 TEST_F(FrontDoorTest, MinRowsIsTheFloorOfTheRows) {

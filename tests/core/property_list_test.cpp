@@ -215,7 +215,7 @@ TEST_F(PropertyListTest, IdentityCanBeSetByMethodAndByNameAndNotRead) {
     for (const QString& name : identityNames()) {
         EXPECT_EQ(grid->metaObject()->indexOfProperty(qPrintable(name)), -1) << qPrintable(name);
         EXPECT_EQ(grid->metaObject()->indexOfMethod(qPrintable(name + u"()"_s)), -1) << qPrintable(name);
-        EXPECT_EQ(errorNumberOf([&] { grid->getMember(name); }), kErrNoSuchMember) << qPrintable(name);
+        EXPECT_EQ(errorNumber([&] { grid->getMember(name); }), kErrNoSuchMember) << qPrintable(name);
         const bool isText = name.startsWith(u'I') || name == u"ProductID"_s;
         const QVariant value = isText ? QVariant(u"1"_s) : QVariant(1);
         EXPECT_EQ(keysOf([&] { grid->setMember(name.toLower(), value); }), QStringList{}) << qPrintable(name);
@@ -227,7 +227,7 @@ TEST_F(PropertyListTest, ReadOnlyOnesAreReadAndRefuseAValue) {
         EXPECT_EQ(grid->getMember(name.toUpper()), grid->property(qPrintable(name))) << qPrintable(name);
         EXPECT_TRUE(grid->getMember(name).isValid()) << qPrintable(name);
         EXPECT_FALSE(grid->setProperty(qPrintable(name), u"1"_s)) << qPrintable(name);
-        EXPECT_EQ(errorNumberOf([&] { grid->setMember(name, u"1"_s); }), kErrNoSuchMember)
+        EXPECT_EQ(errorNumber([&] { grid->setMember(name, u"1"_s); }), kErrNoSuchMember)
             << qPrintable(name);
     }
 }

@@ -38,13 +38,13 @@ TEST_F(RecordSourceTest, AKindOutsideGivesTheEmptyText) {
 
 TEST_F(RecordSourceTest, AValueOfAnotherKindIsATypeMismatch) {
     grid->setSourceType(ZKP_RecordSet);
-    EXPECT_EQ(errorNumberOf([&] { grid->setRecordSource(u"select 1"_s); }), kErrTypeMismatch);
+    EXPECT_EQ(errorNumber([&] { grid->setRecordSource(u"select 1"_s); }), kErrTypeMismatch);
     grid->setSourceType(ZKP_Command);
-    EXPECT_EQ(errorNumberOf([&] { grid->setRecordSource(5); }), kErrTypeMismatch);
+    EXPECT_EQ(errorNumber([&] { grid->setRecordSource(5); }), kErrTypeMismatch);
 }
 
 TEST_F(RecordSourceTest, TheTextOfAMissingRecordsetIsAnError) {
     grid->setSourceType(ZKP_RecordSet);
     grid->setRecordSource(QVariant::fromValue(ado::RecordsetPtr()));
-    EXPECT_EQ(errorNumberOf([&] { grid->RecordsourceSTR(); }), kErrObjectNotSet);
+    EXPECT_EQ(errorNumber([&] { grid->RecordsourceSTR(); }), kErrObjectNotSet);
 }

@@ -113,8 +113,8 @@ TEST_F(RowMarkingTest, TheKeyOfTheRowIsTaken) {
 TEST_F(RowMarkingTest, AHandlerOfSelectingThatThrowsLeavesNothingLocked) {
     const auto broken =
         QObject::connect(&grid->events(), &Events::Selecting, [] { throw Error(kErrInvalidCall, u"no"_s); });
-    EXPECT_EQ(errorNumberOf([&] { grid->Selectrow(); }), kErrInvalidCall);
-    EXPECT_EQ(errorNumberOf([&] { grid->reversecolor(2, kMark, kMark); }), kErrInvalidCall);
+    EXPECT_EQ(errorNumber([&] { grid->Selectrow(); }), kErrInvalidCall);
+    EXPECT_EQ(errorNumber([&] { grid->reversecolor(2, kMark, kMark); }), kErrInvalidCall);
     QObject::disconnect(broken);
     EXPECT_TRUE(grid->Redraw());
     told();
@@ -305,9 +305,9 @@ TEST_F(RowMarkingTest, CellsAreColouredAloneAndTheSelectionBecomesTheCurrentCell
 }
 
 TEST_F(RowMarkingTest, ARowOrColumnThatIsNotThereIsAnErrorAndLocksNothing) {
-    EXPECT_EQ(errorNumberOf([&] { grid->reversecolor(99, kMark, kMark); }), kErrInvalidRow);
-    EXPECT_EQ(errorNumberOf([&] { grid->Releasemark(-1); }), kErrInvalidRow);
-    EXPECT_EQ(errorNumberOf([&] { grid->ReverseCell(1, 0, 9, kMark, kMark); }), kErrInvalidColumn);
+    EXPECT_EQ(errorNumber([&] { grid->reversecolor(99, kMark, kMark); }), kErrInvalidRow);
+    EXPECT_EQ(errorNumber([&] { grid->Releasemark(-1); }), kErrInvalidRow);
+    EXPECT_EQ(errorNumber([&] { grid->ReverseCell(1, 0, 9, kMark, kMark); }), kErrInvalidColumn);
     EXPECT_TRUE(grid->Redraw());
     surface().userSelect(4, 0);
     EXPECT_EQ(told(), u"Selecting Selecting"_s);

@@ -86,7 +86,7 @@ TEST_F(ShownRowReaderTest, AJumpCostsTheCellsAboveOfColumnsThatMerge) {
 
 TEST_F(ShownRowReaderTest, ARowThatIsNotThereIsAnErrorAndNoRowAbove) {
     ShownRowReader reader(grid->shownRows(), {0});
-    EXPECT_EQ(errorNumberOf([&] { reader.read(kRows + 1); }), kErrInvalidRow);
+    EXPECT_EQ(errorNumber([&] { reader.read(kRows + 1); }), kErrInvalidRow);
     EXPECT_EQ(line(reader.read(502)), u"502/1: ^g125"_s);
 }
 

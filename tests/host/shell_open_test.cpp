@@ -1,7 +1,7 @@
 #include "host/shell_open.h"
 
 #include "host/scripted_host.h"
-#include "error_number.h"
+#include "error_of.h"
 #include "print_qt.h"
 
 #include <QCoreApplication>

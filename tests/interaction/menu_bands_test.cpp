@@ -137,7 +137,7 @@ TEST_F(MenuBandsTest, EachToolThatOpensABandNamesOneThatIsThere) {
         for (const auto& tool : band->tools) {
             openers += tool->kind == ToolKind::SubMenu ? 1 : 0;
             if (tool->kind == ToolKind::SubMenu || !tool->subBand.isEmpty()) {
-                EXPECT_EQ(errorNumberOf([&] { bar.Bands(tool->subBand); }), 0u) << qPrintable(tool->Name);
+                EXPECT_EQ(errorNumber([&] { bar.Bands(tool->subBand); }), 0u) << qPrintable(tool->Name);
             }
         }
     EXPECT_EQ(openers, 7); // column, format, template (in two bands), two colours, fonts

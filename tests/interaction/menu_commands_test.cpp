@@ -121,7 +121,7 @@ TEST_F(MenuCommandsTest, EachClickEndsInMenusThatFollowTheColumn) {
     }
     grid->setCn({});
     left.Enabled = false;
-    EXPECT_EQ(errorNumberOf([this] { click(u"mnuRefresh"); }), kErrPropertyNotSet);
+    EXPECT_EQ(errorNumber([this] { click(u"mnuRefresh"); }), kErrPropertyNotSet);
     EXPECT_TRUE(left.Enabled) << "a command that fails is told to whoever clicked";
 }
 

@@ -82,7 +82,7 @@ TEST_F(RefreshInterfaceTest, PointerAndRedrawComeBack) {
     EXPECT_TRUE(grid->Redraw());
     QObject::connect(&grid->events(), &Events::PropertyChanged,
                      [] { throw Error(kErrInvalidCall, u"no"_s); });
-    EXPECT_EQ(errorNumberOf([&] { grid->RefreshInterface(); }), kErrInvalidCall);
+    EXPECT_EQ(errorNumber([&] { grid->RefreshInterface(); }), kErrInvalidCall);
     EXPECT_EQ(host->pointer(), kPointerNoDrop);
     EXPECT_TRUE(grid->Redraw());
 }

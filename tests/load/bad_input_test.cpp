@@ -92,8 +92,8 @@ TEST_F(BadInputTest, ADamagedDatabase) {
     damaged.write(QByteArray(8192, '\xAA'));
     damaged.close();
     auto cn = std::make_shared<ado::Connection>();
-    const auto opening = errorOf([&] { cn->Open(u"sqlite:"_s + file); });
-    if (!opening) {
+    const Error opening = errorOf([&] { cn->Open(u"sqlite:"_s + file); });
+    if (opening.number() == 0) {
         grid->Fill(cn, u"select * from T"_s, ZKP_SQLStatement);
         grid->refresh();
         EXPECT_EQ(boxes().size(), 1);

@@ -291,7 +291,7 @@ TEST_F(HandlersTest, ReadingRowsWhileRowsAreReadIsRefused) {
     grid->setColTotals(0, true);
     std::uint32_t refused = 0;
     QObject::connect(&grid->events(), &Events::RetrieveRow,
-                     [&](RetrieveRowArgs&) { refused = errorNumberOf([&] { grid->LoadRows(); }); });
+                     [&](RetrieveRowArgs&) { refused = errorNumber([&] { grid->LoadRows(); }); });
     fill();
     grid->refresh();
     EXPECT_EQ(refused, std::uint32_t{kErrIllegalOperation});
@@ -323,6 +323,6 @@ TEST_F(HandlersTest, AnErrorSinkMayReplaceItself) {
         ++calls;
         grid->setErrorSink({});
     });
-    EXPECT_EQ(errorNumberOf([&] { grid->refresh(); }), kErrPropertyNotSet);
+    EXPECT_EQ(errorNumber([&] { grid->refresh(); }), kErrPropertyNotSet);
     EXPECT_EQ(calls, 1);
 }

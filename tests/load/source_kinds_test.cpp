@@ -31,7 +31,7 @@ TEST_F(SourceKindsTest, AFailedRecordsetLoadMakesTheNextRefreshFailItsCheck) {
     connection->Execute(u"drop table POLICIES"_s);
     grid->refresh();
     EXPECT_EQ(host->messages.size(), 1u);
-    EXPECT_EQ(errorNumberOf([&] { grid->refresh(); }), kErrPropertyNotSet);
+    EXPECT_EQ(errorNumber([&] { grid->refresh(); }), kErrPropertyNotSet);
 }
 
 TEST_F(SourceKindsTest, ARecordsetWithoutTextIsAskedForOverNoName) {

@@ -1,6 +1,6 @@
 #include "menu/menu_bar.h"
 
-#include "error_number.h"
+#include "error_of.h"
 #include "print_qt.h"
 
 #include <gtest/gtest.h>

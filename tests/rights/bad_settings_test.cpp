@@ -20,7 +20,7 @@ protected:
     }
     std::uint32_t errorOfFill(const QString& user) {
         setUp(*grid, totals());
-        return errorNumberOf([&] { fill(*grid, totals(), connection, user); });
+        return errorNumber([&] { fill(*grid, totals(), connection, user); });
     }
     void expectTotals() {
         EXPECT_EQ(load(totals(), {u"BRANCH"_s, u"SUM_PREMIUM"_s}),

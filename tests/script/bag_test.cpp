@@ -67,23 +67,23 @@ TEST_F(Bag, NoBytesAreAnEmptyBag) {
 
 TEST_F(Bag, DamagedContentsAreOneErrorAndLeaveTheBagAsItWas) {
     run(QStringLiteral("bag.WriteProperty('A', 1);"));
-    EXPECT_EQ(errorNumberOf(QStringLiteral("bag.Contents = bag.Contents.slice(0, 20)")),
+    EXPECT_EQ(errorNumber(QStringLiteral("bag.Contents = bag.Contents.slice(0, 20)")),
               static_cast<int>(zkp::kErrInvalidFormat));
-    EXPECT_EQ(errorNumberOf(QStringLiteral("bag.Contents = new ArrayBuffer(100)")),
+    EXPECT_EQ(errorNumber(QStringLiteral("bag.Contents = new ArrayBuffer(100)")),
               static_cast<int>(zkp::kErrInvalidFormat));
-    EXPECT_EQ(errorNumberOf(QStringLiteral("bag.Contents = null")), 13);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("bag.Contents = 'ZKPB'")), 13);
+    EXPECT_EQ(errorNumber(QStringLiteral("bag.Contents = null")), 13);
+    EXPECT_EQ(errorNumber(QStringLiteral("bag.Contents = 'ZKPB'")), 13);
     EXPECT_EQ(valueOf("bag.ReadProperty('A', 0)"), QStringLiteral("1"));
 }
 
 TEST_F(Bag, WhatIsNoValueOfABagIsATypeMismatch) {
     for (const char* value : {"null", "cn", "[1]", "bag", "bag.Contents", "{}"}) {
         const QString statement = QStringLiteral("bag.WriteProperty('A', %1)").arg(QLatin1String(value));
-        EXPECT_EQ(errorNumberOf(statement), 13) << value;
+        EXPECT_EQ(errorNumber(statement), 13) << value;
     }
-    EXPECT_EQ(errorNumberOf(QStringLiteral("bag.WriteProperty('', 1)")), 5);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("bag.WriteProperty('A')")), 449);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("bag.Count")), 438);
+    EXPECT_EQ(errorNumber(QStringLiteral("bag.WriteProperty('', 1)")), 5);
+    EXPECT_EQ(errorNumber(QStringLiteral("bag.WriteProperty('A')")), 449);
+    EXPECT_EQ(errorNumber(QStringLiteral("bag.Count")), 438);
 }
 
 TEST_F(Bag, AFontIsSavedAndGivenBack) {

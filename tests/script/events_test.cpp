@@ -67,9 +67,9 @@ TEST_F(ScriptEvents, AnArgumentLeftWithAnotherKindOfValueIsAFailure) {
 }
 
 TEST_F(ScriptEvents, AnUnknownEventAndAHandlerThatIsNoFunctionAreErrors) {
-    EXPECT_EQ(errorNumberOf(QStringLiteral("grid.events.Retrieve")), 438);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("grid.events.Click.connect(5)")), 13);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("grid.events.Click.connect()")), 449);
+    EXPECT_EQ(errorNumber(QStringLiteral("grid.events.Retrieve")), 438);
+    EXPECT_EQ(errorNumber(QStringLiteral("grid.events.Click.connect(5)")), 13);
+    EXPECT_EQ(errorNumber(QStringLiteral("grid.events.Click.connect()")), 449);
 }
 
 TEST_F(ScriptEvents, EveryEventCanBeBoundAlsoThoseThatAreNeverRaised) {

@@ -47,7 +47,7 @@ TEST_F(Globals, ObjectsKnowTheirConstructor) {
 }
 
 TEST_F(Globals, ConstructorsTakeNoArguments) {
-    EXPECT_EQ(errorNumberOf(QStringLiteral("new ZkpGrid(1)")), 450);
+    EXPECT_EQ(errorNumber(QStringLiteral("new ZkpGrid(1)")), 450);
 }
 
 TEST_F(Globals, TheSameThingIsTheSameObject) {

@@ -48,7 +48,7 @@ TEST_F(HostControl, ItsBoxesGoToTheHost) {
 }
 
 TEST_F(HostControl, AScriptCanNotDestroyIt) {
-    EXPECT_EQ(errorNumberOf(QStringLiteral("report.destroy()")), zkp::kErrIllegalOperation);
+    EXPECT_EQ(errorNumber(QStringLiteral("report.destroy()")), zkp::kErrIllegalOperation);
     EXPECT_EQ(linesOf(QStringLiteral("print(report.Cols)")), QStringList{QStringLiteral("2")});
 }
 
@@ -61,9 +61,9 @@ TEST_F(HostControl, ItsLocaleIsTheHosts) {
 TEST_F(HostControl, OnceItIsGoneItIsAnErrorToUseIt) {
     linesOf(QStringLiteral("var columns = report.Columns; report.events.Click.connect(function () {});"));
     grid.reset();
-    EXPECT_EQ(errorNumberOf(QStringLiteral("report.Cols")), zkp::kErrObjectNotSet);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("columns.Count")), zkp::kErrObjectNotSet);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("report.events.Click.connect(function () {})")),
+    EXPECT_EQ(errorNumber(QStringLiteral("report.Cols")), zkp::kErrObjectNotSet);
+    EXPECT_EQ(errorNumber(QStringLiteral("columns.Count")), zkp::kErrObjectNotSet);
+    EXPECT_EQ(errorNumber(QStringLiteral("report.events.Click.connect(function () {})")),
               zkp::kErrObjectNotSet);
 }
 

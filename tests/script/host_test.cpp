@@ -21,13 +21,13 @@ TEST_F(ScriptHostGlobal, ALocaleReachesControlsMadeBeforeAndAfter) {
                                "print(before.TextMatrix(1, 1), after.TextMatrix(1, 1), host.locale);"
                                "host.locale = 'el_GR'; before.refresh(); print(before.TextMatrix(1, 1));")),
         (QStringList{QStringLiteral("1,234.50 1,234.50 en_US"), QStringLiteral("1.234,50")}));
-    EXPECT_EQ(errorNumberOf(QStringLiteral("host.locale = 'nonesuch'")), 5);
+    EXPECT_EQ(errorNumber(QStringLiteral("host.locale = 'nonesuch'")), 5);
 }
 
 TEST_F(ScriptHostGlobal, AnswersAreFunctionsOrNull) {
-    EXPECT_EQ(errorNumberOf(QStringLiteral("host.onMsgBox = 5")), 13);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("host.onMsgBox = null")), 0);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("host.onMsg = null")), 438);
+    EXPECT_EQ(errorNumber(QStringLiteral("host.onMsgBox = 5")), 13);
+    EXPECT_EQ(errorNumber(QStringLiteral("host.onMsgBox = null")), 0);
+    EXPECT_EQ(errorNumber(QStringLiteral("host.onMsg = null")), 438);
     EXPECT_EQ(linesOf(QStringLiteral("function f() {} host.onMsgBox = f; print(host.onMsgBox === f)")),
               QStringList{QStringLiteral("true")});
 }

@@ -44,6 +44,6 @@ TEST_F(ScriptLoadOutcome, AnOutcomeStaysWhatItWasAndAMisspeltNameIsAnError) {
                                      "grid.RefreshOnChange = false; grid.refresh();"
                                      "print(o.result, grid.lastLoad().result, grid.isLoading());")),
               QStringList{QStringLiteral("1 4 false")});
-    EXPECT_EQ(errorNumberOf(QStringLiteral("o.Result")), 438);
-    EXPECT_NE(errorNumberOf(QStringLiteral("o.records = 7")), 0);
+    EXPECT_EQ(errorNumber(QStringLiteral("o.Result")), 438);
+    EXPECT_NE(errorNumber(QStringLiteral("o.records = 7")), 0);
 }

@@ -63,9 +63,9 @@ TEST_F(ScriptMarking, OptionalArgumentsMayBeLeftOutAndSurplusOnesAreErrors) {
                              "PaintGroupBlock(false)", "Selectrow()", "makeRowByrow()", "CellFonts(1, 0)",
                              "FontsRow(1)", "SetCellFonts(1, 'Arial', 8, false, false, false, 0, 2, 1)"})
         EXPECT_EQ(errorOf(QStringLiteral("grid.") + QLatin1String(call)), QStringLiteral("none")) << call;
-    EXPECT_EQ(errorNumberOf(QStringLiteral("grid.Selectrow(1)")), 450);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("grid.reversecolor(1)")), 449);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("grid.reversecolor('a', 1, 1)")), 13);
+    EXPECT_EQ(errorNumber(QStringLiteral("grid.Selectrow(1)")), 450);
+    EXPECT_EQ(errorNumber(QStringLiteral("grid.reversecolor(1)")), 449);
+    EXPECT_EQ(errorNumber(QStringLiteral("grid.reversecolor('a', 1, 1)")), 13);
 }
 
 TEST_F(ScriptMarking, AFailingHandlerOfSelectingEndsTheScript) {

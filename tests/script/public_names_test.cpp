@@ -271,14 +271,14 @@ TEST_F(PublicNames, ReadOnlyOnesAreReadAndRefuseAValue) {
     for (const char* name : kReadOnly) {
         expectRuns(QStringLiteral("if (grid.%1 === undefined) throw new Error('undefined')")
                        .arg(QLatin1String(name)));
-        EXPECT_EQ(errorNumberOf(QStringLiteral("grid.%1 = 1").arg(QLatin1String(name))), 438) << name;
+        EXPECT_EQ(errorNumber(QStringLiteral("grid.%1 = 1").arg(QLatin1String(name))), 438) << name;
     }
 }
 
 TEST_F(PublicNames, WriteOnlyOnesAreWrittenAndNotRead) {
     for (const char* name : kWriteOnly) {
         expectRuns(QStringLiteral("grid.%1 = 0").arg(QLatin1String(name)));
-        EXPECT_EQ(errorNumberOf(QStringLiteral("grid.%1").arg(QLatin1String(name))), 438) << name;
+        EXPECT_EQ(errorNumber(QStringLiteral("grid.%1").arg(QLatin1String(name))), 438) << name;
     }
 }
 

@@ -44,7 +44,7 @@ protected:
     }
 
     /// The number alone.
-    int errorNumberOf(const QString& statement) {
+    int errorNumber(const QString& statement) {
         const QString error = errorOf(statement);
         return error == QLatin1String("none") ? 0 : error.section(QLatin1Char(' '), 0, 0).toInt();
     }

@@ -39,7 +39,7 @@ TEST_P(SurfaceNames, ValuesAreReadAndWritten) {
 TEST_P(SurfaceNames, AnswersAreReadAndRefuseAValue) {
 #define READ_ALONE(Type, Name)                                                                               \
     expectRuns(QStringLiteral("if (s." #Name " === undefined) throw new Error('undefined')"));               \
-    EXPECT_EQ(errorNumberOf(QStringLiteral("s." #Name " = 1")), 438);
+    EXPECT_EQ(errorNumber(QStringLiteral("s." #Name " = 1")), 438);
     ZKP_GRIDSURFACE_ANSWERS(READ_ALONE)
 }
 
@@ -61,7 +61,7 @@ TEST_P(SurfaceNames, MethodsAreThere) {
     ZKP_GRIDSURFACE_METHODS(METHOD)
     ZKP_GRIDSURFACE_MOUSE(METHOD)
     expectRuns(QStringLiteral("s.Sort = 0")); // nothing reads it
-    EXPECT_EQ(errorNumberOf(QStringLiteral("s.Sort")), 438);
+    EXPECT_EQ(errorNumber(QStringLiteral("s.Sort")), 438);
 }
 
 TEST_P(SurfaceNames, WhatIsWrittenIsWhatIsReadInEachFamily) {
@@ -86,8 +86,8 @@ TEST_P(SurfaceNames, OptionalArgumentsMayBeLeftOut) {
                                      "s.Select(2, 1, 4, 3); print(s.Row, s.Col, s.RowSel, s.ColSel);"
                                      "s.AddItem('a'); s.AddItem('b', 2); print(s.Rows, s.TextMatrix(2, 0))")),
               (QStringList{QStringLiteral("2 1 2 1"), QStringLiteral("2 1 4 3"), QStringLiteral("7 b")}));
-    EXPECT_EQ(errorNumberOf(QStringLiteral("s.AddItem()")), 449);
-    EXPECT_EQ(errorNumberOf(QStringLiteral("s.Clear(1)")), 450);
+    EXPECT_EQ(errorNumber(QStringLiteral("s.AddItem()")), 449);
+    EXPECT_EQ(errorNumber(QStringLiteral("s.Clear(1)")), 450);
 }
 
 TEST_P(SurfaceNames, WhatAUserDoesReachesTheSurface) {

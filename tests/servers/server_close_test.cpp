@@ -64,12 +64,12 @@ TEST_P(ServerCloseTest, ATransactionIsUndoneAndItsLocksAreFree) {
     rs->Update();
     other->Execute(u("UPDATE ZT_CLOSE SET V = 'lost' WHERE A = 2"));
     cn->setCommandTimeout(3);
-    EXPECT_EQ(errorOf([&] { run("UPDATE ZT_CLOSE SET V = 'mine' WHERE A = 1"); }).number(), kErrTimeout);
+    EXPECT_EQ(errorNumber([&] { run("UPDATE ZT_CLOSE SET V = 'mine' WHERE A = 1"); }), kErrTimeout);
     other->Close();
     run("UPDATE ZT_CLOSE SET V = 'mine' WHERE A = 1");
     EXPECT_EQ(firstField(open("SELECT V FROM ZT_CLOSE ORDER BY A")), QStringList({u("mine"), u("two")}));
     EXPECT_EQ(rs->Collect(u("V")).toString(), u("lost")) << "it keeps what it read";
-    EXPECT_EQ(errorOf([&] { rs->setCollect(u("V"), u("x")); }).number(), kErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { rs->setCollect(u("V"), u("x")); }), kErrObjectClosed);
 }
 
 TEST_P(ServerCloseTest, NothingIsWrittenAnyMoreByTheNextSessionEither) {
@@ -88,8 +88,8 @@ TEST_P(ServerCloseTest, NothingIsWrittenAnyMoreByTheNextSessionEither) {
     const auto fresh = openOther();
     other->Close();
     for (int i = 0; i < 2; ++i) {
-        EXPECT_EQ(errorOf([&] { edited->Update(); }).number(), kErrObjectClosed);
-        EXPECT_EQ(errorOf([&] { fresh->AddNew(); }).number(), kErrObjectClosed);
+        EXPECT_EQ(errorNumber([&] { edited->Update(); }), kErrObjectClosed);
+        EXPECT_EQ(errorNumber([&] { fresh->AddNew(); }), kErrObjectClosed);
         if (i == 0)
             other->Open();
     }
@@ -114,7 +114,7 @@ TEST_P(MariaDbCloseTest, AProceduresResultsThatWereToComeDoNot) {
     EXPECT_EQ(living({number}), 1);
     other->Close();
     EXPECT_EQ(left({number}), 0);
-    EXPECT_EQ(errorOf([&] { first->NextRecordset(); }).number(), kErrObjectClosed);
+    EXPECT_EQ(errorNumber([&] { first->NextRecordset(); }), kErrObjectClosed);
     EXPECT_EQ(first->Fields().Item(0).Value().toString(), number);
     // A run anew is not in the way of the results that the one before had left.
     const auto again = open("exec Two");

@@ -153,7 +153,7 @@ TEST_P(ServerEditTest, WhatCannotBeReadBackIsNotWritten) {
     rs->AddNew();
     rs->setCollect(u("A"), 2);
     rs->setCollect(u("V"), isPostgres() ? 0 : 2);
-    EXPECT_NE(errorOf([&] { rs->Update(); }).number(), 0);
+    EXPECT_NE(errorNumber([&] { rs->Update(); }), 0);
     rs->CancelUpdate();
     EXPECT_EQ(one("SELECT Count(*) FROM ZT_BACK").toInt(), 1);
 }
@@ -176,7 +176,7 @@ TEST_P(ServerEditTest, WhatFailsWritesNothing) {
     const auto rs = open("SELECT * FROM ZT_FAIL", adLockOptimistic);
     rs->AddNew();
     rs->setCollect(u("A"), 1);
-    EXPECT_EQ(errorOf([&] { rs->Update(); }).number(), kErrDatabase) << "the key is there already";
+    EXPECT_EQ(errorNumber([&] { rs->Update(); }), kErrDatabase) << "the key is there already";
     rs->CancelUpdate();
     EXPECT_EQ(one("SELECT Count(*) FROM ZT_FAIL").toInt(), 1);
 }
@@ -189,14 +189,14 @@ TEST_P(ServerEditTest, ATransactionIsKeptOrUndoneAsAWhole) {
     rs->AddNew();
     rs->setCollect(u("A"), 2);
     rs->Update();
-    EXPECT_EQ(errorOf([&] { cn->BeginTrans(); }).number(), kErrDatabase);
+    EXPECT_EQ(errorNumber([&] { cn->BeginTrans(); }), kErrDatabase);
     cn->RollbackTrans();
     EXPECT_EQ(one("SELECT Count(*) FROM ZT_TRANS").toInt(), 0);
     cn->BeginTrans();
     run("INSERT INTO ZT_TRANS VALUES (3)");
     cn->CommitTrans();
     EXPECT_EQ(one("SELECT A FROM ZT_TRANS").toInt(), 3);
-    EXPECT_EQ(errorOf([&] { cn->CommitTrans(); }).number(), kErrDatabase);
+    EXPECT_EQ(errorNumber([&] { cn->CommitTrans(); }), kErrDatabase);
 }
 
 // The comparison's means may be made for the session, inside a transaction or before it.
@@ -236,7 +236,7 @@ TEST_P(ServerEditTest, AConnectionForReadingRunsNoProcedureThatWrites) {
     const auto reader = std::make_shared<Connection>();
     reader->setMode(adModeRead);
     reader->Open(connectionString());
-    EXPECT_EQ(errorOf([&] { reader->Execute(u("exec Writes")); }).number(), kErrDatabase);
+    EXPECT_EQ(errorNumber([&] { reader->Execute(u("exec Writes")); }), kErrDatabase);
     EXPECT_EQ(one("SELECT Count(*) FROM ZT_READ").toInt(), 0);
     EXPECT_EQ(reader->Execute(u("SELECT 'Α' AS A WHERE 'Α' = 'α'"))->RecordCount(), 1);
 }
@@ -247,8 +247,8 @@ TEST_P(ServerEditTest, AConnectionForReadingWritesTemplatesAndSettingsOnly) {
     const auto reader = std::make_shared<Connection>();
     reader->setMode(adModeRead);
     reader->Open(connectionString());
-    EXPECT_EQ(errorOf([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }).number(), kErrDatabase);
-    EXPECT_EQ(errorOf([&] { reader->Execute(u("DROP TABLE ZT_READ")); }).number(), kErrDatabase);
+    EXPECT_EQ(errorNumber([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }), kErrDatabase);
+    EXPECT_EQ(errorNumber([&] { reader->Execute(u("DROP TABLE ZT_READ")); }), kErrDatabase);
     reader->Execute(u("DELETE FROM frms2"));
     const auto rs = std::make_shared<Recordset>();
     rs->Open(u("select * from frms2 where lstCode = 'x'"), reader, adOpenDynamic, adLockOptimistic);
@@ -259,7 +259,7 @@ TEST_P(ServerEditTest, AConnectionForReadingWritesTemplatesAndSettingsOnly) {
     other->Open(u("select * from ZT_READ"), reader, adOpenDynamic, adLockOptimistic);
     other->AddNew();
     other->setCollect(u("A"), 1);
-    EXPECT_EQ(errorOf([&] { other->Update(); }).number(), kErrDatabase);
+    EXPECT_EQ(errorNumber([&] { other->Update(); }), kErrDatabase);
     EXPECT_EQ(one("SELECT Count(*) FROM frms2").toInt(), 1);
     EXPECT_EQ(one("SELECT Count(*) FROM ZT_READ").toInt(), 0);
 }

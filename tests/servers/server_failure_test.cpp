@@ -47,7 +47,7 @@ TEST_P(ServerFailureTest, AWrongPasswordAndAServerThatIsDownAreTold) {
         << wrong.description().toStdString();
     QString down = connectionString();
     down.replace(QRegularExpression(u("Port=\\d+")), u("Port=9"));
-    EXPECT_EQ(errorOf([&] { other->Open(down); }).number(), kErrDatabase);
+    EXPECT_EQ(errorNumber([&] { other->Open(down); }), kErrDatabase);
     other->Open(connectionString());
     EXPECT_EQ(other->State(), adStateOpen);
 }
@@ -95,7 +95,7 @@ TEST_P(ServerFailureTest, AProgressCallbackCanEndAFetch) {
     EXPECT_EQ(open("SELECT * FROM ZT_PROGRESS")->RecordCount(), 50'000);
     EXPECT_GE(told, 40'000);
     cn->setFetchProgress([](std::int64_t) { throw Error(kErrInvalidCall, u("enough")); });
-    EXPECT_EQ(errorOf([&] { open("SELECT * FROM ZT_PROGRESS"); }).description(), u("enough"));
+    EXPECT_EQ(errorText([&] { open("SELECT * FROM ZT_PROGRESS"); }), u("enough"));
     cn->setFetchProgress({});
     EXPECT_EQ(one("SELECT Count(*) FROM ZT_PROGRESS").toInt(), 50'000);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ado/recordset.h"
-#include "base/error.h"
+#include "error_of.h"
 #include "print_qt.h"
 
 #include <gtest/gtest.h>
@@ -24,20 +24,10 @@ inline void PrintTo(const Server& server, std::ostream* out) {
     *out << server.name;
 }
 
-inline QString u(const char* utf8) {
-    return QString::fromUtf8(utf8);
-}
-
-/// The Error that a call throws; number 0 when it throws none.
-template <class F>
-Error errorOf(F&& call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error;
-    }
-    return Error(0, QString());
-}
+using test::errorNumber;
+using test::errorOf;
+using test::errorText;
+using test::u;
 
 /// A connection to a server; the tests make their own tables, and drop them first.
 class ServerTest : public testing::TestWithParam<Server> {

@@ -36,7 +36,7 @@ TEST_P(PostgresReadingTest, AUserWhoOnlyReadsComparesWithoutCase) {
     const auto reader = connect(";ConnSettings=SET default_transaction_read_only%3Don");
     EXPECT_EQ(reader->Execute(u("SELECT 1 AS A WHERE 'ωμέγα' = 'ΩΜΈΓΑ'"))->RecordCount(), 1);
     make("ZT_READ", "A INTEGER");
-    EXPECT_NE(errorOf([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }).number(), 0);
+    EXPECT_NE(errorNumber([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }), 0);
 }
 
 TEST_P(PostgresReadingTest, AUserWhoOnlyReadsComparesWithoutCaseInsideATransactionToo) {
@@ -47,7 +47,7 @@ TEST_P(PostgresReadingTest, AUserWhoOnlyReadsComparesWithoutCaseInsideATransacti
     make("ZT_READ", "A INTEGER");
     reader->BeginTrans();
     EXPECT_EQ(found(), 1);
-    EXPECT_NE(errorOf([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }).number(), 0);
+    EXPECT_NE(errorNumber([&] { reader->Execute(u("INSERT INTO ZT_READ VALUES (1)")); }), 0);
     reader->RollbackTrans();
     EXPECT_EQ(found(), 1);
 }
@@ -58,7 +58,7 @@ TEST_P(PostgresReadingTest, ATransactionOfTheHostsOwnWordsLeavesNoCollationBehin
     run("BEGIN");
     EXPECT_EQ(found(), 1);
     run("ROLLBACK");
-    EXPECT_NE(errorOf([&] { found(); }).number(), 0u);
+    EXPECT_NE(errorNumber([&] { found(); }), 0u);
     EXPECT_EQ(found(), 1);
 }
 
@@ -87,8 +87,8 @@ TEST_P(PostgresReadingTest, ACommitThatFailsLeavesAConnectionForReadingReading) 
     reader->BeginTrans();
     reader->Execute(u("INSERT INTO QRN_Main VALUES ('a')"));
     reader->Execute(u("INSERT INTO QRN_Main VALUES ('a')"));
-    EXPECT_NE(errorOf([&] { reader->CommitTrans(); }).number(), 0);
-    EXPECT_NE(errorOf([&] { reader->Execute(u("exec Writes")); }).number(), 0);
+    EXPECT_NE(errorNumber([&] { reader->CommitTrans(); }), 0);
+    EXPECT_NE(errorNumber([&] { reader->Execute(u("exec Writes")); }), 0);
     EXPECT_EQ(one("SELECT Count(*) FROM ZT_READ").toInt(), 0);
     EXPECT_EQ(one("SELECT Count(*) FROM QRN_Main").toInt(), 0);
     run("DROP TABLE QRN_Main");

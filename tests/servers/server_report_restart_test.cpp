@@ -35,7 +35,7 @@ protected:
     /// Opens the same connection again, once the server is back.
     void openAgain() {
         for (int i = 0; i < 300; ++i) {
-            if (errorOf([&] { cn->Open(); }).number() == 0)
+            if (errorNumber([&] { cn->Open(); }) == 0)
                 return;
             QThread::msleep(100);
         }

@@ -19,7 +19,7 @@ protected:
     /// Opens the same connection again, once the server is back.
     void openAgain() {
         for (int i = 0; i < 300; ++i) {
-            if (errorOf([&] { cn->Open(); }).number() == 0)
+            if (errorNumber([&] { cn->Open(); }) == 0)
                 return;
             QThread::msleep(100);
         }
@@ -56,7 +56,7 @@ TEST_P(ServerRestartTest, AServerThatDiesInAFetchLeavesAWholeResultOrAnError) {
     EXPECT_TRUE(killed);
     EXPECT_TRUE(error.number() == kErrDatabase || records == 60'000) << records;
     cn->setFetchProgress({});
-    EXPECT_EQ(errorOf([&] { open("SELECT 1"); }).number(), kErrDatabase);
+    EXPECT_EQ(errorNumber([&] { open("SELECT 1"); }), kErrDatabase);
     openAgain();
     EXPECT_EQ(one("SELECT Count(*) FROM ZT_FETCH").toInt(), 60'000);
 }
@@ -71,7 +71,7 @@ TEST_P(ServerRestartTest, AServerThatDiesWhileARecordIsWrittenKeepsNothingOfIt) 
     rs->setCollect(u("ZKP_"), QByteArray(100'000, 'x'));
     rs->Update();
     restart();
-    EXPECT_NE(errorOf([&] { cn->CommitTrans(); }).number(), 0u);
+    EXPECT_NE(errorNumber([&] { cn->CommitTrans(); }), 0u);
     openAgain();
     EXPECT_EQ(firstField(open("SELECT lstCode FROM ZT_SAVE")), QStringList({u("before")}));
     EXPECT_EQ(rs->Collect(u("lstCode")).toString(), u("new")) << "what was fetched stays readable";

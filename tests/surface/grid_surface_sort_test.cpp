@@ -1,6 +1,6 @@
 #include "surface/grid_surface.h"
 
-#include "error_number.h"
+#include "error_of.h"
 #include "surface/sample_column.h"
 
 #include <gtest/gtest.h>

@@ -29,7 +29,7 @@ protected:
         control.setKeyName(u"new"_s);
         control.setFilter(QString(20'000, u'x')); // more than a page
         disk.failAt(atWrite, failure);
-        return errorNumberOf([&] { control.SaveTemplate({}, name); }) != 0;
+        return errorNumber([&] { control.SaveTemplate({}, name); }) != 0;
     }
 
     /// What a fresh start of the system finds under the name.

@@ -17,7 +17,7 @@ protected:
         return readTemplateFile(dir.path(), u"A.Zkp"_s).value_or("NONE");
     }
     std::uint32_t failure(const QByteArray& bytes) {
-        return errorNumberOf([&] { read(bytes); });
+        return errorNumber([&] { read(bytes); });
     }
 };
 
@@ -68,7 +68,7 @@ TEST_F(TemplateFileTest, AFileThatVanishedAfterTheListingIsAnError) {
     const QStringList names = templateFileNames(dir.path());
     ASSERT_EQ(names, QStringList{u"A.Zkp"_s});
     QFile::remove(dir.filePath(names[0]));
-    EXPECT_EQ(errorNumberOf([&] { readTemplateFile(dir.path(), names[0]); }), kErrFileNotFound);
+    EXPECT_EQ(errorNumber([&] { readTemplateFile(dir.path(), names[0]); }), kErrFileNotFound);
 }
 
 TEST_F(TemplateFileTest, ListsFilesOfItsExtensionInWhateverCase) {
@@ -109,12 +109,12 @@ TEST_F(TemplateFileTest, RetiringPutsOldBeforeTheName) {
 TEST_F(TemplateFileTest, RetiringNeverReplacesAnOlderFile) {
     writeFile(dir.filePath(u"A.Zkp"_s), "new");
     writeFile(dir.filePath(u"OLD_A.Zkp"_s), "old");
-    EXPECT_EQ(errorNumberOf([&] { retireTemplateFile(dir.path(), u"A.Zkp"_s); }), kErrFileExists);
+    EXPECT_EQ(errorNumber([&] { retireTemplateFile(dir.path(), u"A.Zkp"_s); }), kErrFileExists);
     QFile old(dir.filePath(u"OLD_A.Zkp"_s));
     ASSERT_TRUE(old.open(QIODevice::ReadOnly));
     EXPECT_EQ(old.readAll(), "old");
 }
 
 TEST_F(TemplateFileTest, RetiringAFileThatIsGoneIsAnError) {
-    EXPECT_EQ(errorNumberOf([&] { retireTemplateFile(dir.path(), u"A.Zkp"_s); }), kErrFileAccess);
+    EXPECT_EQ(errorNumber([&] { retireTemplateFile(dir.path(), u"A.Zkp"_s); }), kErrFileAccess);
 }

@@ -15,7 +15,7 @@ TemplatePlace frms2(const QString& name) {
 }
 
 std::uint32_t failure(TemplatePlace (*place)(const QString&), const QString& name) {
-    return errorNumberOf([&] { place(name); });
+    return errorNumber([&] { place(name); });
 }
 
 } // namespace
@@ -48,9 +48,9 @@ TEST(StrictInt16, TakesACleanNumberAndNothingElse) {
     EXPECT_EQ(strictInt16(u"2.5"), 2) << "half to even";
     EXPECT_EQ(strictInt16(u"32767.4"), 32767);
     for (const char16_t* text : {u"", u" ", u"7a", u"7 7", u"1,5", u"1e2", u"1.2.3", u"-", u".", u"7\t"})
-        EXPECT_EQ(errorNumberOf([&] { strictInt16(text); }), kErrTypeMismatch);
+        EXPECT_EQ(errorNumber([&] { strictInt16(text); }), kErrTypeMismatch);
     for (const char16_t* text : {u"32768", u"32767.5", u"-32769", u"99999999999999999999"})
-        EXPECT_EQ(errorNumberOf([&] { strictInt16(text); }), kErrOverflow);
+        EXPECT_EQ(errorNumber([&] { strictInt16(text); }), kErrOverflow);
 }
 
 TEST(PlaceToOpen, NumbersFromTheFifthCharacterOnAreRowsOfFrms) {

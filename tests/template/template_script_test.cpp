@@ -58,11 +58,11 @@ TEST_F(TemplateScript, TemplatesAreSavedAndOpened) {
 }
 
 TEST_F(TemplateScript, FailuresHaveTheirNumbers) {
-    EXPECT_EQ(errorNumberOf(u"grid.SaveTemplate('', 'ABCD99')"_s), 3021);
-    EXPECT_EQ(errorNumberOf(u"grid.SaveTemplate('', 'ABCD7.Zkp')"_s), 13);
+    EXPECT_EQ(errorNumber(u"grid.SaveTemplate('', 'ABCD99')"_s), 3021);
+    EXPECT_EQ(errorNumber(u"grid.SaveTemplate('', 'ABCD7.Zkp')"_s), 13);
     EXPECT_TRUE(errorOf(u"grid.opentemplate(cn, '', \"it's\")"_s).startsWith(u"2147749396 "_s))
         << "0x80040E14";
-    EXPECT_EQ(errorNumberOf(u"grid.UserControl_ReadProperties('text')"_s), 13);
+    EXPECT_EQ(errorNumber(u"grid.UserControl_ReadProperties('text')"_s), 13);
     EXPECT_EQ(linesOf(u"grid.opentemplate(cn, 'C:\\\\Forms', 'ABCD7'); print(host.messages[0].text);"_s),
               QStringList{u" To αρχείο <<<C:\\Forms\\ABCD7>>> Δεν υπάρχει"_s});
 }
