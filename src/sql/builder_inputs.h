@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/error_in_flight.h"
 #include "core/column_list.h"
 #include "core/events.h"
 #include "core/group_factors.h"
@@ -9,6 +10,7 @@
 #include "core/state/identity_state.h"
 #include "core/state/master_table_state.h"
 #include "core/state/sorting_state.h"
+#include "host/message_boxes.h"
 #include "sql/typed_filter.h"
 #include "surface/grid_surface.h"
 
@@ -19,7 +21,8 @@ class BuilderInputs {
 public:
     BuilderInputs(DataSettings& data, const RecordSource& source, const MasterTableState& master,
                   const IdentityState& identity, const SortingState& sorting, GroupFactorFlags& flags,
-                  const ColumnList& columns, const GridSurface& surface, Events& events, LoadNotes& notes)
+                  const ColumnList& columns, const GridSurface& surface, Events& events, LoadNotes& notes,
+                  MessageBoxes& boxes)
         : data(data)
         , source(source.state())
         , master(master)
@@ -32,7 +35,8 @@ public:
         , source_(source)
         , flags_(flags)
         , surface_(surface)
-        , events_(events) {}
+        , events_(events)
+        , boxes_(boxes) {}
 
     const DataSettings& data;
     const SourceState& source;
@@ -41,7 +45,6 @@ public:
     const GroupingState& grouping;
     const SortingState& sorting;
     const ColumnList& columns;
-    /// Takes what fails here behind a box.
     LoadNotes& notes;
 
     /// The grid's column count.
@@ -56,6 +59,13 @@ public:
         return std::min<int>(grouping.GroupFactorCount, static_cast<int>(grouping.GroupFactors.size()));
     }
     const QString& factor(int i) const { return grouping.GroupFactors[i]; }
+
+    /// Within a catch: a step of a statement has failed. A box shows the sentence, and whoever asked for the
+    /// statement goes on with what there is.
+    void tellFailure(const QString& sentence) {
+        notes.failed(errorInFlight());
+        boxes_.msgBox(sentence, kMsgBoxCritical);
+    }
 
     void setFilter(const QString& text) {
         if (isFilterTyped())
@@ -96,6 +106,7 @@ private:
     const GridSurface& surface_;
     TypedFilter typed_;
     Events& events_;
+    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

@@ -1,6 +1,5 @@
 #include "sql/field_expressions.h"
 
-#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts/statements.h"
 #include "sql/statement_text.h"
@@ -34,8 +33,7 @@ QString FieldExpressions::makefldSql(const QString& FieldName, QString& Tables, 
             item += QStringLiteral(" AS [") + upper(FieldName) + u']';
         addTable(read(row, u"SourceTableName"), Tables);
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::fieldItemFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::fieldItemFailed());
     }
     return item;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/message_boxes.h"
 #include "sql/builder_inputs.h"
 
 #include <memory>
@@ -11,9 +10,8 @@ namespace zkp {
 /// Turns one dictionary key into a select item.
 class FieldExpressions {
 public:
-    FieldExpressions(BuilderInputs& inputs, MessageBoxes& boxes)
-        : inputs_(inputs)
-        , boxes_(boxes) {}
+    explicit FieldExpressions(BuilderInputs& inputs)
+        : inputs_(inputs) {}
 
     /// The item of a key, with " AS [KEY]" when an alias is wanted; `Tables` gains the field's table.
     /// Empty for an unknown key (or with no dictionary); one blank when the source's columns can't be
@@ -29,7 +27,6 @@ private:
     static void addTable(const QVariant& table, QString& Tables);
 
     BuilderInputs& inputs_;
-    MessageBoxes& boxes_;
 
     struct Source {
         std::weak_ptr<ado::Connection> connection;

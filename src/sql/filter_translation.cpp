@@ -1,7 +1,6 @@
 #include "sql/filter_translation.h"
 
 #include "base/error.h"
-#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts/statements.h"
 #include "sql/filter_keys.h"
@@ -62,8 +61,7 @@ void FilterTranslation::TranslateFilter(QString& Tables) {
             throw Error(kErrInvalidCall, text.refusal());
         inputs_.setFilter(text.whole());
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::filterFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::filterFailed());
         if (isTyped)
             inputs_.setFilter(kNothing);
     }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/message_boxes.h"
 #include "sql/builder_inputs.h"
 
 namespace zkp {
@@ -9,9 +8,8 @@ namespace zkp {
 /// each dictionary row; what they don't match passes unchanged.
 class FilterTranslation {
 public:
-    FilterTranslation(BuilderInputs& inputs, MessageBoxes& boxes)
-        : inputs_(inputs)
-        , boxes_(boxes) {}
+    explicit FilterTranslation(BuilderInputs& inputs)
+        : inputs_(inputs) {}
 
     /// Overwrites `Filter`; `Tables` gains the tables that the filter needs. On a failure a box shows
     /// and `Filter` stays.
@@ -26,7 +24,6 @@ private:
     void translate(Text& text, QString& Tables);
 
     BuilderInputs& inputs_;
-    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

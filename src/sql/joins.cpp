@@ -1,6 +1,5 @@
 #include "sql/joins.h"
 
-#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts/statements.h"
 #include "sql/statement_text.h"
@@ -25,8 +24,7 @@ QString Joins::MakeFromAndJoins(QString& Tables) {
             from = left + QStringLiteral(" LEFT JOIN [") + table + QStringLiteral("] ON ") + condition;
         }
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::fromFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::fromFailed());
     }
     return from;
 }
@@ -45,8 +43,7 @@ QString Joins::FindJoinON(const QString& Table) {
         return u'[' + nameKey(inputs_.master.MasterTable) + QStringLiteral("].[") + masterKey +
                QStringLiteral("] = [") + nameKey(Table) + QStringLiteral("].[") + foreignKey + u']';
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::joinFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::joinFailed());
         return {};
     }
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/message_boxes.h"
 #include "sql/builder_inputs.h"
 
 namespace zkp {
@@ -8,9 +7,8 @@ namespace zkp {
 /// The FROM clause: left joins from the master table to every table that fields and filter touch.
 class Joins {
 public:
-    Joins(BuilderInputs& inputs, MessageBoxes& boxes)
-        : inputs_(inputs)
-        , boxes_(boxes) {}
+    explicit Joins(BuilderInputs& inputs)
+        : inputs_(inputs) {}
 
     /// The text behind " FROM " for a list of tables (", NAME , NAME "); `Tables` gains `FilterTables`.
     /// Each table but the master is joined, one that is listed twice twice. A failure shows a box.
@@ -21,7 +19,6 @@ public:
 
 private:
     BuilderInputs& inputs_;
-    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

@@ -1,6 +1,5 @@
 #include "sql/master_table.h"
 
-#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts/statements.h"
 #include "sql/statement_text.h"
@@ -24,8 +23,7 @@ void MasterTableLookup::FindMaster() {
         master_.RKeyname = textOrEmpty(row.Fields().Item(u"RKeyname").Value());
         master_.MasterFilter = textOrEmpty(row.Fields().Item(u"MasterFilter").Value());
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::masterTableFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::masterTableFailed());
     }
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/message_boxes.h"
 #include "sql/builder_inputs.h"
 
 namespace zkp {
@@ -8,10 +7,9 @@ namespace zkp {
 /// The report's master table, its key and its standing condition, as table `Reports` has them.
 class MasterTableLookup {
 public:
-    MasterTableLookup(BuilderInputs& inputs, MasterTableState& master, MessageBoxes& boxes)
+    MasterTableLookup(BuilderInputs& inputs, MasterTableState& master)
         : inputs_(inputs)
-        , master_(master)
-        , boxes_(boxes) {}
+        , master_(master) {}
 
     /// Sets `MasterTable`, `RKeyname` and `MasterFilter`. A source without a row there has no master
     /// table and no key; `MasterFilter` then stays as it was, as wanted. A failure shows a box.
@@ -20,7 +18,6 @@ public:
 private:
     BuilderInputs& inputs_;
     MasterTableState& master_;
-    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

@@ -1,6 +1,5 @@
 #include "sql/normal_statement.h"
 
-#include "base/error_in_flight.h"
 #include "base/number.h"
 #include "base/text.h"
 #include "base/texts/statements.h"
@@ -36,8 +35,7 @@ QString NormalStatement::NormalSQL() {
         if (!isBlank(order))
             statement += QStringLiteral(" order by ") + order;
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::normalFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::normalFailed());
     }
     return statement;
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/message_boxes.h"
 #include "sql/hierarchy.h"
 
 namespace zkp {
@@ -8,10 +7,9 @@ namespace zkp {
 /// The detail statement over the source's own column names: no dictionary, no joins, no translation.
 class NormalStatement {
 public:
-    NormalStatement(BuilderInputs& inputs, Hierarchy& hierarchy, MessageBoxes& boxes)
+    NormalStatement(BuilderInputs& inputs, Hierarchy& hierarchy)
         : inputs_(inputs)
-        , hierarchy_(hierarchy)
-        , boxes_(boxes) {}
+        , hierarchy_(hierarchy) {}
 
     /// A blank `Filter` becomes " true ". A failure shows a box and gives what was built.
     QString NormalSQL();
@@ -23,7 +21,6 @@ private:
 
     BuilderInputs& inputs_;
     Hierarchy& hierarchy_;
-    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

@@ -1,6 +1,5 @@
 #include "sql/percentage_statement.h"
 
-#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts/statements.h"
 #include "sql/statement_text.h"
@@ -11,8 +10,7 @@ QString PercentageStatement::RunTimePosSql() {
     try {
         return build();
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::percentagesFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::percentagesFailed());
         return {};
     }
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/message_boxes.h"
 #include "sql/field_expressions.h"
 #include "sql/hierarchy.h"
 #include "sql/joins.h"
@@ -13,13 +12,12 @@ namespace zkp {
 class PercentageStatement {
 public:
     PercentageStatement(BuilderInputs& inputs, MasterTableLookup& master, FieldExpressions& fields,
-                        Joins& joins, Hierarchy& hierarchy, MessageBoxes& boxes)
+                        Joins& joins, Hierarchy& hierarchy)
         : inputs_(inputs)
         , master_(master)
         , fields_(fields)
         , joins_(joins)
-        , hierarchy_(hierarchy)
-        , boxes_(boxes) {}
+        , hierarchy_(hierarchy) {}
 
     /// Empty when `Groupby` is blank. A failure shows a box and gives what was built.
     QString RunTimePosSql();
@@ -33,7 +31,6 @@ private:
     FieldExpressions& fields_;
     Joins& joins_;
     Hierarchy& hierarchy_;
-    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

@@ -1,6 +1,5 @@
 #include "sql/run_time_statement.h"
 
-#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts/statements.h"
 #include "sql/statement_text.h"
@@ -25,8 +24,7 @@ QString RunTimeStatement::RunTimeSQL() {
         if (!isBlank(order))
             statement += QStringLiteral(" Order By ") + order;
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::runTimeFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::runTimeFailed());
     }
     inputs_.keepStatement(statement);
     return statement;
@@ -41,8 +39,7 @@ QString RunTimeStatement::RunTimeSQLCounter() {
         return QStringLiteral("SELECT Count(*) As Cnt FROM ") + from + QStringLiteral(" Where ") +
                inputs_.data.Filter;
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::counterFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::counterFailed());
         return {};
     }
 }

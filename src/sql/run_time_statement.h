@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/message_boxes.h"
 #include "sql/field_expressions.h"
 #include "sql/filter_translation.h"
 #include "sql/hierarchy.h"
@@ -13,13 +12,12 @@ namespace zkp {
 class RunTimeStatement {
 public:
     RunTimeStatement(BuilderInputs& inputs, FieldExpressions& fields, Joins& joins,
-                     FilterTranslation& translation, Hierarchy& hierarchy, MessageBoxes& boxes)
+                     FilterTranslation& translation, Hierarchy& hierarchy)
         : inputs_(inputs)
         , fields_(fields)
         , joins_(joins)
         , translation_(translation)
-        , hierarchy_(hierarchy)
-        , boxes_(boxes) {}
+        , hierarchy_(hierarchy) {}
 
     /// Also kept in `SQLRun`. A failure shows a box and gives what was built, usually nothing.
     QString RunTimeSQL();
@@ -37,7 +35,6 @@ private:
     Joins& joins_;
     FilterTranslation& translation_;
     Hierarchy& hierarchy_;
-    MessageBoxes& boxes_;
 };
 
 } // namespace zkp

@@ -28,18 +28,18 @@ struct StatementParts {
         : dictionary(from.data, from.source.state(), from.identity)
         , settings(from.source.state().Cn)
         , inputs(from.data, from.source, from.master, from.identity, from.sorting, from.flags, from.columns,
-                 from.surface, from.events, from.notes)
+                 from.surface, from.events, from.notes, from.boxes)
         , hierarchy(inputs, from.identity)
-        , fields(inputs, from.boxes)
-        , masterTable(inputs, from.master, from.boxes)
-        , joins(inputs, from.boxes)
-        , translation(inputs, from.boxes)
+        , fields(inputs)
+        , masterTable(inputs, from.master)
+        , joins(inputs)
+        , translation(inputs)
         , userFilter(inputs)
-        , runTime(inputs, fields, joins, translation, hierarchy, from.boxes)
-        , normal(inputs, hierarchy, from.boxes)
+        , runTime(inputs, fields, joins, translation, hierarchy)
+        , normal(inputs, hierarchy)
         , grouped(inputs, dictionary, hierarchy)
-        , statistics(inputs, dictionary, fields, joins, translation, hierarchy, from.boxes)
-        , percentageStatement(inputs, masterTable, fields, joins, hierarchy, from.boxes)
+        , statistics(inputs, dictionary, fields, joins, translation, hierarchy)
+        , percentageStatement(inputs, masterTable, fields, joins, hierarchy)
         , dispatch(inputs, from.source, from.groups, settings, normal, runTime, grouped, statistics) {}
 
     Dictionary dictionary;

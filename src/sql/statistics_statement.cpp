@@ -1,6 +1,5 @@
 #include "sql/statistics_statement.h"
 
-#include "base/error_in_flight.h"
 #include "base/text.h"
 #include "base/texts/statements.h"
 #include "sql/grouped_statement.h"
@@ -50,8 +49,7 @@ QString StatisticsStatement::RunTimeStatsSQL() {
             return {}; // `SQLRun` keeps the statement before
         statement = build(tables);
     } catch (const std::exception&) {
-        inputs_.notes.failed(errorInFlight());
-        boxes_.msgBox(texts::statisticsFailed(), kMsgBoxCritical);
+        inputs_.tellFailure(texts::statisticsFailed());
     }
     inputs_.keepStatement(statement);
     return statement;

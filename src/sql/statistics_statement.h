@@ -1,6 +1,5 @@
 #pragma once
 
-#include "host/message_boxes.h"
 #include "sql/dictionary.h"
 #include "sql/field_expressions.h"
 #include "sql/filter_translation.h"
@@ -14,14 +13,13 @@ namespace zkp {
 class StatisticsStatement {
 public:
     StatisticsStatement(BuilderInputs& inputs, Dictionary& dictionary, FieldExpressions& fields, Joins& joins,
-                        FilterTranslation& translation, Hierarchy& hierarchy, MessageBoxes& boxes)
+                        FilterTranslation& translation, Hierarchy& hierarchy)
         : inputs_(inputs)
         , dictionary_(dictionary)
         , fields_(fields)
         , joins_(joins)
         , translation_(translation)
-        , hierarchy_(hierarchy)
-        , boxes_(boxes) {}
+        , hierarchy_(hierarchy) {}
 
     /// Overwrites `Filter`, `Groupby` (physical from here on), `OrderBy` and `SQLRun`. Without group
     /// factors only `Filter`, and there is no statement. A failure shows a box and gives what was
@@ -41,7 +39,6 @@ private:
     Joins& joins_;
     FilterTranslation& translation_;
     Hierarchy& hierarchy_;
-    MessageBoxes& boxes_;
 };
 
 } // namespace zkp
