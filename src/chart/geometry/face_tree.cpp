@@ -1,7 +1,6 @@
 #include "chart/geometry/face_tree.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <utility>
 

@@ -3,7 +3,6 @@
 #include "chart/geometry/face_tree.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdint>
 #include <cstdlib>
 #include <limits>

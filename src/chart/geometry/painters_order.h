@@ -17,7 +17,7 @@ struct PaintedFace {
 /// front of it. Faces that look away are left out. Solids that a plane parts (across an axis, or one of
 /// `partings`) stay whole; only where none does are faces cut.
 ///
-/// Cost: n log n for n solids that planes part; faces that must be cut cost more.
+/// Cost: n log² n for n solids that even gaps part; faces that must be cut cost more.
 std::vector<PaintedFace> paintersOrder(std::vector<Solid> solids, const Projection& projection,
                                        std::span<const Plane> partings = {});
 
